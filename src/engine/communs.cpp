@@ -1,0 +1,899 @@
+#include "engine/communs.h"
+
+#include "engine/specifiques.h"
+#include "platform/Boites.h"
+#include "platform/Ecran.h"
+#include "platform/Horloge.h"
+#include "results/Resultats.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Patience.h"
+#include "services/Pompe.h"
+#include "services/Sons.h"
+#include "screen/Parametrage.h"
+#include "services/TableChaines.h"
+
+#include <QFile>
+#include <cmath>
+#include <cstring>
+
+TCanton Cantons[NombrePlaces + 1];
+
+i16 Etape = 0;
+i16 Niveau = 0;
+i16 ModeApprentissage = False;
+i16 ScoreGelé = False;
+i16 OrdreEtapes[5] = {0, 1, 2, 3, 4};
+i16 NombreCantons = 0;
+i16 RestantsEtape = 0;
+i16 CantonRecherché = 0;
+i16 ErreursQuestion = 0;
+i16 AssistanceUtilisée = False;
+i32 Score = 0;
+QString NomJoueur;
+i32 HeureDépart = 0;
+i32 DuréePartie = 0;
+i16 PartieVierge = True;
+i16 PartieEnregistrée = False;
+i16 ConseilFicheDonné = False;
+i16 ModeRévision = False;
+i16 CantonFiche = 0;
+i16 HauteurVignette = 188;
+i16 LargeurVignette = 200;
+i16 ScoresFinPartie = False;
+QString FinDeLigne = QStringLiteral("\r\n");
+
+TPointSegment PointsSegments[NombreCartes][MaxSegments];
+i16 DébutsLignes[NombreCartes][MaxLignes];
+QString CheminFichierZones;
+
+i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};
+i32 PointsParCanton = 0;
+
+namespace {
+
+// Values assigned to a whole-number property round to the nearest, halves to even.
+int Arrondi(double v) { return static_cast<int>(std::lrint(v)); }
+
+bool EtapeDeJeu() { return Etape >= 1 && Etape <= 4; }
+
+} // namespace
+
+// ---------------------------------------------------------------- the places
+
+QString LitChamp(const QString &Texte, i16 Rang)
+{
+    qsizetype pos = 0; // positions count from 1; 0 means none
+    qsizetype début = 1;
+    i16 n = 1;
+    while (n <= Rang) {
+        début = pos + 1;
+        const qsizetype trouvé = Texte.indexOf(QLatin1Char('#'), début - 1);
+        pos = trouvé < 0 ? 0 : trouvé + 1;
+        if (pos == 0)
+            break;
+        n = n + 1;
+    }
+    if (pos != 0)
+        return Texte.mid(début - 1, pos - début);
+    if (n == Rang)
+        return Texte.mid(début - 1);
+    return QString();
+}
+
+i32 ValeurEnTête(const QString &champ)
+{
+    qint64 v = 0;
+    for (QChar c : champ) {
+        if (!c.isDigit() || c.unicode() > '9')
+            break;
+        v = v * 10 + (c.unicode() - '0');
+        if (v > 2147483647)
+            return 2147483647;
+    }
+    return static_cast<i32>(v);
+}
+
+void ChargeCantons()
+{
+    const int décalage = 200 * (Langue - 1);
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        TCanton &c = Cantons[i];
+        const QString ville = ChaîneTable(4000 + i);
+        c.ChefLieu = LitChamp(ChaîneTable(4000 + décalage + i), 1);
+        c.VilleGauche = static_cast<i16>(ValeurEnTête(LitChamp(ville, 2)));
+        c.VilleHaut = static_cast<i16>(ValeurEnTête(LitChamp(ville, 3)));
+        const QString canton = ChaîneTable(2000 + i);
+        c.Nom = LitChamp(ChaîneTable(2000 + décalage + i), 1);
+        c.Région = static_cast<u8>(ValeurEnTête(LitChamp(canton, 2)));
+        c.PaysGauche = static_cast<i16>(ValeurEnTête(LitChamp(canton, 3)));
+        c.PaysHaut = static_cast<i16>(ValeurEnTête(LitChamp(canton, 4)));
+    }
+    ChargePlaques();
+}
+
+// ---------------------------------------------------------------- the raster
+
+bool ChargeCarteZones()
+{
+    CheminFichierZones = ComposeChemin(RépertoireApplication, QStringLiteral("KELMOR.pts"));
+    if (!QFile::exists(CheminFichierZones)) {
+        Boîte(Messages[132], StyleInformation, Messages[46]);
+        return false;
+    }
+    auto refuse = [] {
+        Boîte(Messages[27], StyleCritique, CheminFichierZones);
+        return false;
+    };
+
+    QFile fichier(CheminFichierZones);
+    // Any valid file fits in a header, the row marks and the runs of the tables.
+    constexpr qint64 TailleMax = 4LL * (1 + MaxLignes + MaxSegments);
+    if (!fichier.open(QIODevice::ReadOnly) || fichier.size() > TailleMax || fichier.size() % 4 != 0)
+        return refuse();
+    const QByteArray octets = fichier.readAll();
+    fichier.close();
+    if (octets.size() != fichier.size())
+        return refuse();
+
+    // Filled aside, so that a refused file leaves the tables as they were.
+    static TPointSegment segments[NombreCartes][MaxSegments];
+    static i16 débuts[NombreCartes][MaxLignes];
+    std::memset(segments, 0, sizeof segments);
+    std::memset(débuts, 0, sizeof débuts);
+
+    int carte = -1; // none yet
+    int ligne = -1;
+    int compte = 0;
+    const auto *p = reinterpret_cast<const unsigned char *>(octets.constData());
+    const qsizetype nombre = octets.size() / 4;
+    for (qsizetype n = 0; n < nombre; ++n, p += 4) {
+        TPointSegment r;
+        r.NuméroCarte = p[0];
+        r.X = static_cast<i16>(static_cast<std::uint16_t>(p[1] | (p[2] << 8)));
+        r.Zone = p[3];
+
+        if (r.NuméroCarte != carte && r.NuméroCarte != 255) {
+            if (r.NuméroCarte >= NombreCartes)
+                return refuse();
+            if (carte >= 0) {
+                ligne = ligne + 1;
+                if (ligne >= MaxLignes)
+                    return refuse();
+                débuts[carte][ligne] = static_cast<i16>(compte);
+            }
+            carte = r.NuméroCarte;
+            ligne = -1;
+            compte = 0;
+        }
+        if (n == 0) {
+            if (r.Zone != 4 || r.X != 0)
+                return refuse();
+        } else if (r.Zone == 0 && r.X == 0) {
+            ligne = ligne + 1;
+            if (ligne >= MaxLignes)
+                return refuse();
+            débuts[carte][ligne] = static_cast<i16>(compte);
+        } else {
+            if (compte >= MaxSegments)
+                return refuse();
+            segments[carte][compte] = r;
+            compte = compte + 1;
+        }
+    }
+    std::memcpy(PointsSegments, segments, sizeof segments);
+    std::memcpy(DébutsLignes, débuts, sizeof débuts);
+    return true;
+}
+
+i16 ZoneEn(int Région, int x, int y)
+{
+    if (Région < 0 || Région >= NombreCartes || y < 0 || y + 1 >= MaxLignes)
+        return 0;
+    const int premier = DébutsLignes[Région][y];
+    const int dernier = std::min<int>(DébutsLignes[Région][y + 1] - 1, MaxSegments - 1);
+    i16 c = 0;
+    for (int s = std::max(premier, 0); s <= dernier; ++s) {
+        const TPointSegment &r = PointsSegments[Région][s];
+        if (r.X >= x)
+            break;
+        c = r.Zone;
+    }
+    return c;
+}
+
+void CliqueCarte(int Région)
+{
+    if (Etape == 0)
+        return;
+    auto &E = Principal();
+    const QRect rectangle = RectangleEcranDe(E.Carte);
+    const QPoint curseur = PositionCurseur();
+    const int x = curseur.x() - rectangle.left() + E.BarreH->Value();
+    const int y = curseur.y() - rectangle.top() + E.BarreV->Value();
+    i16 c = ZoneEn(Région, x, y);
+    CorrectionZone(c);
+    // The level's filter: at Facile and Moyen a canton already found counts for nothing.
+    if (c != 0 && EtapeDeJeu() && c <= NombrePlaces) {
+        if ((Niveau == 1 && !ModeApprentissage) || Niveau == 2)
+            if (Cantons[c].Trouvé)
+                c = 0;
+    }
+    if (c != 0 && c <= NombrePlaces)
+        TraiteClic(c, static_cast<i16>(x), static_cast<i16>(y));
+}
+
+// ---------------------------------------------------------------- the turn cycle
+
+bool Main()
+{
+    HauteurFenêtre = 0;
+    LargeurFenêtre = 0;
+    FinDeLigne = QStringLiteral("\r\n");
+    RépertoireApplication = DossierProgramme();
+    LitParamètres();
+    SonActif = True;
+    if (!ChargeCarteZones())
+        return false;
+    AffichePatience();
+    PointeurEcran(PointeurSablier);
+    auto *forme = new EcranPrincipal();
+    Form_Load();
+    forme->show();
+    if (Langue != 1)
+        ChargeImagesPays();
+    PointeurEcran(PointeurNormal);
+    return true;
+}
+
+void LanceNouvellePartie()
+{
+    if (!ConfirmeArrêt())
+        return;
+    Principal().HelpContextID = 10;
+    MontreNouvellePartie();
+    DébutEtape();
+    for (int i = 1; i <= NombrePlaces; ++i)
+        for (int k = 0; k <= 4; ++k) {
+            Cantons[i].Pertes[k] = 0;
+            Cantons[i].Réussi[k] = False;
+        }
+    PartieVierge = True;
+    ModeRévision = False;
+    ConseilFicheDonné = False;
+    AjusteCarte();
+    if (Etape == 0) {
+        CacheZoneJeu();
+        CacheMarques();
+        return;
+    }
+    MontreCantons();
+    Score = 999999;
+    AffichePanneau();
+    AfficheScore();
+    AfficheRestants(RestantsEtape);
+    QuestionSuivante();
+}
+
+void DébutEtape()
+{
+    auto &E = Principal();
+    E.BarreH->setValue(0);
+    E.BarreV->setValue(0);
+    E.DrapeauPays[0]->hide();
+
+    RestantsEtape = 0;
+    NombreCantons = 0;
+
+    const int t = E.QueFaire->Top() + E.QueFaire->Height() + 5;
+    if ((Etape == 1 && Niveau != 2) || Etape == 2) {
+        E.ElémentRecherché->hide();
+        E.ImageRecherchée->hide();
+        E.TexteAChercher->show();
+        E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
+        E.TexteAChercher->setTop(t);
+        E.TexteAChercher->setTailleFonte(10);
+    } else if (Etape == 1 && Niveau == 2) {
+        E.ElémentRecherché->show();
+        E.ElémentRecherché->setLeft(E.QueFaire->Left());
+        E.ElémentRecherché->setTop(t);
+        E.ImageRecherchée->show();
+        E.TexteAChercher->show();
+        E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
+        E.TexteAChercher->setTop(E.ElémentRecherché->Top() + E.ElémentRecherché->Height() + 5);
+        E.TexteAChercher->setTailleFonte(10);
+    } else if (Etape == 3) {
+        E.ElémentRecherché->show();
+        E.ElémentRecherché->setLeft(E.QueFaire->Left());
+        E.ElémentRecherché->setTop(t);
+        E.ImageRecherchée->show();
+        E.ImageRecherchée->setPicture(E.drapeau[1]->Picture());
+        E.TexteAChercher->hide();
+    } else if (Etape == 5 || Etape == 6) {
+        E.ElémentRecherché->hide();
+        E.ImageRecherchée->hide();
+        E.TexteAChercher->hide();
+    }
+    DébutEtapeSpécifique();
+
+    AssistanceUtilisée = False;
+
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        TCanton &c = Cantons[i];
+        E.rond[i]->setToolTip(Etape == 7 ? c.ChefLieu : QString());
+        if (c.Inhibé) {
+            c.Trouvé = True;
+        } else {
+            c.Trouvé = False;
+            RestantsEtape = RestantsEtape + 1;
+            NombreCantons = NombreCantons + 1;
+        }
+        PlaceRond(static_cast<i16>(i));
+        const Image *région = E.ImageRégion[c.Région];
+        E.Pays[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
+        E.inv[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
+        if (Etape < 5)
+            c.Réussi[Etape] = False;
+    }
+
+    ErreursQuestion = 0;
+    PartieEnregistrée = False;
+    E.BoutonGruge->hide();
+    E.BoutonPasse->hide();
+    CantonRecherché = 0;
+    ScoresFinPartie = False;
+}
+
+void AffichePanneau()
+{
+    auto &E = Principal();
+    if (Etape == 5 || Etape == 6)
+        AfficheParamétrage();
+    else
+        CacheParamétrage();
+
+    auto boîtesDuCompte = [&E](bool visible) {
+        E.QueFaire->setVisible(visible);
+        E.BoîteRestants->setVisible(visible);
+        for (int i = 1; i <= 3; ++i)
+            E.Reste[i]->setVisible(visible);
+    };
+    auto boîtesDuScore = [&E](bool visible) {
+        E.BoîteScore->setVisible(visible);
+        for (int i = 0; i <= 6; ++i) {
+            E.Digit[i]->setVisible(visible);
+            if (visible)
+                E.Digit[i]->raise();
+        }
+    };
+    auto cadreQuestion = [&E](bool visible) {
+        E.ImageRecherchée->setVisible(visible);
+        E.ElémentRecherché->setVisible(visible);
+    };
+
+    if (Etape == 0) {
+        boîtesDuCompte(false);
+        boîtesDuScore(false);
+    } else if (Etape >= 5) {
+        boîtesDuCompte(false);
+        boîtesDuScore(false);
+        E.TexteAChercher->hide();
+        cadreQuestion(false);
+    } else if (Etape <= 3) {
+        boîtesDuCompte(true);
+        boîtesDuScore(!ModeApprentissage);
+        E.TexteAChercher->setVisible(Etape != 3);
+        cadreQuestion(Etape == 3 || (Etape == 1 && Niveau == 2));
+    }
+    ZoneQuestionSpécifique();
+}
+
+void QuestionSuivante()
+{
+    if (RestantsEtape < 1) {
+        QuestionSpécifique();
+        return;
+    }
+    const float tirage = Rnd();
+    int r = static_cast<int>(std::floor(static_cast<double>(RestantsEtape) * static_cast<double>(tirage) + 1.0));
+
+    auto rangParmiRestants = [](int rang) -> i16 {
+        int vus = 0;
+        for (int i = 1; i <= NombrePlaces; ++i)
+            if (!Cantons[i].Trouvé && ++vus == rang)
+                return static_cast<i16>(i);
+        return 0;
+    };
+
+    i16 c = rangParmiRestants(r);
+    // Never the same question twice in a row: take its neighbour in the list of those left.
+    if (c == CantonRecherché && RestantsEtape >= 2) {
+        r = r > 1 ? r - 1 : 2;
+        c = rangParmiRestants(r);
+    }
+    CantonRecherché = c;
+
+    auto &E = Principal();
+    auto remplitCadre = [&E](const Image *source) {
+        const int h = source->Height();
+        const int w = source->Width();
+        E.ImageRecherchée->setTop(Arrondi((HauteurVignette - h) / 2.0));
+        E.ImageRecherchée->setHeight(h);
+        E.ImageRecherchée->setLeft(Arrondi((LargeurVignette - w) / 2.0));
+        E.ImageRecherchée->setWidth(w);
+        E.ImageRecherchée->setPicture(source->Picture());
+    };
+    if (Etape == 1) {
+        E.TexteAChercher->setText(Cantons[c].Nom);
+        if (Niveau == 2 && c != 0) {
+            const Image *source = E.inv[c];
+            if ((source->Width() > LargeurVignette - 2 || source->Height() > HauteurVignette - 2) && E.miniature[c])
+                source = E.miniature[c];
+            remplitCadre(source);
+        }
+    } else if (Etape == 2) {
+        E.TexteAChercher->setText(Cantons[c].ChefLieu);
+    } else if (Etape == 3 && c != 0) {
+        remplitCadre(E.drapeau[c]);
+    }
+    QuestionSpécifique();
+}
+
+void FinEtape()
+{
+    int pos = 0;
+    for (int i = 1; i <= 4; ++i)
+        if (OrdreEtapes[i] == Etape) {
+            pos = i;
+            break;
+        }
+    const i16 suivante = (pos == 0 || pos == 4) ? i16(0) : OrdreEtapes[pos + 1];
+    const QString annonce = MessageTransition(Etape, suivante);
+
+    if (suivante != 0) {
+        JoueSon(SonEtape);
+        Boîte(annonce, StyleInformation, Messages[20]);
+        Etape = suivante;
+        DébutEtape();
+        MontreCantons();
+        AfficheScore();
+        AfficheRestants(RestantsEtape);
+        QuestionSuivante();
+        return;
+    }
+    Etape = 0;
+    EnregistreScore();
+    DébutEtape();
+    PartieVierge = True;
+    CacheMarques();
+    CacheZoneJeu();
+    PartieEnregistrée = True;
+}
+
+void MontreCantons()
+{
+    auto &E = Principal();
+    E.ImageRégion[0]->setEnabled(true);
+    PointeurEcran(PointeurSablier);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        MontreCanton(static_cast<i16>(i));
+    PointeurEcran(PointeurNormal);
+}
+
+void CacheMarques()
+{
+    auto &E = Principal();
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        E.inv[i]->hide();
+        E.Pays[i]->hide();
+        E.rond[i]->hide();
+    }
+}
+
+void CacheZoneJeu()
+{
+    auto &E = Principal();
+    E.QueFaire->hide();
+    E.BoîteScore->hide();
+    E.ElémentRecherché->hide();
+    E.ImageRecherchée->hide();
+    E.TexteAChercher->hide();
+    E.BoîteRestants->hide();
+    for (int i = 0; i <= 6; ++i)
+        E.Digit[i]->hide();
+    for (int i = 1; i <= 3; ++i)
+        E.Reste[i]->hide();
+    E.BoutonPasse->hide();
+    E.BoutonGruge->hide();
+}
+
+// ---------------------------------------------------------------- judging
+
+void rond_Click(i16 Index) { TraiteClic(Index, 0, 0); }
+
+void TraiteClic(i16 c, i16 x, i16 y)
+{
+    c = NuméroPlace(c);
+    if (c < 1 || c > NombrePlaces)
+        return;
+    if (EtapeDeJeu())
+        PartieVierge = False;
+    if (Etape == 5) {
+        Cantons[c].Trouvé = Booléen(!Cantons[c].Trouvé);
+        PlaceRond(c);
+        return;
+    }
+    if (Etape == 6)
+        return;
+    if (Etape == 7) {
+        JoueSon(SonInfo);
+        CantonFiche = c;
+        if (x == 0 && y == 0) {
+            const auto &E = Principal();
+            x = static_cast<i16>(Cantons[c].VilleGauche + E.RondVille->Width() / 2);
+            y = static_cast<i16>(Cantons[c].VilleHaut + E.RondVille->Height() / 2);
+        }
+        PlaceRond(c, true, x, y);
+        MontrePompe();
+        PlaceRond(c);
+        return;
+    }
+    CorrectionZone(c);
+    if (!Cantons[c].Trouvé) {
+        if (c == CantonRecherché)
+            BonneRéponse();
+        else
+            MauvaiseRéponse();
+        return;
+    }
+    // The canton is out of play in this step.
+    if (ModeApprentissage) {
+        JoueSon(SonInfo);
+        CantonFiche = c;
+        MontrePompe();
+        return;
+    }
+    if (Niveau != 3 && Niveau != 4)
+        return;
+    if (Cantons[c].Inhibé)
+        return;
+    MauvaiseRéponse();
+}
+
+void BonneRéponse()
+{
+    auto &E = Principal();
+    const i16 c = CantonRecherché;
+    if (Niveau == 1) {
+        E.BoutonPasse->hide();
+        if (!AssistanceUtilisée)
+            Cantons[c].Trouvé = True;
+    } else {
+        Cantons[c].Trouvé = True;
+    }
+    MontreCanton(c);
+    if (!AssistanceUtilisée) {
+        PlaceRond(c);
+        RestantsEtape = RestantsEtape - 1;
+        if (Etape >= 1 && Etape <= 4)
+            Cantons[c].Réussi[Etape] = True;
+        AfficheRestants(RestantsEtape);
+        if (RestantsEtape == 0) {
+            FinEtape();
+            return;
+        }
+        JoueSon(SonBravo);
+        if (RestantsEtape == NombreCantons - 1 && ModeApprentissage && !ConseilFicheDonné) {
+            Boîte(Messages[137], StyleInformation, Messages[17]);
+            ConseilFicheDonné = True;
+        }
+        QuestionSuivante();
+        ErreursQuestion = 0;
+        E.BoutonGruge->hide();
+        return;
+    }
+    // The answer was given away: the canton comes back later, and the question is paid in full.
+    AssistanceUtilisée = False;
+    PlaceRond(c);
+    if (SoldeQuestion() > 0) {
+        JoueSon(SonBravo);
+        QuestionSuivante();
+        ErreursQuestion = 0;
+        E.BoutonGruge->hide();
+    } else {
+        PartiePerdue();
+    }
+}
+
+void MauvaiseRéponse()
+{
+    auto &E = Principal();
+    Score = Pénalité(Score, ErreursQuestion);
+    if (Score <= 0) {
+        PartiePerdue();
+        return;
+    }
+    AfficheScore();
+    ErreursQuestion = ErreursQuestion + 1;
+    if (ErreursQuestion < 9) {
+        JoueSon(SonErreur);
+        if (ErreursQuestion == 1 && Niveau == 1 && !ModeApprentissage)
+            E.BoutonPasse->show();
+        if (ErreursQuestion == 3 && ModeApprentissage)
+            E.BoutonGruge->show();
+        return;
+    }
+    JoueSon(SonPerdu);
+    if (AssistanceUtilisée) {
+        Boîte(Messages[36], StyleExclamation, Messages[37]);
+        AssistanceUtilisée = False;
+        PlaceRond(CantonRecherché);
+    } else {
+        Boîte(Messages[38], StyleExclamation, Messages[37]);
+    }
+    ErreursQuestion = 0;
+    QuestionSuivante();
+    E.BoutonGruge->hide();
+    E.BoutonPasse->hide();
+}
+
+// ---------------------------------------------------------------- score and clock
+
+i32 Pénalité(i32 S, i16 k)
+{
+    const double p = std::pow(4.0, k);
+    const int étape = (Etape >= 0 && Etape <= 4) ? Etape : 0;
+    TCanton &c = Cantons[(CantonRecherché >= 0 && CantonRecherché <= NombrePlaces) ? CantonRecherché : 0];
+    c.Pertes[étape] = static_cast<i32>(std::lrint(c.Pertes[étape] + p));
+    c.Pertes[0] = static_cast<i32>(std::lrint(c.Pertes[0] + p));
+    if (ScoreGelé)
+        return S;
+    return static_cast<i32>(std::lrint(S - p));
+}
+
+i32 SoldeQuestion()
+{
+    if (ErreursQuestion != 0)
+        for (i16 k = ErreursQuestion; k <= 8; ++k)
+            Score = Pénalité(Score, k);
+    AfficheScore();
+    return Score;
+}
+
+void AfficheScore()
+{
+    auto &E = Principal();
+    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<qint64>(Score)) % 1000000, 6, 10, QLatin1Char('0'));
+    for (int i = 1; i <= 6; ++i)
+        E.Digit[i]->setText(chiffres.mid(6 - i, 1));
+    E.Digit[0]->setText(Score < 0 ? QStringLiteral("-") : QString());
+}
+
+void AfficheRestants(i16 n)
+{
+    auto &E = Principal();
+    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<int>(n)) % 1000, 3, 10, QLatin1Char('0'));
+    for (int i = 1; i <= 3; ++i)
+        E.Reste[i]->setText(chiffres.mid(3 - i, 1));
+}
+
+void ScoreAbandon()
+{
+    PoidsSpécifiques();
+    Score = -999999;
+    for (int i = 1; i <= 4; ++i) {
+        const i16 étape = OrdreEtapes[i];
+        if (étape == 0)
+            break;
+        if (étape == Etape) {
+            Score += (NombreCantons - RestantsEtape) * PoidsEtapes[Etape] * PointsParCanton;
+            break;
+        }
+        if (étape >= 1 && étape <= 4)
+            Score += PoidsEtapes[étape] * NombreCantons * PointsParCanton;
+    }
+}
+
+void PartiePerdue()
+{
+    ScoreAbandon();
+    AfficheScore();
+    JoueSon(SonPerdu);
+    Boîte(Messages[34], StyleCritique, Messages[35]);
+    Etape = 0;
+    EnregistreScore();
+    DébutEtape();
+    PartieVierge = True;
+    CacheMarques();
+    CacheZoneJeu();
+    PartieEnregistrée = True;
+}
+
+i32 SecondesDepuisMinuit() { return static_cast<i32>(std::lrint(Timer())); }
+
+i32 DuréeDepuis(i32 heureDépart)
+{
+    i32 d = SecondesDepuisMinuit() - heureDépart;
+    if (d < 0)
+        d += 86400;
+    return d;
+}
+
+// ---------------------------------------------------------------- help buttons
+
+void BoutonPasse_Click()
+{
+    for (i16 k = ErreursQuestion; k <= 8; ++k)
+        Score = Pénalité(Score, k);
+    if (Score <= 0) {
+        PartiePerdue();
+        return;
+    }
+    AfficheScore();
+    JoueSon(SonPerdu);
+    ErreursQuestion = 0;
+    QuestionSuivante();
+    Principal().BoutonPasse->hide();
+}
+
+void BoutonGruge_Click()
+{
+    AmèneEnVue(CantonRecherché);
+    AssistanceUtilisée = True;
+    PlaceRond(CantonRecherché);
+}
+
+void AmèneEnVue(i16 c)
+{
+    if (c < 1 || c > NombrePlaces)
+        return;
+    auto &E = Principal();
+    auto amène = [](BarreDéfilement *barre, double p, double h, auto H, auto M, auto T) {
+        if (p < -T())
+            barre->setValue(p < H() / 2.0 ? 0 : Arrondi(p - H() / 2.0));
+        if (p + h > H() - T())
+            barre->setValue((M() - p) - h < H() / 2.0 ? Arrondi(M() - H()) : Arrondi((p + h) - H() / 2.0));
+    };
+    if (E.BarreV->Visible())
+        amène(E.BarreV, Cantons[c].PaysHaut, E.Pays[c]->Height(),
+              [&] { return double(E.Carte->Height()); }, [&] { return double(E.ImageRégion[0]->Height()); },
+              [&] { return double(E.ImageRégion[0]->Top()); });
+    if (E.BarreH->Visible())
+        amène(E.BarreH, Cantons[c].PaysGauche, E.Pays[c]->Width(),
+              [&] { return double(E.Carte->Width()); }, [&] { return double(E.ImageRégion[0]->Width()); },
+              [&] { return double(E.ImageRégion[0]->Left()); });
+}
+
+// ---------------------------------------------------------------- markers
+
+// Which of a canton's pictures show in the steps after "Cantons"; the plate step follows the same rule.
+void MontreCantonEtapesSuivantes(i16 i)
+{
+    auto &E = Principal();
+    const bool S = Cantons[i].Trouvé || Cantons[i].Inhibé;
+    const bool I = Cantons[i].Inhibé;
+    switch (Niveau) {
+    case 1: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
+    case 2: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
+    case 3: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
+    case 4: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
+    default: break;
+    }
+}
+
+void MontreCanton(i16 i)
+{
+    auto &E = Principal();
+    const bool S = Cantons[i].Trouvé || Cantons[i].Inhibé;
+    const bool I = Cantons[i].Inhibé;
+    switch (Etape) {
+    case 0:
+        E.Pays[i]->hide();
+        E.inv[i]->hide();
+        E.rond[i]->hide();
+        break;
+    case 1:
+        switch (Niveau) {
+        case 1: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
+        case 2: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
+        case 3: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
+        case 4: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
+        default: break;
+        }
+        break;
+    case 2:
+    case 3:
+        MontreCantonEtapesSuivantes(i);
+        break;
+    case 5:
+    case 6:
+    case 7:
+        E.Pays[i]->show();
+        E.inv[i]->hide();
+        E.rond[i]->show();
+        break;
+    default:
+        break;
+    }
+    MontreCantonSpécifique(i);
+}
+
+namespace {
+void Centre(Image *r, const TCanton &c)
+{
+    auto &E = Principal();
+    const Image *région = E.ImageRégion[c.Région];
+    r->move(région->Left() + c.VilleGauche - (r->Width() - E.RondVille->Width()) / 2,
+            région->Top() + c.VilleHaut - (r->Height() - E.RondVille->Height()) / 2);
+}
+
+void Pose(Image *r, const Image *modèle, const TCanton &c)
+{
+    r->setPicture(modèle->Picture());
+    Centre(r, c);
+}
+} // namespace
+
+// The dot of one canton during a game; the plate step follows the same rule.
+void MarqueRondPartie(i16 i)
+{
+    auto &E = Principal();
+    Image *r = E.rond[i];
+    const TCanton &c = Cantons[i];
+    if (AssistanceUtilisée && i == CantonRecherché)
+        Pose(r, E.Rondnoir, c);
+    if (Niveau == 1) {
+        if (c.Trouvé)
+            Pose(r, E.RondPref, c);
+        r->setToolTip(c.Trouvé && ModeApprentissage ? c.ChefLieu : QString());
+    } else if (Niveau == 2) {
+        if (c.Trouvé)
+            Pose(r, E.RondPref, c);
+    }
+    if (c.Inhibé)
+        Pose(r, E.RondPref, c);
+}
+
+void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
+{
+    if (i < 1 || i > NombrePlaces)
+        return;
+    auto &E = Principal();
+    Image *r = E.rond[i];
+    const TCanton &c = Cantons[i];
+    const bool visible = r->Visible();
+    r->hide();
+    Pose(r, E.RondVille, c);
+    if (Etape >= 1 && Etape <= 3) {
+        MarqueRondPartie(i);
+    } else if (Etape == 5 || Etape == 6) {
+        Pose(r, c.Trouvé ? E.Rondrouge : E.Rondjaune, c);
+    } else if (Etape == 7 && Cible) {
+        r->setPicture(E.Rondcible->Picture());
+        r->move(x - E.Rondcible->Width() / 2 - 1 - E.BarreH->Value(),
+                y - E.Rondcible->Height() / 2 - 1 - E.BarreV->Value());
+    }
+    PlaceRondSpécifique(i);
+    r->setVisible(visible);
+}
+
+// ---------------------------------------------------------------- leaving a game
+
+bool ConfirmeArrêt()
+{
+    const bool enCours = !PartieVierge && !PartieEnregistrée && Etape != 6;
+    if (enCours && Boîte(Messages[32], StyleQuestion, Messages[33]) != RéponseOui)
+        return false;
+    if (enCours) {
+        ScoreAbandon();
+        if (Score != 0) {
+            AfficheScore();
+            EnregistreScore();
+        }
+    }
+    CacheMarques();
+    CacheZoneJeu();
+    return true;
+}

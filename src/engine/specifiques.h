@@ -1,0 +1,20 @@
+#pragma once
+// This game's own part: the size and filling of the canton table, and the
+// fourth step kind, the plate letters, which the common code doesn't know.
+#include "engine/communs.h"
+
+extern QString Plaques[NombrePlaces + 1]; // 1..26
+
+void ChargePlaques();
+void InitialisationSpécifique();
+void CorrectionZone(i16 &c);
+i16 NuméroPlace(i16 c);
+void DébutEtapeSpécifique();
+void QuestionSpécifique();
+void ZoneQuestionSpécifique();
+void PlaceTexteSpécifique();
+void PlaceRondSpécifique(i16 i);
+void MontreCantonSpécifique(i16 i);
+QString MessageTransition(i16 étape, i16 suivante);
+void PoidsSpécifiques();
+void LibelléSpécifique();

@@ -1,0 +1,16 @@
+// Les cantons kelmors: find the 26 cantons on the map.
+#include "engine/communs.h"
+
+#include <QApplication>
+
+bool Main();
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kelmor"));
+    QApplication::setOrganizationName(QStringLiteral("Globarium"));
+    if (!Main())
+        return 0;
+    return QApplication::exec();
+}

@@ -1,0 +1,85 @@
+#include "platform/Controles.h"
+
+#include "platform/Ecran.h"
+
+#include <QFont>
+#include <QMouseEvent>
+#include <QPainter>
+
+Image::Image(QWidget *parent) : Contrôle<QWidget>(parent)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+}
+
+void Image::setPicture(const QPixmap &p)
+{
+    image = p;
+    if (!Stretch && !p.isNull())
+        resize((p.deviceIndependentSize()).toSize());
+    update();
+}
+
+void Image::paintEvent(QPaintEvent *)
+{
+    if (image.isNull())
+        return;
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::SmoothPixmapTransform, Stretch);
+    if (Stretch)
+        peintre.drawPixmap(rect(), image);
+    else
+        peintre.drawPixmap(0, 0, image);
+}
+
+void Image::mousePressEvent(QMouseEvent *e)
+{
+    pressé = e->button() == Qt::LeftButton;
+    e->accept();
+}
+
+void Image::mouseReleaseEvent(QMouseEvent *e)
+{
+    // A click is a press and a release on the same picture.
+    const bool clic = pressé && e->button() == Qt::LeftButton && rect().contains(e->position().toPoint());
+    pressé = false;
+    e->accept();
+    if (clic && Click) {
+        NotePositionCurseur(e->globalPosition().toPoint());
+        Click();
+    }
+}
+
+void Etiquette::setTailleFonte(qreal points)
+{
+    QFont f = font();
+    f.setPointSizeF(points);
+    setFont(f);
+}
+
+CaseChiffre::CaseChiffre(QWidget *parent) : Contrôle<QLabel>(parent)
+{
+    setAlignment(Qt::AlignCenter);
+    setAutoFillBackground(true);
+    QPalette p = palette();
+    p.setColor(QPalette::Window, Qt::black);
+    p.setColor(QPalette::WindowText, QColor(255, 255, 0));
+    setPalette(p);
+    QFont f = font();
+    f.setPointSizeF(13.5);
+    f.setBold(true);
+    setFont(f);
+    setFrameShape(QFrame::Panel);
+    setFrameShadow(QFrame::Sunken);
+    setText(QStringLiteral("0"));
+}
+
+void BoutonGraphique::setPicture(const QPixmap &p)
+{
+    setIcon(QIcon(p));
+    setIconSize(p.deviceIndependentSize().toSize());
+}
+
+BarreDéfilement::BarreDéfilement(Qt::Orientation sens, QWidget *parent) : Contrôle<QScrollBar>(sens, parent)
+{
+    setTracking(false);
+}

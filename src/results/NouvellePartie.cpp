@@ -1,0 +1,113 @@
+#include "results/NouvellePartie.h"
+
+#include "engine/communs.h"
+#include "platform/Boites.h"
+#include "platform/Ecran.h"
+#include "results/Resultats.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+NouvellePartie::NouvellePartie() : QDialog(FormePrincipale())
+{
+    setObjectName(QStringLiteral("NouvellePartie"));
+    setFixedSize(4680 / TwipsPerPixelX, 4545 / TwipsPerPixelY);
+    setWindowTitle(Messages[56]);
+
+    Label1 = new QLabel(Messages[81], this);
+    Label1->setGeometry(31, 29, 226, 21);
+    Label1->setAlignment(Qt::AlignCenter);
+    QFont f(QStringLiteral("Times New Roman"));
+    f.setPointSize(12);
+    f.setBold(true);
+    Label1->setFont(f);
+    BoîteNomJoueur = new QLineEdit(this);
+    BoîteNomJoueur->setGeometry(33, 56, 224, 24);
+    Frame1 = new QGroupBox(Messages[86], this);
+    Frame1->setGeometry(31, 109, 140, 129);
+    NiveauApprentissage = new QRadioButton(Messages[82], Frame1);
+    NiveauApprentissage->setGeometry(16, 24, 105, 17);
+    NiveauFacile = new QRadioButton(Messages[83], Frame1);
+    NiveauFacile->setGeometry(16, 43, 108, 17);
+    NiveauMoyen = new QRadioButton(Messages[84], Frame1);
+    NiveauMoyen->setGeometry(16, 63, 118, 17);
+    NiveauDifficile = new QRadioButton(Messages[85], Frame1);
+    NiveauDifficile->setGeometry(16, 84, 114, 17);
+    NiveauExpert = new QRadioButton(Messages[128], Frame1);
+    NiveauExpert->setGeometry(16, 104, 105, 17);
+    BoutonSortie = new QPushButton(QStringLiteral("OK"), this);
+    BoutonSortie->setGeometry(56, 264, 66, 31);
+    BoutonSortie->setDefault(true);
+    BoutonAnnuler = new QPushButton(Messages[80], this);
+    BoutonAnnuler->setGeometry(184, 264, 66, 31);
+    setTabOrder(BoîteNomJoueur, NiveauFacile);
+
+    // Centred on the screen.
+    const InfoEcran écran = MesureEcran();
+    move((écran.largeur - width()) / 2, (écran.hauteur - height()) / 2);
+
+    // Apprentissage is never offered again: it shares level 1 with Facile.
+    switch (Niveau) {
+    case 2: NiveauMoyen->setChecked(true); break;
+    case 3: NiveauDifficile->setChecked(true); break;
+    case 4: NiveauExpert->setChecked(true); break;
+    default: NiveauFacile->setChecked(true); break;
+    }
+    BoîteNomJoueur->setText(NomJoueur);
+
+    connect(BoutonSortie, &QPushButton::clicked, this, [this] { BoutonSortie_Click(); });
+    connect(BoutonAnnuler, &QPushButton::clicked, this, [this] { BoutonAnnuler_Click(); });
+}
+
+void NouvellePartie::showEvent(QShowEvent *e)
+{
+    QDialog::showEvent(e);
+    if (!NomJoueur.isEmpty())
+        BoutonSortie->setFocus();
+    else
+        BoîteNomJoueur->setFocus();
+}
+
+void NouvellePartie::BoutonSortie_Click()
+{
+    if (BoîteNomJoueur->text().trimmed().isEmpty()) {
+        Boîte(Messages[11], StyleExclamation, Messages[12]);
+        return;
+    }
+    NomJoueur = BoîteNomJoueur->text().left(20);
+    ModeApprentissage = False;
+    ScoreGelé = False;
+    auto &E = Principal();
+    E.BoutonGruge->setPicture(E.AmpouleAllumée->Picture());
+    if (NiveauFacile->isChecked())
+        Niveau = 1;
+    else if (NiveauMoyen->isChecked())
+        Niveau = 2;
+    else if (NiveauDifficile->isChecked())
+        Niveau = 3;
+    else if (NiveauExpert->isChecked())
+        Niveau = 4;
+    else if (NiveauApprentissage->isChecked()) {
+        Niveau = 1;
+        ModeApprentissage = True;
+        ScoreGelé = True;
+    }
+    EnregistreJoueur();
+    Etape = OrdreEtapes[1];
+    HeureDépart = SecondesDepuisMinuit();
+    accept();
+}
+
+void NouvellePartie::BoutonAnnuler_Click()
+{
+    Etape = 0;
+    QDialog::reject();
+}
+
+// Escape and the close box cancel like the button.
+void NouvellePartie::reject() { BoutonAnnuler_Click(); }

@@ -1,0 +1,61 @@
+#include "screen/Commandes.h"
+
+#include "engine/communs.h"
+#include "platform/Boites.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+#include "services/Sons.h"
+
+#include <QAction>
+
+void RelieCommandes(EcranPrincipal &E)
+{
+    auto relie = [&E](QAction *entrée, void (*commande)()) {
+        QObject::connect(entrée, &QAction::triggered, &E, commande);
+    };
+    relie(E.FichierNouveau, [] { LanceNouvellePartie(); });
+    relie(E.FichierQuitter, [] {
+        if (ConfirmeArrêt())
+            Principal().close();
+    });
+    relie(E.Menuson, [] { Menuson_Click(); });
+    relie(E.MenuRévision, [] { LanceRévision(); });
+    relie(E.MenuFrançais, [] { ChangeLangue(1); });
+    relie(E.MenuAllemand, [] { ChangeLangue(2); });
+    relie(E.MenuAutreLangue, [] { ChangeLangue(3); });
+    relie(E.MenuAide, [] { AfficheAide(); });
+    relie(E.MenuAPropos, [] { AfficheAPropos(); });
+}
+
+void LanceRévision()
+{
+    if (!ConfirmeArrêt())
+        return;
+    Etape = 7;
+    Niveau = 1;
+    DébutEtape();
+    PartieVierge = True;
+    CacheZoneJeu();
+    ModeRévision = True;
+    AjusteCarte();
+    MontreCantons();
+    AffichePanneau();
+    Boîte(Messages[138], StyleInformation, Messages[17]);
+}
+
+void AfficheAide()
+{
+    // The general topic, whatever the panel shows.
+    Principal().HelpContextID = 10;
+}
+
+void AfficheAPropos()
+{
+    Boîte(Messages[110] + Messages[0] + QLatin1Char('\n') + Messages[16], StyleInformation, Messages[17]);
+}
+
+void Menuson_Click()
+{
+    SonActif = Booléen(!SonActif);
+    Principal().Menuson->setText(SonActif ? Messages[157] : Messages[158]);
+}

@@ -1,0 +1,601 @@
+#include "screen/EcranPrincipal.h"
+
+#include "engine/communs.h"
+#include "engine/specifiques.h"
+#include "platform/Ecran.h"
+#include "platform/Horloge.h"
+#include "platform/Images.h"
+#include "results/Resultats.h"
+#include "screen/Commandes.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Patience.h"
+#include "services/Sons.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QNetworkAccessManager>
+#include <QTextEdit>
+
+int LargeurEcran = 0;
+int HauteurEcran = 0;
+int BasZoneTravail = 0;
+short HauteurFenêtre = 0;
+short LargeurFenêtre = 0;
+TRectangle RectangleEcran;
+
+namespace {
+EcranPrincipal *forme = nullptr;
+
+QString Numéro(int i) { return QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0')); }
+
+// Sizes of the canton pictures at 100 %, for a picture that is missing.
+constexpr QSize TaillesPays[27] = {
+    {}, {210, 46}, {195, 42}, {93, 90}, {120, 44}, {35, 40}, {200, 211}, {82, 106}, {55, 55}, {48, 72},
+    {232, 166}, {88, 65}, {88, 98}, {86, 60}, {60, 47}, {61, 44}, {111, 124}, {75, 61}, {80, 64},
+    {90, 80}, {99, 148}, {115, 59}, {73, 89}, {215, 144}, {153, 150}, {40, 33}, {80, 104},
+};
+
+Image *NouvelleImage(QWidget *parent, const QString &nom, QRect géométrie, bool visible = true)
+{
+    auto *im = new Image(parent);
+    im->setGeometry(géométrie);
+    if (!nom.isEmpty())
+        im->setPicture(ImageJeu(nom, géométrie.size()));
+    im->setVisible(visible);
+    return im;
+}
+
+Etiquette *NouvelleEtiquette(QWidget *parent, QRect géométrie, qreal points, bool gras, bool centrée, bool bordée)
+{
+    auto *e = new Etiquette(parent);
+    e->setGeometry(géométrie);
+    QFont f = e->font();
+    f.setPointSizeF(points);
+    f.setBold(gras);
+    e->setFont(f);
+    e->setWordWrap(true);
+    if (centrée)
+        e->setAlignment(Qt::AlignCenter);
+    if (bordée) {
+        e->setFrameShape(QFrame::Box);
+        e->setAutoFillBackground(true);
+    }
+    return e;
+}
+} // namespace
+
+EcranPrincipal *FormePrincipale() { return forme; }
+
+EcranPrincipal &Principal() { return *forme; }
+
+int IndiceEcranPrincipal()
+{
+    int indice = -1;
+    const auto formes = QApplication::topLevelWidgets();
+    for (int i = 0; i < formes.size(); ++i)
+        if (formes[i]->objectName() == QLatin1String("EcranPrincipal"))
+            indice = i;
+    return indice;
+}
+
+EcranPrincipal::EcranPrincipal()
+{
+    forme = this;
+    setObjectName(QStringLiteral("EcranPrincipal"));
+    setWindowTitle(QStringLiteral("Les cantons kelmors"));
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    setWindowIcon(QIcon(ImageJeu(QStringLiteral("Icone"), QSize(32, 32))));
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    auto *surface = new QWidget(this);
+    surface->setObjectName(QStringLiteral("surface"));
+    setCentralWidget(surface);
+    ConstruitMenus();
+    resize(1013, 736 + menuBar()->sizeHint().height());
+
+    // The map and what lies on it.
+    Carte = new BoîteImage(surface);
+    Carte->setGeometry(64, 56, 667, 616);
+    Carte->setAutoFillBackground(true);
+    Carte->setStyleSheet(QStringLiteral("background-color: #5d6b73;"));
+    ImageRégion[0] = NouvelleImage(Carte, QStringLiteral("carte"), {0, 0, 652, 456});
+    Pays[0] = NouvelleImage(Carte, QString(), {8, 80, 17, 81}, false);
+    rond[0] = NouvelleImage(Carte, QStringLiteral("Rond0"), {32, 424, 7, 8}, false);
+    RondVille = NouvelleImage(Carte, QStringLiteral("RondVille"), {40, 392, 7, 8}, false);
+    RondPref = NouvelleImage(Carte, QStringLiteral("RondPref"), {16, 424, 7, 8}, false);
+    Rondnoir = NouvelleImage(Carte, QStringLiteral("Rondnoir"), {56, 432, 16, 16}, false);
+    Rondrouge = NouvelleImage(Carte, QStringLiteral("Rondrouge"), {32, 432, 16, 16}, false);
+    Rondjaune = NouvelleImage(Carte, QStringLiteral("Rondjaune"), {8, 432, 20, 20}, false);
+    Rondcible = NouvelleImage(Carte, QStringLiteral("Rondcible"), {0, 0, 23, 23}, false);
+    miniature[6] = NouvelleImage(Carte, QStringLiteral("miniature06"), {496, 0, 174, 184}, false);
+    miniature[23] = NouvelleImage(Carte, QStringLiteral("miniature23"), {0, 0, 196, 130}, false);
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        QSize taille = TaillesPays[i];
+        if (i == 1)
+            taille.setWidth(170);
+        // Placed from the canton table at load; the design places them alike.
+        inv[i] = NouvelleImage(Carte, QStringLiteral("inv") + Numéro(i), {QPoint(0, 0), taille}, false);
+    }
+
+    // The question and score panel.
+    QueFaire = NouvelleEtiquette(surface, {384, 25, 200, 26}, 9.75, true, true, true);
+    TexteAChercher = NouvelleEtiquette(surface, {22, 32, 200, 55}, 9.75, true, true, true);
+    TexteAChercher->hide();
+    ElémentRecherché = new BoîteImage(surface);
+    ElémentRecherché->setGeometry(38, 688, 200, 188);
+    ElémentRecherché->setAutoFillBackground(true);
+    ImageRecherchée = new Image(ElémentRecherché);
+    ImageRecherchée->Stretch = true;
+    ImageRecherchée->setGeometry(0, 0, 200, 188);
+    BoîteRestants = new Cadre(surface);
+    BoîteRestants->setGeometry(32, 80, 109, 57);
+    const int gaucheReste[4] = {0, 85, 61, 37};
+    for (int i = 1; i <= 3; ++i) {
+        Reste[i] = new CaseChiffre(surface);
+        Reste[i]->setGeometry(gaucheReste[i], 94, 24, 37);
+    }
+    BoîteScore = new Cadre(surface);
+    BoîteScore->setGeometry(31, 166, 176, 58);
+    const int gaucheDigit[7] = {34, 178, 154, 130, 106, 82, 58};
+    for (int i = 0; i <= 6; ++i) {
+        Digit[i] = new CaseChiffre(surface);
+        Digit[i]->setGeometry(gaucheDigit[i], 182, 24, 37);
+    }
+    BoutonPasse = new BoutonGraphique(surface);
+    BoutonPasse->setGeometry(744, 472, 60, 45);
+    BoutonPasse->setPicture(ImageJeu(QStringLiteral("BoutonPasse"), QSize(40, 30)));
+    BoutonPasse->hide();
+    BoutonGruge = new BoutonGraphique(surface);
+    BoutonGruge->setGeometry(816, 472, 60, 45);
+    BoutonGruge->hide();
+    AmpouleAllumée = NouvelleImage(surface, QStringLiteral("AmpouleAllumee"), {258, 32, 32, 32}, false);
+    AmpouleEteinte = NouvelleImage(surface, QStringLiteral("AmpouleEteinte"), {324, 31, 32, 32}, false);
+    BoutonGruge->setPicture(AmpouleEteinte->Picture());
+    for (int i = 1; i <= NombrePlaces; ++i)
+        drapeau[i] = NouvelleImage(surface, QStringLiteral("drapeau") + Numéro(i), {0, 0, 125, 125}, false);
+    miniature[10] = NouvelleImage(surface, QStringLiteral("miniature10"), {0, 0, 196, 140}, false);
+    DrapeauPays[0] = NouvelleImage(surface, QString(), {32, 408, 9, 1}, false);
+
+    BarreH = new BarreDéfilement(Qt::Horizontal, surface);
+    BarreH->setGeometry(22, 0, 707, 15);
+    BarreV = new BarreDéfilement(Qt::Vertical, surface);
+    BarreV->setGeometry(0, 99, 14, 536);
+
+    // The parameterisation panel, hidden until a parameter set is shown.
+    LBLParam[1] = NouvelleEtiquette(surface, {752, 56, 249, 25}, 9.75, true, true, false);
+    LBLParam[1]->setText(QStringLiteral("Paramétrage du jeu"));
+    LBLParam[2] = NouvelleEtiquette(surface, {752, 96, 241, 89}, 8, false, false, false);
+    LBLParam[3] = NouvelleEtiquette(surface, {744, 192, 241, 48}, 8, false, false, false);
+    LBLParam[3]->setText(QStringLiteral("Nom du fichier paramétrage :"));
+    for (int r = 0; r < 4; ++r)
+        LBLParam[4 + r] = NouvelleEtiquette(surface, {752, 274 + 20 * r, 89, 17}, 8, false, false, false);
+    const int gaucheTête[4] = {848, 877, 915, 944};
+    const int largeurTête[4] = {17, 33, 33, 33};
+    const char *têtes[4] = {"1er", "2ème", "3ème", "4ème"};
+    for (int k = 0; k < 4; ++k) {
+        LBLParam[8 + k] = NouvelleEtiquette(surface, {gaucheTête[k], 252, largeurTête[k], 17}, 8, false, false, false);
+        LBLParam[8 + k]->setText(QString::fromUtf8(têtes[k]));
+    }
+    LBLParam[12] = NouvelleEtiquette(surface, {784, 356, 193, 25}, 8, false, false, false);
+    LBLParam[13] = NouvelleEtiquette(surface, {784, 388, 193, 33}, 8, false, false, false);
+    const int gaucheColonne[4] = {848, 882, 915, 949};
+    for (int colonne = 1; colonne <= 4; ++colonne)
+        for (int ligne = 1; ligne <= 4; ++ligne) {
+            auto *b = new CaseACocher(surface);
+            b->setGeometry(gaucheColonne[colonne - 1], 274 + 20 * (ligne - 1), 17, 17);
+            Bouton[(colonne - 1) * 4 + ligne] = b;
+        }
+    Bouton[17] = new CaseACocher(surface);
+    Bouton[17]->setGeometry(752, 356, 17, 17);
+    Bouton[17]->setChecked(true);
+    Bouton[18] = new CaseACocher(surface);
+    Bouton[18]->setGeometry(752, 388, 17, 17);
+    Bouton[18]->setChecked(true);
+    BTN[1] = new QPushButton(QStringLiteral("OK"), surface);
+    BTN[1]->setGeometry(811, 424, 66, 31);
+    BTN[2] = new QPushButton(QStringLiteral("Annuler"), surface);
+    BTN[2]->setGeometry(888, 424, 66, 31);
+    for (int i = 1; i <= 13; ++i)
+        LBLParam[i]->hide();
+    for (int i = 1; i <= 18; ++i)
+        Bouton[i]->hide();
+    BTN[1]->hide();
+    BTN[2]->hide();
+
+    RichTextBox1 = new QTextEdit(surface);
+    RichTextBox1->setGeometry(16, 336, 25, 25);
+    RichTextBox1->hide();
+    Inet1 = new QNetworkAccessManager(this);
+
+    Relie();
+}
+
+EcranPrincipal::~EcranPrincipal()
+{
+    if (forme == this)
+        forme = nullptr;
+}
+
+Image *EcranPrincipal::CréeDepuisModèle(Image *modèle)
+{
+    auto *im = new Image(modèle->parentWidget());
+    im->setGeometry(modèle->geometry());
+    im->setPicture(modèle->Picture());
+    im->hide();
+    return im;
+}
+
+void EcranPrincipal::ConstruitMenus()
+{
+    QMenuBar *barre = menuBar();
+    MenuFichier = barre->addMenu(QStringLiteral("Fichier"));
+    FichierNouveau = MenuFichier->addAction(QString());
+    FichierEnregistrer = MenuFichier->addAction(QString());
+    FichierLire = MenuFichier->addAction(QString());
+    FichierVersion = MenuFichier->addAction(QString());
+    FichierQuitter = MenuFichier->addAction(QString());
+    MenuParamétrer = barre->addMenu(QString());
+    MenuAfficheParamètres = MenuParamétrer->addAction(QString());
+    MenuDéfaut = MenuParamétrer->addAction(QString());
+    MenuRecharger = MenuParamétrer->addAction(QString());
+    MenuDéfinir = MenuParamétrer->addAction(QString());
+    Menuson = MenuParamétrer->addAction(QString());
+    MenuCouleurCapitalesATrouver = MenuParamétrer->addAction(QString());
+    MenuCouleurCapitalesTrouvées = MenuParamétrer->addAction(QString());
+    MenuInf = MenuParamétrer->addAction(QString());
+    MenuFichInfo = MenuParamétrer->addAction(QString());
+    MenuScores = barre->addMenu(QString());
+    ScoreEnCours = MenuScores->addAction(QString());
+    ScoreFacile = MenuScores->addAction(QString());
+    ScoreMoyen = MenuScores->addAction(QString());
+    ScoreDifficile = MenuScores->addAction(QString());
+    ScoreExpert = MenuScores->addAction(QString());
+    MenuRazScores = MenuScores->addAction(QString());
+    MenuRévision = barre->addAction(QString());
+    MenuLangue = barre->addMenu(QStringLiteral("Langue / Sprache"));
+    MenuFrançais = MenuLangue->addAction(QStringLiteral("Jouer en français"));
+    MenuAllemand = MenuLangue->addAction(QStringLiteral("Auf deutsch spielen"));
+    MenuAutreLangue = MenuLangue->addAction(QStringLiteral("Other language"));
+    MenuAide = barre->addAction(QString());
+    MenuAPropos = barre->addAction(QString());
+}
+
+void EcranPrincipal::Relie()
+{
+    for (int i = 0; i < 1; ++i)
+        ImageRégion[i]->Click = [i] { CliqueCarte(i); };
+    for (int i = 1; i <= NombrePlaces; ++i)
+        inv[i]->Click = [i] { CliqueCarte(Cantons[i].Région); };
+    connect(BarreH, &QScrollBar::valueChanged, this, [] { BarreH_Change(); });
+    connect(BarreV, &QScrollBar::valueChanged, this, [] { BarreV_Change(); });
+    connect(BoutonPasse, &QToolButton::clicked, this, [] { BoutonPasse_Click(); });
+    connect(BoutonGruge, &QToolButton::clicked, this, [] { BoutonGruge_Click(); });
+    RelieCommandes(*this);
+}
+
+// The window's geometry in twips, frame included.
+int EcranPrincipal::Left() const { return frameGeometry().x() * TwipsPerPixelX; }
+int EcranPrincipal::Top() const { return frameGeometry().y() * TwipsPerPixelY; }
+int EcranPrincipal::Width() const { return frameGeometry().width() * TwipsPerPixelX; }
+int EcranPrincipal::Height() const { return frameGeometry().height() * TwipsPerPixelY; }
+void EcranPrincipal::setLeft(int twips) { move(twips / TwipsPerPixelX, frameGeometry().y()); }
+void EcranPrincipal::setTop(int twips) { move(frameGeometry().x(), twips / TwipsPerPixelY); }
+void EcranPrincipal::setWidth(int twips)
+{
+    const int cadre = frameGeometry().width() - geometry().width();
+    resize(std::max(1, twips / TwipsPerPixelX - cadre), height());
+}
+void EcranPrincipal::setHeight(int twips)
+{
+    const int cadre = frameGeometry().height() - geometry().height();
+    resize(width(), std::max(1, twips / TwipsPerPixelY - cadre));
+}
+int EcranPrincipal::ScaleWidth() const { return centralWidget()->width(); }
+int EcranPrincipal::ScaleHeight() const { return height() - menuBar()->height(); }
+
+void EcranPrincipal::showEvent(QShowEvent *e)
+{
+    QMainWindow::showEvent(e);
+    Form_Activate();
+}
+
+void EcranPrincipal::changeEvent(QEvent *e)
+{
+    QMainWindow::changeEvent(e);
+    if (e->type() == QEvent::ActivationChange && isActiveWindow())
+        Form_Activate();
+}
+
+void EcranPrincipal::closeEvent(QCloseEvent *e)
+{
+    if (Form_Unload())
+        e->accept();
+    else
+        e->ignore();
+}
+
+// ---------------------------------------------------------------- load
+
+void Form_Load()
+{
+    const InfoEcran écran = MesureEcran();
+    LargeurEcran = écran.largeur;
+    HauteurEcran = écran.hauteur;
+    ChargeEcranPrincipal();
+}
+
+void Form_Activate() { FermePatience(); }
+
+bool Form_Unload()
+{
+    if (!ConfirmeArrêt())
+        return false;
+    RestaureSonsSystème();
+    return true;
+}
+
+void ChargeEcranPrincipal()
+{
+    auto &E = Principal();
+    E.setTop(0);
+    PointeurEcran(PointeurSablier);
+    EtiquetteEcran();
+    FichierAide = ComposeChemin(RépertoireApplication, NomsFichiersAide[Langue]);
+    ChargeScores();
+    HauteurVignette = static_cast<i16>(E.ImageRecherchée->Height());
+    LargeurVignette = static_cast<i16>(E.ImageRecherchée->Width());
+    ChargeCantons();
+    AjusteEcran();
+    E.setTop((HauteurEcran - E.ScaleHeight()) / 2 * TwipsPerPixelX);
+    E.setLeft((LargeurEcran - E.ScaleWidth()) / 2 * TwipsPerPixelX);
+    E.update();
+    Randomize();
+    InitialisationSpécifique();
+
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        E.rond[i] = E.CréeDepuisModèle(E.rond[0]);
+        E.Pays[i] = E.CréeDepuisModèle(E.Pays[0]);
+        E.rond[i]->Click = [i] { rond_Click(static_cast<i16>(i)); };
+        E.Pays[i]->Click = [i] { CliqueCarte(Cantons[i].Région); };
+        E.Pays[i]->hide();
+        E.rond[i]->hide();
+        E.inv[i]->hide();
+        const Image *R = E.ImageRégion[Cantons[i].Région];
+        E.rond[i]->move(R->Left() + Cantons[i].VilleGauche, R->Top() + Cantons[i].VilleHaut);
+        E.Pays[i]->move(R->Left() + Cantons[i].PaysGauche, R->Top() + Cantons[i].PaysHaut);
+        E.inv[i]->move(E.Pays[i]->pos());
+    }
+    ChargeImagesPays();
+
+    SonErreur = ComposeChemin(RépertoireApplication, QStringLiteral("carte_er.wav"));
+    SonBravo = ComposeChemin(RépertoireApplication, QStringLiteral("carte_ok.wav"));
+    SonEtape = ComposeChemin(RépertoireApplication, QStringLiteral("carte_ga.wav"));
+    SonPerdu = ComposeChemin(RépertoireApplication, QStringLiteral("carte_pe.wav"));
+    SonInfo = ComposeChemin(RépertoireApplication, QStringLiteral("carte_hl.wav"));
+
+    Niveau = 0;
+
+    // Dots over all borders, a later canton's border over an earlier one's.
+    E.ImageRégion[0]->raise();
+    for (int i = 1; i <= NombrePlaces; ++i)
+        if (Cantons[i].Région == 0) {
+            E.Pays[i]->raise();
+            E.inv[i]->raise();
+        }
+    for (int i = 1; i <= NombrePlaces; ++i)
+        if (Cantons[i].Région == 0)
+            E.rond[i]->raise();
+
+    for (int i = 1; i <= NombreLangues; ++i)
+        CheminsInfo[i] = ComposeChemin(RépertoireInfo, NomsFichiersInfo[i]);
+
+    Etape = 0;
+    CacheZoneJeu();
+    ModeRévision = False;
+    AjusteCarte();
+    MontreCantons();
+    PartieVierge = True;
+    PartieEnregistrée = False;
+    ConseilFicheDonné = False;
+    PointeurEcran(PointeurNormal);
+}
+
+// ---------------------------------------------------------------- screen fit
+
+void MesureCarte()
+{
+    const QRect r = RectangleEcranDe(Principal().Carte);
+    RectangleEcran = {r.left(), r.top(), r.left() + r.width(), r.top() + r.height()};
+}
+
+void AjusteCarte()
+{
+    auto &E = Principal();
+    Contrôle<QWidget> *carte = E.Carte;
+    carte->setTop(5);
+    if (ModeRévision)
+        carte->setWidth(LargeurEcran - 30);
+    else
+        carte->setWidth(LargeurEcran - E.QueFaire->Width() - 30);
+    E.update();
+    const QRect travail = MesureEcran().zoneTravail;
+    RectangleEcran = {travail.left(), travail.top(), travail.left() + travail.width(), travail.top() + travail.height()};
+    BasZoneTravail = RectangleEcran.Bottom;
+    MesureCarte();
+    carte->setHeight(BasZoneTravail - RectangleEcran.Top);
+    carte->setLeft(0);
+
+    const int W = E.ImageRégion[0]->Width();
+    const int H = E.ImageRégion[0]->Height();
+    bool barreH = false;
+    if (carte->Width() >= W) {
+        carte->setWidth(W + 4);
+        E.BarreH->hide();
+    } else {
+        barreH = true;
+        carte->setHeight(carte->Height() - E.BarreH->Height());
+        E.BarreH->setWidth(carte->Width());
+        E.BarreH->setTop(carte->Height() > H ? carte->Top() + H : carte->Top() + carte->Height());
+        E.BarreH->setLeft(carte->Left());
+        E.BarreH->show();
+    }
+    bool barreV = false;
+    if (carte->Height() >= H) {
+        carte->setHeight(H);
+    } else {
+        barreV = true;
+        carte->setWidth(carte->Width() - E.BarreV->Width());
+        if (barreH)
+            E.BarreH->setWidth(carte->Width());
+        E.BarreV->setTop(carte->Top());
+        E.BarreV->setLeft(carte->Left() + carte->Width());
+        E.BarreV->setHeight(carte->Height());
+        E.BarreV->setMax(H - carte->Height() + 4);
+        E.BarreV->setMin(0);
+        E.BarreV->setLargeChange(H < 1.5 * carte->Height() ? H - carte->Height() : int(0.9 * carte->Height()));
+        E.BarreV->setSmallChange(E.BarreV->LargeChange());
+    }
+    E.BarreV->setVisible(barreV);
+    if (barreH) {
+        E.BarreH->setMax(W - carte->Width() + 4);
+        E.BarreH->setMin(0);
+        E.BarreH->setLargeChange(W < 1.5 * carte->Width() ? W - carte->Width() : int(0.9 * carte->Width()));
+        E.BarreH->setSmallChange(E.BarreH->LargeChange() / 5);
+    }
+
+    if (HauteurFenêtre != 0)
+        E.setHeight(HauteurFenêtre);
+    else
+        E.setHeight(TwipsPerPixelY * (carte->Height() + carte->Top() + RectangleEcran.Top) - E.Top());
+    if (barreH)
+        E.setHeight(E.Height() + TwipsPerPixelY * E.BarreH->Height());
+    if (LargeurFenêtre != 0)
+        E.setWidth(LargeurFenêtre);
+    else
+        E.setWidth(TwipsPerPixelX * (carte->Left() + carte->Width() + E.BarreV->Width() + 30 + E.QueFaire->Width()));
+}
+
+void AjusteEcran()
+{
+    auto &E = Principal();
+    ModeRévision = False;
+    AjusteCarte();
+    const int Droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
+
+    E.QueFaire->setTop(E.Carte->Top());
+    E.QueFaire->setLeft(Droite + 10);
+    const int ancienne = E.BoîteScore->Left();
+    E.BoîteScore->setLeft(Droite + 10);
+    const int D = E.BoîteScore->Left() - ancienne;
+
+    E.ElémentRecherché->setTop(E.QueFaire->Top() + E.QueFaire->Height() + 5);
+    E.ElémentRecherché->setLeft(E.QueFaire->Left());
+    E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
+
+    const int S = E.QueFaire->Top() + E.QueFaire->Height() + 5 + E.ElémentRecherché->Height() + 5 +
+                  E.TexteAChercher->Height() + 5 + E.BoîteScore->Height() + 5 + E.BoîteRestants->Height();
+    if (E.Carte->Height() > S)
+        E.BoîteScore->setTop(E.Carte->Top() + E.Carte->Height() - E.BoîteScore->Height());
+    else
+        E.BoîteScore->setTop(E.QueFaire->Top() + E.QueFaire->Height() + 5 + E.ElémentRecherché->Height() + 5 +
+                             E.TexteAChercher->Height() + 5 + 5 + E.BoîteRestants->Height());
+
+    E.BoîteScore->raise();
+    for (int i = 0; i <= 6; ++i) {
+        E.Digit[i]->setTop(E.BoîteScore->Top() + 15);
+        E.Digit[i]->setLeft(E.Digit[i]->Left() + D);
+        E.Digit[i]->raise();
+    }
+    E.BoîteRestants->setTop(E.BoîteScore->Top() - E.BoîteRestants->Height() - 5);
+    E.BoîteRestants->setLeft(E.BoîteScore->Left());
+    E.BoutonGruge->setTop(E.BoîteRestants->Top() + E.BoîteRestants->Height() - E.BoutonGruge->Height());
+    E.BoutonGruge->setLeft(E.BoîteRestants->Left() + E.BoîteRestants->Width() + 5);
+    E.BoutonPasse->setLeft(E.BoutonGruge->Left());
+    E.BoutonPasse->setTop(E.BoutonGruge->Top());
+    E.BoutonPasse->raise();
+    E.BoîteRestants->raise();
+    for (int i = 1; i <= 3; ++i) {
+        E.Reste[i]->setTop(E.BoîteRestants->Top() + 15);
+        E.Reste[i]->setLeft(E.Reste[i]->Left() + D);
+        E.Reste[i]->raise();
+    }
+
+    // The parameterisation panel moves as one block.
+    const int P = E.Carte->Top() - E.LBLParam[1]->Top();
+    const int Q = Droite + 5 - E.LBLParam[1]->Left();
+    auto déplace = [P, Q](QWidget *w) { w->move(w->x() + Q, w->y() + P); };
+    for (int i = 1; i <= 13; ++i)
+        déplace(E.LBLParam[i]);
+    for (int i = 1; i <= 18; ++i)
+        déplace(E.Bouton[i]);
+    for (int i = 1; i <= 2; ++i)
+        déplace(E.BTN[i]);
+
+    if (E.BarreH->Value() != 0)
+        E.BarreH->setValue(0);
+    if (E.BarreV->Value() != 0)
+        E.BarreV->setValue(0);
+
+    const int Bs = E.BoîteScore->Top() + E.BoîteScore->Height() + 5;
+    const int Bb = E.BTN[1]->y() + E.BTN[1]->height() + 5;
+    const int Bc = E.Carte->Top() + E.Carte->Height();
+    if (Bs > Bb) {
+        if (Bs > Bc) {
+            E.setHeight(E.Height() + TwipsPerPixelY * (Bs - Bc));
+            HauteurFenêtre = static_cast<short>(E.Height());
+        }
+    } else if (Bb > Bc) {
+        E.setHeight(E.Height() + TwipsPerPixelY * (Bb + 10 - Bc));
+        HauteurFenêtre = static_cast<short>(E.Height());
+    }
+    const int largeur = TwipsPerPixelX * (E.LBLParam[2]->Left() + E.LBLParam[2]->Width() + 15);
+    if (largeur > E.Width()) {
+        E.setWidth(largeur);
+        LargeurFenêtre = static_cast<short>(E.Width());
+    }
+    PlaceTexteSpécifique();
+}
+
+// ---------------------------------------------------------------- scrolling
+
+namespace {
+template <class Place>
+void Défile(Place place)
+{
+    auto &E = Principal();
+    if (!E.rond[NombrePlaces])
+        return; // the markers aren't made yet
+    CacheMarques();
+    place(E);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        PlaceRond(static_cast<i16>(i));
+    MontreCantons();
+}
+} // namespace
+
+void BarreH_Change()
+{
+    Défile([](EcranPrincipal &E) {
+        E.ImageRégion[0]->setLeft(-E.BarreH->Value());
+        for (int i = 1; i <= NombrePlaces; ++i) {
+            const int gauche = E.ImageRégion[Cantons[i].Région]->Left() + Cantons[i].PaysGauche;
+            E.Pays[i]->setLeft(gauche);
+            E.inv[i]->setLeft(gauche);
+        }
+    });
+}
+
+void BarreV_Change()
+{
+    Défile([](EcranPrincipal &E) {
+        E.ImageRégion[0]->setTop(-E.BarreV->Value());
+        for (int i = 1; i <= NombrePlaces; ++i) {
+            const int haut = E.ImageRégion[Cantons[i].Région]->Top() + Cantons[i].PaysHaut;
+            E.Pays[i]->setTop(haut);
+            E.inv[i]->setTop(haut);
+        }
+    });
+}

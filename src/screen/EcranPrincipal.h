@@ -1,0 +1,112 @@
+#pragma once
+// The game's one main window: the map with its markers, the question panel,
+// the score boxes, the parameterisation panel and the menus, under their names.
+#include "platform/Controles.h"
+
+#include <QMainWindow>
+#include <QPushButton>
+#include <array>
+
+class QAction;
+class QMenu;
+class QTextEdit;
+class QNetworkAccessManager;
+
+class EcranPrincipal : public QMainWindow {
+public:
+    EcranPrincipal();
+    ~EcranPrincipal() override;
+
+    // The window's own geometry, in twips as the game counts it.
+    int Left() const;
+    int Top() const;
+    int Width() const;
+    int Height() const;
+    void setLeft(int twips);
+    void setTop(int twips);
+    void setWidth(int twips);
+    void setHeight(int twips);
+    // The client area in pixels.
+    int ScaleWidth() const;
+    int ScaleHeight() const;
+    int HelpContextID = 10;
+
+    // Map, children of Carte.
+    BoîteImage *Carte;
+    std::array<Image *, 1> ImageRégion{};
+    std::array<Image *, 27> inv{};        // 1..26
+    std::array<Image *, 27> Pays{};       // 0 the template, 1..26 made at load
+    std::array<Image *, 27> rond{};       // 0 the template, 1..26 made at load
+    Image *RondVille, *RondPref, *Rondnoir, *Rondrouge, *Rondjaune, *Rondcible;
+    std::array<Image *, 27> miniature{};  // 6, 10 and 23 only
+
+    // Question and score panel.
+    Etiquette *QueFaire, *TexteAChercher;
+    BoîteImage *ElémentRecherché;
+    Image *ImageRecherchée;
+    Cadre *BoîteRestants, *BoîteScore;
+    std::array<CaseChiffre *, 4> Reste{};  // 1..3
+    std::array<CaseChiffre *, 7> Digit{};  // 0 the sign, 1 the units .. 6
+    BoutonGraphique *BoutonPasse, *BoutonGruge;
+    Image *AmpouleAllumée, *AmpouleEteinte;
+    std::array<Image *, 27> drapeau{};     // 1..26
+    std::array<Image *, 1> DrapeauPays{};
+
+    BarreDéfilement *BarreH, *BarreV;
+
+    // Parameterisation panel.
+    std::array<Etiquette *, 14> LBLParam{}; // 1..13
+    std::array<CaseACocher *, 19> Bouton{}; // 1..18
+    std::array<QPushButton *, 3> BTN{};     // 1..2
+
+    // Used only by the update check.
+    QTextEdit *RichTextBox1;
+    QNetworkAccessManager *Inet1;
+
+    // Menus.
+    QMenu *MenuFichier, *MenuParamétrer, *MenuScores, *MenuLangue;
+    QAction *FichierNouveau, *FichierEnregistrer, *FichierLire, *FichierVersion, *FichierQuitter;
+    QAction *MenuAfficheParamètres, *MenuDéfaut, *MenuRecharger, *MenuDéfinir, *Menuson;
+    QAction *MenuCouleurCapitalesATrouver, *MenuCouleurCapitalesTrouvées, *MenuInf, *MenuFichInfo;
+    QAction *ScoreEnCours, *ScoreFacile, *ScoreMoyen, *ScoreDifficile, *ScoreExpert, *MenuRazScores;
+    QAction *MenuRévision;
+    QAction *MenuFrançais, *MenuAllemand, *MenuAutreLangue;
+    QAction *MenuAide, *MenuAPropos;
+
+    // Makes Pays(i) or rond(i) from its template, hidden, at the template's place.
+    Image *CréeDepuisModèle(Image *modèle);
+
+protected:
+    void showEvent(QShowEvent *e) override;
+    void changeEvent(QEvent *e) override;
+    void closeEvent(QCloseEvent *e) override;
+
+private:
+    void ConstruitMenus();
+    void Relie();
+    bool premierAffichage = true;
+};
+
+// The main form, found among the loaded forms; nullptr before it is made.
+EcranPrincipal *FormePrincipale();
+EcranPrincipal &Principal();
+// Index of the form named "EcranPrincipal" among the top-level forms, -1 if none.
+int IndiceEcranPrincipal();
+
+void Form_Load();
+void Form_Activate();
+// False keeps the window open.
+bool Form_Unload();
+void ChargeEcranPrincipal();
+
+// Screen fit and scrolling.
+extern int LargeurEcran, HauteurEcran;
+extern int BasZoneTravail;
+extern short HauteurFenêtre, LargeurFenêtre;
+struct TRectangle { int Left = 0, Top = 0, Right = 0, Bottom = 0; };
+extern TRectangle RectangleEcran;
+void AjusteCarte();
+void AjusteEcran();
+void MesureCarte();
+void BarreH_Change();
+void BarreV_Change();

@@ -1,0 +1,21 @@
+#pragma once
+// The messages of the language in use, and the change of language at any moment.
+#include <QString>
+#include <vector>
+
+extern std::vector<QString> Messages;      // index i is the message of French id 1000 + i
+extern short NombreMessages;
+extern unsigned char NombreLangues;
+extern short Langue;                       // 1 French, 2 German
+extern std::vector<QString> NomsFichiersAide;
+extern std::vector<QString> NomsFichiersInfo;
+extern std::vector<QString> CheminsInfo;
+extern QString FichierAide;               // the help file of the language in use
+
+void ChargeChaînes();
+void ChargeImagesPays();
+void EtiquetteEcran();
+void ChangeLangue(int n);
+
+// The name picture of canton k in language l, as the hidden form of names holds it.
+QString NomImagePays(int k, int langue);

@@ -1,0 +1,4 @@
+#pragma once
+// The small form that stands on the screen while the main window loads.
+void AffichePatience();
+void FermePatience();

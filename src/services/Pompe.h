@@ -1,0 +1,3 @@
+#pragma once
+// The card of canton CantonFiche, shown modally.
+void MontrePompe();

@@ -1,0 +1,12 @@
+#pragma once
+// The game's five sounds; whether they play at all is the player's choice.
+#include "engine/communs.h"
+
+extern i16 SonActif;
+extern QString SonBravo, SonErreur, SonEtape, SonPerdu, SonInfo;
+
+// Starts the sound without waiting for it, when sound is on.
+void JoueSon(const QString &chemin);
+
+// Gives the desktop back the sounds of its message boxes.
+void RestaureSonsSystème();

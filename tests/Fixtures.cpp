@@ -1,0 +1,120 @@
+#include "Fixtures.h"
+
+#include "engine/communs.h"
+#include "platform/Ecran.h"
+#include "platform/Horloge.h"
+#include "results/Resultats.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+
+#include <QFile>
+#include <QTest>
+
+QByteArray Enregistrement(int carte, int x, int zone)
+{
+    QByteArray r(4, '\0');
+    r[0] = char(carte);
+    r[1] = char(x & 0xFF);
+    r[2] = char((x >> 8) & 0xFF);
+    r[3] = char(zone);
+    return r;
+}
+
+QByteArray RasterBandes()
+{
+    QByteArray f = Enregistrement(0, 0, 4);
+    for (int y = 0; y < 456; ++y) {
+        f += Enregistrement(0, 0, 0);
+        for (int c = 1; c <= 26; ++c)
+            f += Enregistrement(0, 25 * (c - 1), c);
+        f += Enregistrement(0, 650, 0);
+    }
+    f += Enregistrement(0, 0, 0);
+    return f;
+}
+
+void JeuTest::SetUp()
+{
+    ASSERT_TRUE(dossier.isValid());
+    QFile raster(dossier.filePath(QStringLiteral("KELMOR.pts")));
+    ASSERT_TRUE(raster.open(QIODevice::WriteOnly));
+    raster.write(RasterBandes());
+    raster.close();
+
+    InstalleDossierProgramme(dossier.path());
+    InstalleBoîtes(&boîtes);
+    InstalleSons(&sons);
+    InstalleHorloge([this] { return horloge; });
+    InstalleHasard([this] {
+        if (tirages.empty())
+            return 0.0f;
+        const float t = tirages.front();
+        tirages.pop_front();
+        return t;
+    });
+    InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 1024), 24});
+
+    Langue = 1;
+    NomJoueur.clear();
+    Etape = 0;
+    Niveau = 0;
+    for (auto &c : Cantons)
+        c = TCanton{};
+    ASSERT_TRUE(Main());
+    forme = FormePrincipale();
+    ASSERT_NE(forme, nullptr);
+    boîtes.journal.clear();
+}
+
+void JeuTest::TearDown()
+{
+    if (forme) {
+        PartieVierge = True; // nothing to confirm on the way out
+        delete forme;
+    }
+    InstalleDialogueNouvellePartie(nullptr);
+    InstalleBoîtes(nullptr);
+    InstalleSons(nullptr);
+    InstalleHorloge(nullptr);
+    InstalleHasard(nullptr);
+    InstalleEcran(std::nullopt);
+    InstalleDossierProgramme(QString());
+}
+
+void JeuTest::CliqueEn(QPoint pointCarte)
+{
+    auto &E = Principal();
+    const QPoint dansCarte(pointCarte.x() - E.BarreH->Value(), pointCarte.y() - E.BarreV->Value());
+    QWidget *cible = E.Carte->childAt(dansCarte);
+    ASSERT_NE(cible, nullptr) << "nothing to click at " << pointCarte.x() << "," << pointCarte.y();
+    QTest::mouseClick(cible, Qt::LeftButton, {}, cible->mapFrom(E.Carte, dansCarte));
+}
+
+void JeuTest::NouvellePartieAuNiveau(int niveau, bool apprentissage)
+{
+    InstalleDialogueNouvellePartie([niveau, apprentissage] {
+        NomJoueur = QStringLiteral("Test");
+        Niveau = static_cast<i16>(niveau);
+        ModeApprentissage = Booléen(apprentissage);
+        ScoreGelé = Booléen(apprentissage);
+        Principal().BoutonGruge->setPicture(Principal().AmpouleAllumée->Picture());
+        Etape = OrdreEtapes[1];
+        HeureDépart = SecondesDepuisMinuit();
+    });
+    LanceNouvellePartie();
+}
+
+void JeuTest::TiragesScriptés(std::vector<float> t) { tirages.assign(t.begin(), t.end()); }
+
+void JeuTest::RépondJuste() { CliqueCanton(CantonRecherché); }
+
+void JeuTest::RépondFaux()
+{
+    for (int c = 1; c <= NombrePlaces; ++c)
+        if (c != CantonRecherché && !Cantons[c].Trouvé && !Cantons[c].Inhibé) {
+            CliqueCanton(c);
+            return;
+        }
+    FAIL() << "no other canton left to answer wrong";
+}

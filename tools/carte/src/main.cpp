@@ -1,0 +1,204 @@
+// The map generator: reads the pinned boundary data, fits it to the game's
+// canton table and writes KELMOR.pts and the map's pictures into data/.
+// Every guarantee the game relies on is checked here; any failure stops the
+// run with a message and writes nothing.
+#include "Ajustement.h"
+#include "Cantons.h"
+#include "Carte.h"
+#include "Trame.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QSaveFile>
+#include <cmath>
+#include <cstdio>
+#include <stdexcept>
+
+namespace {
+
+void Dit(const QString &s) { std::fprintf(stdout, "%s\n", qPrintable(s)); std::fflush(stdout); }
+
+// The large cantons, whose rectangles hug their outline; Bern's top is left
+// out (its rectangle still reaches up to the Laufental, now in Basel-Land).
+Options OptionsAjustement()
+{
+    Options o;
+    const int tous = Gauche | Droite | Haut | Bas;
+    o.bords = {{6, Gauche | Droite | Bas}, {10, tous}, {23, tous}, {24, tous}, {20, tous},
+               {16, tous}, {26, tous}, {7, tous}, {12, tous}, {3, tous}};
+    o.raideur = 200.0;
+    return o;
+}
+
+struct Bilan {
+    double rms = 0, max = 0;
+};
+
+Bilan RésidusVilles(const std::function<QPointF(QPointF)> &projette, bool détail)
+{
+    Bilan b;
+    for (const FicheCanton &c : Cantons()) {
+        const QPointF p = projette(c.villeLv95);
+        const double dx = p.x() - (c.villeGauche + 3.5), dy = p.y() - (c.villeHaut + 4.0);
+        const double r = std::hypot(dx, dy);
+        b.rms += r * r;
+        b.max = std::max(b.max, r);
+        if (détail)
+            Dit(QString("  %1 %2  %3 px (%4, %5)")
+                    .arg(c.numéro, 2).arg(c.sigle).arg(r, 4, 'f', 1).arg(dx, 5, 'f', 1).arg(dy, 5, 'f', 1));
+    }
+    b.rms = std::sqrt(b.rms / NombreCantons);
+    return b;
+}
+
+QVector<Polygone> EnListe(const std::array<Polygone, 26> &a) { return QVector<Polygone>(a.begin(), a.end()); }
+
+// The raster the game clicks on, simplified to fit its table, and checked.
+Trame FaisTrame(const Géographie &g, QStringList &échecs)
+{
+    int chevauchements = 0;
+    const Trame exacte = Rasterise(EnListe(g.cantons), LargeurCarte, HauteurCarte, &chevauchements);
+    Dit(QString("Raster: %1 runs as drawn, %2 pixels claimed twice").arg(CompteRuns(exacte)).arg(chevauchements));
+
+    // The town dots' middles and the enclaves' pixels are left alone.
+    Protégés protégés(LargeurCarte * HauteurCarte, false);
+    for (const FicheCanton &c : Cantons())
+        protégés[c.milieuVille().y() * LargeurCarte + c.milieuVille().x()] = true;
+    const Trame enclaves = Rasterise(g.enclaves, LargeurCarte, HauteurCarte);
+    int pixelsEnclaves = 0;
+    for (int i = 0; i < enclaves.zones.size(); ++i)
+        if (enclaves.zones[i] != 0) {
+            protégés[i] = true;
+            ++pixelsEnclaves;
+        }
+
+    Trame t = FiltreMajorité(exacte, protégés);
+    Dit(QString("  after the 3 x 3 majority: %1 runs").arg(CompteRuns(t)));
+    const int fusionnés = FusionneRunsCourts(t, protégés);
+    Dit(QString("  after merging %1 one-pixel runs: %2 runs").arg(fusionnés).arg(CompteRuns(t)));
+
+    // Checks.
+    const int runs = CompteRuns(t);
+    if (runs > RunsMax)
+        échecs << QString("%1 runs, the game holds %2").arg(runs).arg(RunsMax);
+    if (t.hauteur > LignesMax)
+        échecs << QString("%1 rows, the game holds %2").arg(t.hauteur).arg(LignesMax);
+    for (const FicheCanton &c : Cantons()) {
+        const QPoint m = c.milieuVille();
+        if (t.at(m.x(), m.y()) != c.numéro)
+            échecs << QString("the dot of %1 (%2, %3) falls in zone %4").arg(c.sigle).arg(m.x()).arg(m.y()).arg(t.at(m.x(), m.y()));
+        int n = 0;
+        QRect étendue;
+        for (int y = 0; y < t.hauteur; ++y)
+            for (int x = 0; x < t.largeur; ++x)
+                if (t.at(x, y) == c.numéro) {
+                    ++n;
+                    étendue |= QRect(x, y, 1, 1);
+                }
+        if (n == 0)
+            échecs << QString("%1 has no pixel").arg(c.sigle);
+        else if (!c.rectInv().contains(étendue))
+            échecs << QString("%1's pixels spill out of its picture").arg(c.sigle);
+        const Écarts é = ÉcartsRectangle(g.cantons[c.numéro - 1], QRectF(c.rectInv()));
+        if (é.pire() < 0)
+            échecs << QString("%1's outline crosses its picture's side by %2 px").arg(c.sigle).arg(-é.pire(), 0, 'f', 2);
+    }
+    // Simplifying moves borders by a pixel, never further.
+    int déplacés = 0;
+    for (int y = 0; y < t.hauteur; ++y)
+        for (int x = 0; x < t.largeur; ++x) {
+            if (t.at(x, y) == exacte.at(x, y))
+                continue;
+            ++déplacés;
+            bool voisin = false;
+            for (int dy = -1; dy <= 1; ++dy)
+                for (int dx = -1; dx <= 1; ++dx)
+                    voisin = voisin || exacte.sûr(x + dx, y + dy) == t.at(x, y);
+            if (!voisin)
+                échecs << QString("pixel (%1, %2) moved to zone %3, not a neighbour's").arg(x).arg(y).arg(t.at(x, y));
+        }
+    Dit(QString("  %1 pixels changed by the simplification, each to a neighbour's zone").arg(déplacés));
+    // The enclaves stay foreign.
+    for (int i = 0; i < enclaves.zones.size(); ++i)
+        if (enclaves.zones[i] != 0 && t.zones[i] != 0)
+            échecs << "an enclave pixel belongs to a canton";
+    Dit(QString("  enclaves: %1 pixels, zone 0").arg(pixelsEnclaves));
+    // Lakes: their water is the canton's where the boundaries say so, else 0.
+    for (const Lac &l : g.lacs) {
+        const Trame eau = Rasterise({l.forme}, LargeurCarte, HauteurCarte);
+        QMap<int, int> parZone;
+        int total = 0, commeDessiné = 0;
+        for (int i = 0; i < eau.zones.size(); ++i)
+            if (eau.zones[i]) {
+                ++total;
+                ++parZone[t.zones[i]];
+                commeDessiné += t.zones[i] == exacte.zones[i];
+            }
+        QStringList détail;
+        for (auto it = parZone.begin(); it != parZone.end(); ++it)
+            détail << QString("%1:%2").arg(it.key() ? Canton(it.key()).sigle : "0").arg(it.value());
+        Dit(QString("  lake %1: %2 px, %3 % as the boundaries say; %4").arg(l.nom).arg(total)
+                .arg(total ? 100.0 * commeDessiné / total : 100.0, 0, 'f', 1).arg(détail.join(' ')));
+        if (total && commeDessiné < 0.9 * total)
+            échecs << QString("lake %1 strays from its cantons").arg(l.nom);
+    }
+    return t;
+}
+
+void Écris(const QString &chemin, const QByteArray &contenu)
+{
+    QSaveFile f(chemin);
+    if (!f.open(QIODevice::WriteOnly) || f.write(contenu) != contenu.size() || !f.commit())
+        throw std::runtime_error("cannot write " + chemin.toStdString());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QCommandLineParser p;
+    p.setApplicationDescription("Makes KELMOR.pts and the map pictures from the boundary data.");
+    p.addHelpOption();
+    p.addOption({"sources", "folder of the unpacked npm packages", "dossier", "tools/build/sources"});
+    p.addOption({"annee", "year folder of swiss-maps", "année", "2026"});
+    p.addOption({"sortie", "the game's data folder", "dossier", "data"});
+    p.addOption({"apercu", "also write overlays to look at into this folder", "dossier"});
+    p.process(app);
+
+    try {
+        const Options options = OptionsAjustement();
+        const Géographie g = ChargeGéographie(p.value("sources"), p.value("annee"), options);
+        const Similitude &s = g.projection.similitude;
+        Dit(QString("Fit: %1 pixels per km, rotation %2 degrees").arg(s.pixelsParKm(), 0, 'f', 4).arg(s.rotationDegrés(), 0, 'f', 3));
+        const Bilan avant = RésidusVilles([&](QPointF q) { return s.applique(q); }, false);
+        Dit(QString("  towns through the similarity: %1 px RMS, %2 px at most").arg(avant.rms, 0, 'f', 2).arg(avant.max, 0, 'f', 2));
+        Dit("  towns through the final projection (distance, dx, dy):");
+        const Bilan après = RésidusVilles([&](QPointF q) { return g.projection.applique(q); }, true);
+        Dit(QString("  towns through the final projection: %1 px RMS, %2 px at most").arg(après.rms, 0, 'f', 2).arg(après.max, 0, 'f', 2));
+
+        QStringList échecs;
+        const Trame t = FaisTrame(g, échecs);
+        const QByteArray pts = EncodePts(t);
+        const Trame relue = DécodePts(pts, LargeurCarte, HauteurCarte);
+        if (relue.zones != t.zones)
+            échecs << "KELMOR.pts read back differs from the raster";
+        if (pts.size() != 4 * (1 + HauteurCarte + 1 + CompteRuns(t)))
+            échecs << "KELMOR.pts has the wrong size";
+        if (!échecs.isEmpty()) {
+            for (const QString &e : échecs)
+                std::fprintf(stderr, "FAILED: %s\n", qPrintable(e));
+            return 1;
+        }
+        QDir().mkpath(p.value("sortie"));
+        Écris(p.value("sortie") + "/KELMOR.pts", pts);
+        Dit(QString("Wrote KELMOR.pts: %1 runs, %2 bytes").arg(CompteRuns(t)).arg(pts.size()));
+    } catch (const std::exception &e) {
+        std::fprintf(stderr, "FAILED: %s\n", e.what());
+        return 1;
+    }
+    return 0;
+}

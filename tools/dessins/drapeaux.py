@@ -1,0 +1,271 @@
+#!/usr/bin/env python3
+"""Dessine les 26 drapeaux cantonaux (125 x 125, carrés, opaques) d'après
+leurs armoiries, en SVG simple que le moteur SVG de Qt rend tel quel.
+
+    python3 tools/dessins/drapeaux.py [dossier]   (défaut : data/drapeaux)
+
+Numérotation du jeu : ordre alphabétique des noms français."""
+
+import math
+import os
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from formes import (cercle, chemin, coupe, etoile, f, groupe, lisse, miroir,  # noqa: E402
+                    poly, rect, svg, trait)
+import figures  # noqa: E402
+
+C = 125  # côté du drapeau
+
+ROUGE = "#E2001A"
+NOIR = "#000000"
+BLANC = "#FFFFFF"
+OR = "#FFD100"
+BLEU = "#0067B1"
+BLEU_CIEL = "#3D8ED6"
+VERT = "#009A44"
+CHAIR = "#F3C6A5"
+
+
+def fond(couleur):
+    return rect(0, 0, C, C, couleur)
+
+
+def croix_suisse(cx, cy, bras, couleur):
+    """Croix alésée à bras égaux : bras = longueur totale d'un bras à l'autre."""
+    e = bras * 6 / 20  # largeur d'un bras (proportions de la croix fédérale)
+    return (rect(cx - e / 2, cy - bras / 2, e, bras, couleur)
+            + rect(cx - bras / 2, cy - e / 2, bras, e, couleur))
+
+
+# ---------------------------------------------------------------- partitions
+
+def coupe_en_deux(haut, bas):
+    return fond(bas) + rect(0, 0, C, C / 2, haut)
+
+
+def parti(gauche, droite):
+    return fond(droite) + rect(0, 0, C / 2, C, gauche)
+
+
+def tranche(haut_droite, bas_gauche):
+    """Partagé par la diagonale du coin haut-gauche au coin bas-droit."""
+    return fond(haut_droite) + poly([(0, 0), (C, C), (0, C)], bas_gauche)
+
+
+# ------------------------------------------------------------------ cantons
+
+def appenzell_ext():
+    # Ours dressé, lettres V et R de part et d'autre de la tête
+    corps = fond(BLANC) + figures.ours_dresse(20, 24, 94)
+    corps += figures.lettre_v(5, 6, 19, NOIR) + figures.lettre_r(102, 6, 19, NOIR)
+    return corps
+
+
+def appenzell_int():
+    return fond(BLANC) + figures.ours_dresse(9, 8, 110)
+
+
+def argovie():
+    corps = parti(NOIR, BLEU_CIEL)
+    # la rivière : fasce ondée blanche chargée de deux filets bleus
+    corps += figures.onde(0, C / 2, 62.5, 30, BLANC, 3)
+    corps += figures.onde(0, C / 2 - 5.5, 62.5, 3.2, BLEU, 3)
+    corps += figures.onde(0, C / 2 + 5.5, 62.5, 3.2, BLEU, 3)
+    for cx, cy in ((77, 36), (109, 36), (93, 84)):
+        corps += poly(etoile(cx, cy, 14), BLANC)
+    return corps
+
+
+def bale_campagne():
+    return fond(BLANC) + figures.crosse_bale(ROUGE, vers_gauche=False, crochets=True)
+
+
+def bale_ville():
+    return fond(BLANC) + figures.crosse_bale(NOIR, vers_gauche=True, crochets=False)
+
+
+def berne():
+    corps = fond(ROUGE)
+    l = 52  # largeur de la bande, mesurée perpendiculairement
+    d = l / math.sqrt(2)
+    corps += poly([(0, 0), (d, 0), (C, C - d), (C, C), (C - d, C), (0, d)], OR)
+    corps += figures.ours_passant()
+    return corps
+
+
+def fribourg():
+    return coupe_en_deux(NOIR, BLANC)
+
+
+def geneve():
+    corps = parti(OR, ROUGE)
+    corps += figures.demi_aigle()
+    corps += figures.cle(94, 62, 96, OR, panneton_a_droite=True)
+    return corps
+
+
+def glaris():
+    return fond(ROUGE) + figures.fridolin()
+
+
+def grisons():
+    corps = fond(BLANC)
+    h = C / 2
+    # Ligue grise : parti de sable et d'argent
+    corps += rect(0, 0, h / 2, h, NOIR)
+    # Dix-Juridictions : écartelé d'azur et d'or à la croix écartelée de l'un en l'autre
+    x0 = h
+    corps += rect(x0, 0, h / 2, h / 2, BLEU) + rect(x0 + h / 2, 0, h / 2, h / 2, OR)
+    corps += rect(x0, h / 2, h / 2, h / 2, OR) + rect(x0 + h / 2, h / 2, h / 2, h / 2, BLEU)
+    e = 11
+    cx, cy = x0 + h / 2, h / 2
+    corps += rect(cx - e / 2, 0, e / 2, h / 2, OR) + rect(cx, 0, e / 2, h / 2, BLEU)
+    corps += rect(cx - e / 2, h / 2, e / 2, h / 2, BLEU) + rect(cx, h / 2, e / 2, h / 2, OR)
+    corps += rect(x0, cy - e / 2, h / 2, e / 2, OR) + rect(x0, cy, h / 2, e / 2, BLEU)
+    corps += rect(cx, cy - e / 2, h / 2, e / 2, BLEU) + rect(cx, cy, h / 2, e / 2, OR)
+    # Ligue de la Maison-Dieu : bouquetin dressé de sable
+    corps += figures.bouquetin(30, h + 1, 60)
+    # filets de séparation
+    corps += rect(0, h - 0.6, C, 1.2, NOIR) + rect(h - 0.6, 0, 1.2, h, NOIR)
+    return corps
+
+
+def jura():
+    corps = fond(BLANC)
+    for i in range(7):
+        corps += rect(C / 2, i * C / 7, C / 2, C / 7 + 0.01, ROUGE if i % 2 == 0 else BLANC)
+    corps += groupe(figures.crosse_bale(ROUGE, vers_gauche=True, crochets=False),
+                    f"translate(2,6) scale(0.9,0.9) translate(-30,0)")
+    return corps
+
+
+def lucerne():
+    return coupe_en_deux(BLEU, BLANC)
+
+
+def neuchatel():
+    corps = fond(BLANC) + rect(0, 0, C / 3, C, VERT) + rect(2 * C / 3, 0, C / 3 + 0.5, C, ROUGE)
+    corps += croix_suisse(5 * C / 6, 22, 26, BLANC)
+    return corps
+
+
+def nidwald():
+    return fond(ROUGE) + figures.cle_double(62.5, 62.5, 104, BLANC)
+
+
+def obwald():
+    corps = coupe_en_deux(ROUGE, BLANC)
+    corps += figures.cle_partie(62.5, 62.5, 104, haut=BLANC, bas=ROUGE)
+    return corps
+
+
+def saint_gall():
+    return fond(VERT) + figures.faisceau()
+
+
+def schaffhouse():
+    return fond(OR) + figures.belier()
+
+
+def schwyz():
+    return fond(ROUGE) + croix_suisse(27, 27, 30, BLANC)
+
+
+def soleure():
+    return coupe_en_deux(ROUGE, BLANC)
+
+
+def tessin():
+    return parti(ROUGE, BLEU)
+
+
+def thurgovie():
+    corps = tranche(BLANC, VERT)
+    corps += figures.lion(57, 8, 52, 0)     # sur l'argent, en haut à droite
+    corps += figures.lion(8, 62, 52, 0)      # sur le sinople, en bas à gauche
+    return corps
+
+
+def uri():
+    return fond(OR) + figures.tete_taureau()
+
+
+def valais():
+    corps = parti(BLANC, ROUGE)
+    r = 8.2
+    ys = [14 + i * 24.25 for i in range(5)]
+    for y in ys[:4]:
+        pass
+    # quatre étoiles en pal dans chaque moitié
+    for k in range(4):
+        y = 26 + k * 24.5
+        corps += poly(etoile(21, y, r), ROUGE)
+        corps += poly(etoile(C - 21, y, r), BLANC)
+    # cinq sur la ligne de partition, de l'un en l'autre
+    for k in range(5):
+        y = 14 + k * 24.5
+        e = etoile(C / 2, y, r)
+        corps += poly(coupe(e, -1, 0, C / 2), ROUGE)   # moitié gauche : rouge sur blanc
+        corps += poly(coupe(e, 1, 0, -C / 2), BLANC)   # moitié droite : blanche sur rouge
+    return corps
+
+
+def vaud():
+    corps = coupe_en_deux(BLANC, VERT)
+    corps += figures.devise_vaud()
+    return corps
+
+
+def zoug():
+    return fond(BLANC) + rect(0, C / 3, C, C / 3, BLEU)
+
+
+def zurich():
+    return tranche(BLANC, BLEU)
+
+
+CANTONS = [
+    ("01", "AR", "Appenzell Rhodes-Extérieures", appenzell_ext),
+    ("02", "AI", "Appenzell Rhodes-Intérieures", appenzell_int),
+    ("03", "AG", "Argovie", argovie),
+    ("04", "BL", "Bâle-Campagne", bale_campagne),
+    ("05", "BS", "Bâle-Ville", bale_ville),
+    ("06", "BE", "Berne", berne),
+    ("07", "FR", "Fribourg", fribourg),
+    ("08", "GE", "Genève", geneve),
+    ("09", "GL", "Glaris", glaris),
+    ("10", "GR", "Grisons", grisons),
+    ("11", "JU", "Jura", jura),
+    ("12", "LU", "Lucerne", lucerne),
+    ("13", "NE", "Neuchâtel", neuchatel),
+    ("14", "NW", "Nidwald", nidwald),
+    ("15", "OW", "Obwald", obwald),
+    ("16", "SG", "Saint-Gall", saint_gall),
+    ("17", "SH", "Schaffhouse", schaffhouse),
+    ("18", "SZ", "Schwyz", schwyz),
+    ("19", "SO", "Soleure", soleure),
+    ("20", "TI", "Tessin", tessin),
+    ("21", "TG", "Thurgovie", thurgovie),
+    ("22", "UR", "Uri", uri),
+    ("23", "VS", "Valais", valais),
+    ("24", "VD", "Vaud", vaud),
+    ("25", "ZG", "Zoug", zoug),
+    ("26", "ZH", "Zürich", zurich),
+]
+
+
+def main():
+    ici = os.path.dirname(os.path.abspath(__file__))
+    dossier = sys.argv[1] if len(sys.argv) > 1 else os.path.join(ici, "..", "..", "data", "drapeaux")
+    os.makedirs(dossier, exist_ok=True)
+    seuls = set(sys.argv[2:])
+    for num, plaque, nom, dessin in CANTONS:
+        if seuls and plaque not in seuls:
+            continue
+        with open(os.path.join(dossier, f"drapeau{num}.svg"), "w", encoding="utf-8") as sortie:
+            sortie.write(svg(C, C, dessin(), titre=f"{nom} ({plaque})"))
+
+
+if __name__ == "__main__":
+    main()
