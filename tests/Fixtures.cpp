@@ -26,9 +26,11 @@ QByteArray RasterBandes()
     QByteArray f = Enregistrement(0, 0, 4);
     for (int y = 0; y < 456; ++y) {
         f += Enregistrement(0, 0, 0);
-        for (int c = 1; c <= 26; ++c)
-            f += Enregistrement(0, 25 * (c - 1), c);
-        f += Enregistrement(0, 650, 0);
+        const int c = y / 17 + 1;
+        if (c <= 26) {
+            f += Enregistrement(0, 0, c);
+            f += Enregistrement(0, 640, 0);
+        }
     }
     f += Enregistrement(0, 0, 0);
     return f;

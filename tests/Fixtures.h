@@ -15,16 +15,16 @@ class EcranPrincipal;
 
 // Records of a raster file: header, rows of runs, closing mark.
 QByteArray Enregistrement(int carte, int x, int zone);
-// A raster of 456 rows where canton c owns the columns 25(c−1)+1 .. 25c.
+// A raster of 456 rows where canton c owns the rows 17(c−1) .. 17c − 1, from x = 1 to 640.
 QByteArray RasterBandes();
 
 class JeuTest : public ::testing::Test {
-protected:
+public:
     void SetUp() override;
     void TearDown() override;
 
-    // A map pixel inside canton c of the striped raster.
-    static QPoint PointDe(int c) { return {25 * (c - 1) + 12, 200}; }
+    // A map pixel inside canton c of the striped raster, east of every town's dot.
+    static QPoint PointDe(int c) { return {620, 17 * (c - 1) + 8}; }
     // Clicks the map at a map pixel, through whatever picture lies there.
     void CliqueEn(QPoint pointCarte);
     void CliqueCanton(int c) { CliqueEn(PointDe(c)); }
