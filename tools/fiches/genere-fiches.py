@@ -231,6 +231,10 @@ def main(arguments):
     except Refus as e:
         print(f"refused: {e}", file=sys.stderr)
         return 1
+    except BrokenPipeError:
+        # The listing was cut short by its reader (head, sed -n ...): not an error.
+        sys.stderr.close()
+        return 0
     return 0
 
 
