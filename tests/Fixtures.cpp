@@ -87,6 +87,11 @@ void JeuTest::TearDown()
 void JeuTest::CliqueEn(QPoint pointCarte)
 {
     auto &E = Principal();
+    // A player scrolls the point into view first.
+    if (pointCarte.x() - E.BarreH->Value() >= E.Carte->width() - 4)
+        E.BarreH->setValue(E.BarreH->Max());
+    if (pointCarte.y() - E.BarreV->Value() >= E.Carte->height() - 4)
+        E.BarreV->setValue(E.BarreV->Max());
     const QPoint dansCarte(pointCarte.x() - E.BarreH->Value(), pointCarte.y() - E.BarreV->Value());
     QWidget *cible = E.Carte->childAt(dansCarte);
     ASSERT_NE(cible, nullptr) << "nothing to click at " << pointCarte.x() << "," << pointCarte.y();

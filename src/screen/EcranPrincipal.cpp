@@ -31,12 +31,20 @@ EcranPrincipal *forme = nullptr;
 
 QString Numéro(int i) { return QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0')); }
 
+} // namespace
+
 // Sizes of the canton pictures at 100 %, for a picture that is missing.
-constexpr QSize TaillesPays[27] = {
+QSize TaillePays(int i)
+{
+    static constexpr QSize TaillesPays[27] = {
     {}, {210, 46}, {195, 42}, {93, 90}, {120, 44}, {35, 40}, {200, 211}, {82, 106}, {55, 55}, {48, 72},
     {232, 166}, {88, 65}, {88, 98}, {86, 60}, {60, 47}, {61, 44}, {111, 124}, {75, 61}, {80, 64},
     {90, 80}, {99, 148}, {115, 59}, {73, 89}, {215, 144}, {153, 150}, {40, 33}, {80, 104},
-};
+    };
+    return (i >= 1 && i <= 26) ? TaillesPays[i] : QSize();
+}
+
+namespace {
 
 Image *NouvelleImage(QWidget *parent, const QString &nom, QRect géométrie, bool visible = true)
 {
@@ -113,7 +121,7 @@ EcranPrincipal::EcranPrincipal()
     miniature[6] = NouvelleImage(Carte, QStringLiteral("miniature06"), {496, 0, 174, 184}, false);
     miniature[23] = NouvelleImage(Carte, QStringLiteral("miniature23"), {0, 0, 196, 130}, false);
     for (int i = 1; i <= NombrePlaces; ++i) {
-        QSize taille = TaillesPays[i];
+        QSize taille = TaillePays(i);
         if (i == 1)
             taille.setWidth(170);
         // Placed from the canton table at load; the design places them alike.

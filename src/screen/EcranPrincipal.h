@@ -90,6 +90,8 @@ private:
 // The main form, found among the loaded forms; nullptr before it is made.
 EcranPrincipal *FormePrincipale();
 EcranPrincipal &Principal();
+// Width and height of Pays(i) at 100 %.
+QSize TaillePays(int i);
 // Index of the form named "EcranPrincipal" among the top-level forms, -1 if none.
 int IndiceEcranPrincipal();
 

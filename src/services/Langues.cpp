@@ -59,7 +59,7 @@ void ChargeImagesPays()
     // picture of that language under the canton's number.
     auto &E = Principal();
     for (int k = 1; k <= NombrePlaces; ++k)
-        E.Pays[k]->setPicture(ImageJeu(NomImagePays(k, Langue), E.Pays[k]->size()));
+        E.Pays[k]->setPicture(ImageJeu(NomImagePays(k, Langue), TaillePays(k)));
 }
 
 void EtiquetteEcran()

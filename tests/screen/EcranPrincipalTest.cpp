@@ -1,0 +1,127 @@
+// The main window after its load: its controls, their stacking and the idle state.
+#include "Fixtures.h"
+
+#include "engine/communs.h"
+#include "screen/EcranPrincipal.h"
+#include "platform/Ecran.h"
+#include "services/Langues.h"
+#include "services/Sons.h"
+
+#include <QMenuBar>
+
+namespace {
+
+using Chargement = JeuTest;
+
+TEST_F(Chargement, IdleWithTheBareMapAndNoPanel)
+{
+    auto &E = Principal();
+    EXPECT_EQ(IndiceEcranPrincipal() >= 0, true);
+    EXPECT_EQ(E.windowTitle(), "Les cantons kelmors");
+    EXPECT_EQ(Etape, 0);
+    EXPECT_EQ(Niveau, 0);
+    EXPECT_EQ(PartieVierge, True);
+    EXPECT_EQ(LargeurVignette, 200);
+    EXPECT_EQ(HauteurVignette, 188);
+    EXPECT_TRUE(E.ImageRégion[0]->Visible());
+    EXPECT_EQ(E.ImageRégion[0]->size(), QSize(652, 456));
+    EXPECT_FALSE(E.QueFaire->Visible());
+    EXPECT_FALSE(E.BoîteScore->Visible());
+    for (int i = 1; i <= 26; ++i) {
+        EXPECT_FALSE(E.Pays[i]->Visible());
+        EXPECT_FALSE(E.rond[i]->Visible());
+        EXPECT_EQ(E.Pays[i]->pos(), QPoint(Cantons[i].PaysGauche, Cantons[i].PaysHaut));
+        EXPECT_EQ(E.inv[i]->pos(), E.Pays[i]->pos());
+        EXPECT_EQ(E.inv[i]->height(), E.Pays[i]->height());
+    }
+    EXPECT_EQ(E.inv[1]->width(), 170);
+    EXPECT_EQ(E.Pays[1]->width(), 210);
+    EXPECT_EQ(E.Pays[6]->size(), QSize(200, 211));
+    EXPECT_EQ(E.miniature[10]->size(), QSize(196, 140));
+    EXPECT_EQ(E.drapeau[26]->size(), QSize(125, 125));
+    EXPECT_EQ(E.RondVille->size(), QSize(7, 8));
+    EXPECT_EQ(E.Rondcible->size(), QSize(23, 23));
+    EXPECT_EQ(SonBravo.section('/', -1), "carte_ok.wav");
+}
+
+TEST_F(Chargement, DotsLieOverEveryBorderAndLaterBordersOverEarlierOnes)
+{
+    auto &E = Principal();
+    const QObjectList enfants = E.Carte->children();
+    auto rang = [&](QObject *o) { return enfants.indexOf(o); };
+    for (int i = 1; i <= 26; ++i) {
+        EXPECT_GT(rang(E.Pays[i]), rang(E.ImageRégion[0]));
+        EXPECT_GT(rang(E.inv[i]), rang(E.Pays[i]));
+        EXPECT_GT(rang(E.rond[i]), rang(E.inv[26]));
+        if (i > 1)
+            EXPECT_GT(rang(E.Pays[i]), rang(E.inv[i - 1]));
+    }
+    // A dot stays clickable where borders overlap.
+    NouvellePartieAuNiveau(3);
+    const TCanton &c = Cantons[6];
+    EXPECT_EQ(E.Carte->childAt(c.VilleGauche + 3, c.VilleHaut + 4), E.rond[6]);
+}
+
+TEST_F(Chargement, ScreenFitOnAScreenThatShowsTheWholeMap)
+{
+    auto &E = Principal();
+    EXPECT_EQ(E.Carte->Width(), 656);
+    EXPECT_EQ(E.Carte->Height(), 456);
+    EXPECT_EQ(E.Carte->Top(), 5);
+    EXPECT_FALSE(E.BarreH->Visible());
+    EXPECT_FALSE(E.BarreV->Visible());
+    EXPECT_EQ(E.BoîteScore->Top(), 403);
+    EXPECT_EQ(E.BoîteRestants->Top(), 341);
+    EXPECT_EQ(E.BoutonGruge->Top(), 353);
+    EXPECT_EQ(E.Digit[1]->Top(), 418);
+    // The digits keep their place inside their box.
+    EXPECT_EQ(E.Digit[1]->Left() - E.BoîteScore->Left(), 178 - 31);
+    EXPECT_EQ(E.Reste[3]->Left() - E.BoîteRestants->Left(), 37 - 31);
+    EXPECT_NE(LargeurFenêtre, 0);
+}
+
+TEST_F(Chargement, MenusSpeakTheLanguageAndLanguageNamesStayFixed)
+{
+    auto &E = Principal();
+    EXPECT_EQ(E.FichierNouveau->text(), "Nouvelle partie");
+    EXPECT_EQ(E.MenuScores->title(), "Score");
+    EXPECT_EQ(E.LBLParam[7]->text(), "Plaques");
+    ChangeLangue(2);
+    EXPECT_EQ(E.FichierNouveau->text(), Messages[56]);
+    EXPECT_NE(E.FichierNouveau->text(), "Nouvelle partie");
+    EXPECT_EQ(E.MenuAllemand->text(), "Auf deutsch spielen");
+    EXPECT_EQ(E.MenuLangue->title(), "Langue / Sprache");
+    ChangeLangue(1);
+}
+
+TEST_F(Chargement, AScrollKeepsMarkersAndHitsInLine)
+{
+    // A small screen: the map scrolls under its window.
+    delete forme;
+    forme = nullptr;
+    InstalleEcran(InfoEcran{800, 600, QRect(0, 0, 800, 570), 24});
+    ASSERT_TRUE(Main());
+    forme = FormePrincipale();
+    auto &E = Principal();
+    EXPECT_EQ(E.BarreH->Max(), 86);
+    EXPECT_EQ(E.BarreH->LargeChange(), 82);
+    EXPECT_EQ(E.BarreH->SmallChange(), 16);
+
+    NouvellePartieAuNiveau(1, true);
+    const i16 asked = CantonRecherché;
+    RépondFaux();
+    RépondFaux();
+    RépondFaux();
+    E.BoutonGruge->click();
+    E.BarreH->setValue(40);
+    EXPECT_EQ(E.ImageRégion[0]->Left(), -40);
+    for (int i = 1; i <= 26; ++i) {
+        EXPECT_EQ(E.inv[i]->Left(), Cantons[i].PaysGauche - 40);
+        EXPECT_EQ(E.rond[i]->Left(), Cantons[i].VilleGauche - 40 - (i == asked ? 4 : 0));
+        EXPECT_EQ(E.rond[i]->Width(), i == asked ? 16 : 7) << "only the canton asked stays black";
+    }
+    RépondJuste();
+    EXPECT_EQ(AssistanceUtilisée, False);
+}
+
+} // namespace
