@@ -87,7 +87,7 @@ def bale_ville():
 
 def berne():
     corps = fond(ROUGE)
-    l = 52  # largeur de la bande, mesurée perpendiculairement
+    l = 58  # largeur de la bande, mesurée perpendiculairement
     d = l / math.sqrt(2)
     corps += poly([(0, 0), (d, 0), (C, C - d), (C, C), (C - d, C), (0, d)], OR)
     corps += figures.ours_passant()
@@ -125,7 +125,7 @@ def grisons():
     corps += rect(x0, cy - e / 2, h / 2, e / 2, OR) + rect(x0, cy, h / 2, e / 2, BLEU)
     corps += rect(cx, cy - e / 2, h / 2, e / 2, BLEU) + rect(cx, cy, h / 2, e / 2, OR)
     # Ligue de la Maison-Dieu : bouquetin dressé de sable
-    corps += figures.bouquetin(30, h + 1, 60)
+    corps += figures.bouquetin(39, h + 6.5, 57)
     # filets de séparation
     corps += rect(0, h - 0.6, C, 1.2, NOIR) + rect(h - 0.6, 0, 1.2, h, NOIR)
     return corps
@@ -136,12 +136,13 @@ def jura():
     for i in range(7):
         corps += rect(C / 2, i * C / 7, C / 2, C / 7 + 0.01, ROUGE if i % 2 == 0 else BLANC)
     corps += groupe(figures.crosse_bale(ROUGE, vers_gauche=True, crochets=False),
-                    f"translate(2,6) scale(0.9,0.9) translate(-30,0)")
+                    "translate(-6.5,9) scale(0.86)")
     return corps
 
 
 def lucerne():
-    return coupe_en_deux(BLEU, BLANC)
+    # le drapeau est coupé d'argent sur azur (l'écu, lui, est parti)
+    return coupe_en_deux(BLANC, BLEU)
 
 
 def neuchatel():
@@ -169,7 +170,10 @@ def schaffhouse():
 
 
 def schwyz():
-    return fond(ROUGE) + croix_suisse(27, 27, 30, BLANC)
+    # croisette à bras longs et étroits, au canton de la hampe
+    bras, e = 33, 33 / 7
+    return (fond(ROUGE) + rect(27 - e / 2, 27 - bras / 2, e, bras, BLANC)
+            + rect(27 - bras / 2, 27 - e / 2, bras, e, BLANC))
 
 
 def soleure():
@@ -182,8 +186,8 @@ def tessin():
 
 def thurgovie():
     corps = tranche(BLANC, VERT)
-    corps += figures.lion(57, 8, 52, 0)     # sur l'argent, en haut à droite
-    corps += figures.lion(8, 62, 52, 0)      # sur le sinople, en bas à gauche
+    corps += figures.lion(84, 41, 60)   # sur l'argent, en haut à droite
+    corps += figures.lion(41, 84, 60)   # sur le sinople, en bas à gauche
     return corps
 
 

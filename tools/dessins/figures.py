@@ -34,40 +34,40 @@ def onde(x0, yc, largeur, epaisseur, couleur, periodes, amplitude=4.0):
 # ------------------------------------------------------------ crosse de Bâle
 
 def crosse_bale(couleur, vers_gauche=True, crochets=False):
-    """Crosse de Bâle : crosse épaisse, nœud, pied à trois pointes. Dessinée
+    """Crosse de Bâle : volute épaisse, nœud, pied à trois pointes. Dessinée
     tournée vers la gauche, retournée au besoin autour de l'axe x = 62.5."""
-    cx, cy = 47.5, 33.0
-    rext, rint = 23.0, 9.5
-    # volute : de la droite du bâton, par le haut, jusqu'en bas à gauche
-    ext = arc(cx, cy, rext, -8, 232)
-    inte = arc(cx, cy, rint, 232, -8)
-    bout = [(cx + 16.2 * math.cos(math.radians(232)) + 7, cy - 16.2 * math.sin(math.radians(232)) - 1)]
-    volute = ext + [(cx + 14 * math.cos(math.radians(250)), cy - 14 * math.sin(math.radians(250)) + 2)] + inte
-    formes = []
-    formes.append(volute)
-    # pointe recourbée au bout de la volute, vers l'intérieur
-    a = math.radians(232)
-    pe = (cx + rext * math.cos(a), cy - rext * math.sin(a))
-    pi_ = (cx + rint * math.cos(a), cy - rint * math.sin(a))
-    formes.append([pe, pi_, (cx + 3, cy + 14)])
+    rint, rext = 10.0, 23.0
+    cx, cy = 56 - rint, 34.0          # la volute prolonge le bâton (x 56 à 69)
+    fin = 215                          # angle où la volute commence à s'effiler
+    # la volute, qui s'effile en pointe vers le bâton, d'un seul tenant
+    n = 8
+    rmil = (rint + rext) / 2
+    ext = arc(cx, cy, rext, 0, fin)[:-1] + [
+        (cx + (rext - (rext - rmil) * i / n) * math.cos(math.radians(fin + 42 * i / n)),
+         cy - (rext - (rext - rmil) * i / n) * math.sin(math.radians(fin + 42 * i / n))) for i in range(n + 1)]
+    inte = [
+        (cx + (rint + (rmil - rint) * i / n) * math.cos(math.radians(fin + 42 * i / n)),
+         cy - (rint + (rmil - rint) * i / n) * math.sin(math.radians(fin + 42 * i / n))) for i in range(n - 1, 0, -1)]
+    inte += arc(cx, cy, rint, fin, 0)
+    formes = [ext + inte]
     # bâton
-    formes.append([(56, 36), (69, 36), (69, 104), (56, 104)])
+    formes.append([(56, cy - 3), (69, cy - 3), (69, 104), (56, 104)])
     # nœud
-    formes.append([(43, 58), (56, 50), (69, 50), (82, 58), (69, 66), (56, 66)])
+    formes.append([(43, 60), (56, 52), (69, 52), (82, 60), (69, 68), (56, 68)])
     # pied à trois pointes
-    formes.append([(56, 96), (69, 96), (71, 103), (83, 112), (68, 109), (62.5, 121),
-                   (57, 109), (42, 112), (54, 103)])
+    formes.append([(56, 96), (69, 96), (71, 103), (84, 112), (68, 109), (62.5, 121),
+                   (57, 109), (41, 112), (54, 103)])
     s = ""
     for fm in formes:
         s += poly(fm if vers_gauche else miroir(fm, 62.5), couleur)
     if crochets:
+        # les sept crochets (« Krabben ») sur le dos de la volute
         for i in range(7):
-            ang = 200 - i * 33
-            ang = 212 - i * 36.5
-            p = (cx + (rext + 1.5) * math.cos(math.radians(ang)), cy - (rext + 1.5) * math.sin(math.radians(ang)))
+            ang = 205 - i * 33.5
+            p = arc(cx, cy, rext + 1, ang, ang, 1)[0]
             if not vers_gauche:
                 p = (125 - p[0], p[1])
-            s += cercle(p[0], p[1], 4.2, couleur)
+            s += cercle(p[0], p[1], 4.3, couleur)
     return s
 
 
@@ -160,7 +160,7 @@ def faisceau():
     # manche de la hache qui dépasse en haut
     s += rect(60.5, 8, 4, 26, BLANC)
     # fer de hache vers la gauche
-    s += chemin("M60.5,11 L44,6 Q36,16 44,30 L60.5,25 Z", BLANC)
+    s += chemin("M60.5,14 L51,11 L42,4 Q32,20 42,35 L51,28 L60.5,26 Z", BLANC)
     # liens : fasce et sautoir, couleur du champ
     for y in (54, 96):
         s += rect(x0 - 1, y, larg + 2, 4.5, vert)
@@ -327,7 +327,7 @@ def ours_passant():
     s += _griffes_gauche(79, 53.8, 59, 2, 4)
     s += poly([(78, 37), (80.5, 40), (78, 44), (76, 40.5)], ROUGE)
     s += cercle(15, 11.5, 1.5, BLANC)
-    return groupe(s, "translate(62.5,62.5) rotate(45) scale(0.76) translate(-50,-29)")
+    return groupe(s, "translate(64,61) rotate(45) scale(0.84) translate(-49,-29)")
 
 
 def demi_aigle():
@@ -364,11 +364,108 @@ def demi_aigle():
 
 
 def fridolin():
-    return ""
+    """Saint Fridolin de Glaris en pèlerin, marchant vers la hampe : habit de
+    sable bordé d'argent, nimbe d'or, bourdon et livre."""
+    s = ""
+    or_ = "#FFD100"
+    # nimbe
+    s += cercle(60, 23, 14, or_)
+    # bourdon (bâton de pèlerin), tenu devant
+    s += trait("M35,17 L29,119", "#B8860B", 3.4, "butt")
+    s += cercle(35.2, 16, 2.6, "#B8860B")
+    # habit
+    robe = [(52, 33), (61, 31.5), (69, 35), (75, 47), (78, 64), (83, 86), (91, 111, True),
+            (73, 114), (52, 114), (31, 111, True), (36, 93), (41, 73), (43, 55), (47, 41)]
+    s += chemin(lisse(robe), NOIR)
+    # bordure d'argent de l'ourlet et cordelière
+    s += trait("M32,110 Q52,113 90,110", BLANC, 1.6)
+    s += trait("M43,68 Q58,72 77,66", BLANC, 1.6)
+    s += trait("M58,71 L55,88", BLANC, 1.3)
+    # manche avant et main sur le bourdon
+    manche = [(50, 38), (43, 45), (36, 49, True), (37, 56, True), (45, 54), (53, 46)]
+    s += chemin(lisse(manche), NOIR)
+    s += trait("M36.5,49.5 L37.5,55.5", BLANC, 1.4, "butt")
+    s += chemin("M29,48 Q35,47 36.5,50 L37.5,55 Q33,57 30,55 Z", CHAIR)
+    # livre tenu contre la poitrine
+    s += poly([(56, 49), (70, 46), (72, 58), (58, 61)], BLANC, ' stroke="#000000" stroke-width="0.8"')
+    s += trait("M58,52 L70,49.5", "#9A9A9A", 0.9)
+    s += chemin("M53,56 Q57,53 60,56 Q58,60 54,60 Z", CHAIR)
+    # tête : visage de profil, capuchon
+    s += chemin("M52,17 Q57,11 64,13 Q70,17 69,26 Q68,32 61,34 L54,34 Q51,32 50,28 "
+                "L47.5,26 L50,24 Q49,21 52,17 Z", CHAIR)
+    s += chemin("M56,13 Q63,9.5 69,14 Q74,21 71,30 Q68,35 62,35 Q67,28 65,21 Q62,15 56,13 Z", NOIR)
+    s += cercle(53.5, 21.5, 1.1, NOIR)
+    # pieds
+    s += chemin("M29,115 Q30,111.5 36,111.5 L38,115 Z", CHAIR)
+    s += chemin("M79,115 Q80,111.5 86,111.5 L88,115 Z", CHAIR)
+    return s
+
+
+def _bezier(p0, p1, p2, p3, t):
+    u = 1 - t
+    return (u ** 3 * p0[0] + 3 * u * u * t * p1[0] + 3 * u * t * t * p2[0] + t ** 3 * p3[0],
+            u ** 3 * p0[1] + 3 * u * u * t * p1[1] + 3 * u * t * t * p2[1] + t ** 3 * p3[1])
+
+
+def corne(p0, p1, p2, p3, l0, l1, n=24):
+    """Corne effilée le long d'une courbe de Bézier cubique : largeur l0 à la
+    base, l1 à la pointe. Renvoie (contour, points de l'axe, normales)."""
+    axe, normales = [], []
+    for i in range(n + 1):
+        t = i / n
+        a = _bezier(p0, p1, p2, p3, max(0.0, t - 0.01))
+        b = _bezier(p0, p1, p2, p3, min(1.0, t + 0.01))
+        dx, dy = b[0] - a[0], b[1] - a[1]
+        ln = math.hypot(dx, dy) or 1
+        axe.append(_bezier(p0, p1, p2, p3, t))
+        normales.append((-dy / ln, dx / ln))
+    g, d = [], []
+    for i, (p, nm) in enumerate(zip(axe, normales)):
+        w = (l0 + (l1 - l0) * i / n) / 2
+        g.append((p[0] + nm[0] * w, p[1] + nm[1] * w))
+        d.append((p[0] - nm[0] * w, p[1] - nm[1] * w))
+    return g + d[::-1], axe, normales
+
+
+# Bouquetin saillant tourné vers la hampe, boîte de 100 x 100.
+_BOUQUETIN = [
+    (7, 30, True),                                     # bout du museau
+    (9, 25), (15, 19), (22, 13.5),                     # chanfrein
+    (30, 11), (35, 10), (43, 7, True), (39, 14),       # oreille
+    (41, 19), (47, 27),                                # nuque
+    (56, 36), (64, 48), (70, 57),                      # dos, croupe
+    (73, 54, True), (76, 60),                          # queue
+    (76, 68), (72, 78), (74, 88),                      # cuisse, jarret
+    (76, 97, True), (69, 97, True), (67, 90),          # sabot arrière
+    (64, 80), (62, 72), (58, 70, True),                # entrejambe
+    (54, 74), (48, 80), (44, 86),                      # jambe avant
+    (38, 92, True), (35, 87, True), (40, 83), (45, 74), (49, 64),
+    (50, 57), (44, 46),                                # ventre, poitrail
+    (38, 50), (30, 55), (25, 61),                      # patte basse
+    (20, 64, True), (19, 58, True), (26, 52), (34, 45),
+    (38, 42, True),                                    # aisselle
+    (32, 41), (24, 43), (16, 45),                      # patte haute
+    (11, 45, True), (11, 39, True), (20, 36), (30, 34),
+    (33, 32, True),                                    # gorge
+    (26, 34), (21, 41, True), (18, 34),                # barbiche
+    (12, 33.5),
+]
 
 
 def bouquetin(x, y, taille):
-    return ""
+    """Bouquetin saillant de sable de la Ligue de la Maison-Dieu."""
+    k = taille / 100.0
+    s = chemin(lisse(_BOUQUETIN), NOIR)
+    contour, axe, normales = corne((26, 14), (26, -6), (50, -10), (64, 6), 8, 1.5)
+    s += poly(contour, NOIR)
+    # nodosités de la corne, en traits du champ
+    for i in range(4, 21, 3):
+        p, nm = axe[i], normales[i]
+        w = (8 + (1.5 - 8) * i / 24) / 2 * 0.8
+        s += trait(f"M{f(p[0] + nm[0] * w)},{f(p[1] + nm[1] * w)} L{f(p[0] - nm[0] * w)},{f(p[1] - nm[1] * w)}",
+                   BLANC, 0.9, "butt")
+    s += cercle(19, 21, 1.4, BLANC)
+    return groupe(s, f"translate({f(x)},{f(y)}) scale({f(k)})")
 
 
 # Bélier saillant tourné vers la hampe, boîte de 100 x 100.
@@ -376,9 +473,9 @@ _BELIER = [
     (6, 25, True),                                   # bout du museau
     (7, 20), (13, 14), (20, 9), (28, 7),              # chanfrein, front
     (37, 10), (43, 16),                               # nuque
-    (51, 24), (58, 34), (64, 46), (70, 58),           # dos, croupe
-    (76, 57), (81, 61, True), (75, 66),               # queue
-    (75, 74), (70, 82), (72, 91),                     # cuisse, jarret
+    (51, 24), (59, 34), (66, 46), (72, 58),           # dos, croupe
+    (77, 57), (82, 61, True), (76, 66),               # queue
+    (76, 74), (71, 82), (72, 91),                     # cuisse, jarret
     (75, 98, True), (66, 98, True), (66, 92),         # sabot arrière
     (64, 84), (62, 76), (58, 72, True),               # entrejambe
     (53, 77), (46, 83), (41, 88),                     # jambe avant
@@ -406,11 +503,49 @@ def belier():
               OR, ' stroke="#000000" stroke-width="1.3" stroke-linejoin="round"')
     # œil
     s += cercle(17.5, 16, 1.5, OR)
-    return groupe(s, "translate(10,12) scale(1.04)")
+    return groupe(s, "translate(8,12) scale(1.1)")
 
 
-def lion(x, y, taille, angle):
-    return ""
+# Lion passant tourné vers la gauche, queue levée, boîte de 100 x 60.
+_LION = [
+    (3, 20, True),                                     # lèvre supérieure
+    (1, 15), (4, 10), (10, 7),                         # truffe, chanfrein
+    (10, 1, True), (16, 2.5), (18, -5, True), (23, 0),  # crinière, en mèches
+    (28, -6, True), (31, 1), (38, -3, True), (38, 5),
+    (46, 4, True), (43, 11), (50, 13),
+    (66, 14), (82, 14),                                # dos
+    (87, 12), (91, 6), (89, -1), (91, -6),             # queue dressée
+    (88, -12, True), (94, -9), (97, -15, True), (98.5, -7),
+    (95, -2), (95, 4), (97, 10), (93, 18),
+    (95, 25), (93, 34), (94, 46), (96, 52),            # cuisse, jarret
+    (97, 58, True), (86, 58), (81, 58, True), (81, 53, True),   # pied arrière
+    (85, 49), (83, 41), (78, 39, True),
+    (74, 44), (71, 51),                                # jambe arrière lointaine
+    (70, 58, True), (61, 58), (58, 58, True), (58, 53, True),
+    (63, 49), (65, 41),
+    (56, 40), (44, 40),                                # ventre
+    (40, 45), (39, 52),                                # patte avant posée
+    (40, 58, True), (31, 58), (27, 58, True), (27, 53, True),
+    (31, 48), (31, 41), (27, 38, True),
+    (21, 42), (13, 44.5),                              # patte avant levée
+    (5, 46, True), (4.5, 39, True), (12, 36), (17, 33),
+    (23, 34, True), (19, 29.5), (15, 31, True), (13, 27.5),   # barbe
+    (8, 27.5), (4, 25.5, True),                        # mâchoire
+    (10, 22.5, True),                                  # commissure
+]
+
+
+def lion(cx, cy, taille, angle=45):
+    """Lion d'or de Thurgovie, cerné de sable, langue et griffes de gueules,
+    passant en bande vers la hampe."""
+    k = taille / 100.0
+    s = chemin(lisse(_LION), OR, ' stroke="#000000" stroke-width="1.6" stroke-linejoin="round"')
+    s += poly([(3.5, 20.5), (10, 22.5), (7, 24.6), (1.5, 25), (0.5, 23)], ROUGE)
+    s += _griffes_gauche(4.5, 39.5, 45.5, 3, 3.5)
+    s += cercle(9.5, 12.5, 1.5, NOIR)
+    # mèches de la crinière
+    s += trait("M17,7 Q22,12 21,21 M26,5 Q32,11 31,20 M35,6 Q40,11 40,17", NOIR, 1.1)
+    return groupe(s, f"translate({f(cx)},{f(cy)}) rotate({f(angle)}) scale({f(k)}) translate(-50,-29)")
 
 
 # Moitié droite de la tête de taureau d'Uri, de face, boîte de 100 x 100.
