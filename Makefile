@@ -3,7 +3,7 @@ BUILD   ?= build
 TYPE    ?= Release
 JOBS    ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: run test deps build bench clean
+.PHONY: run test deps build bench fuzz clean
 
 run: build
 	./$(BUILD)/kelmor
@@ -20,6 +20,13 @@ build: deps
 
 bench: build
 	./$(BUILD)/bench/kelmor_bench
+
+# Two minutes of libFuzzer on each file reader.
+fuzz:
+	./scripts/install-deps clang libclang-rt-14-dev
+	CC=clang CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELMOR_FUZZ=ON
+	cmake --build build-fuzz -j $(JOBS) --target FuzzCarteZones
+	cd build-fuzz && ./FuzzCarteZones -max_total_time=120 -max_len=20000
 
 clean:
 	rm -rf $(BUILD)

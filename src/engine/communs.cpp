@@ -168,6 +168,8 @@ bool ChargeCarteZones()
             ligne = -1;
             compte = 0;
         }
+        if (carte < 0)
+            return refuse(); // 255 can't open the file: it names the map of the records before
         if (n == 0) {
             if (r.Zone != 4 || r.X != 0)
                 return refuse();

@@ -96,6 +96,7 @@ TEST_F(Raster, BadFilesAreRefusedWithTheFormatMessageAndLeaveTheTablesAlone)
         Enregistrement(0, 1, 4) + Ligne(),                    // header's X
         Tête() + Ligne() + Enregistrement(7, 10, 2),          // a map this game hasn't
         Tête() + Ligne() + QByteArray(2, '\x01'),             // a cut record
+        Enregistrement(255, 0, 4) + Enregistrement(255, 9, 3), // 255 before any map
         tropDeSegments,
         tropDeLignes,
         Tête() + QByteArray(1 << 20, '\0'),                   // far larger than any map

@@ -1,0 +1,53 @@
+// Any file in place of the map's raster: no crash, no write outside the tables,
+// and a refused file leaves the tables as they were.
+#include "engine/communs.h"
+#include "platform/Boites.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+QTemporaryDir *dossier;
+BoîtesScriptées *boîtes;
+TPointSegment avant[NombreCartes][MaxSegments];
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    static QCoreApplication application(*argc, *argv);
+    dossier = new QTemporaryDir();
+    boîtes = new BoîtesScriptées();
+    InstalleBoîtes(boîtes);
+    ChargeChaînes();
+    RépertoireApplication = dossier->path();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille)
+{
+    QFile f(dossier->filePath(QStringLiteral("KELMOR.pts")));
+    if (!f.open(QIODevice::WriteOnly))
+        std::abort();
+    f.write(reinterpret_cast<const char *>(octets), qint64(taille));
+    f.close();
+    std::memcpy(avant, PointsSegments, sizeof avant);
+    boîtes->journal.clear();
+    if (ChargeCarteZones()) {
+        if (!boîtes->journal.empty())
+            std::abort();
+        for (int y = -1; y <= MaxLignes; y += 7)
+            for (int x = -1; x < 700; x += 13) {
+                const i16 z = ZoneEn(0, x, y);
+                (void)z;
+            }
+    } else if (boîtes->journal.size() != 1 || std::memcmp(avant, PointsSegments, sizeof avant) != 0) {
+        std::abort();
+    }
+    boîtes->journal.clear();
+    return 0;
+}
