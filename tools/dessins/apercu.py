@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Aperçu agrandi de quelques drapeaux pour la mise au point du dessin :
-écrit des SVG de taille N (défaut 250) dans /tmp/apercu/, à passer ensuite à
-verifie_svg --planche.   python3 apercu.py [--taille N] PLAQUE..."""
+"""Enlarged preview of a few flags while drawing them: writes SVGs of size N
+(250 by default) into /tmp/apercu/, to be passed on to verifie_svg --planche.
+
+    python3 apercu.py [--taille N] PLATE..."""
 import os
 import sys
 

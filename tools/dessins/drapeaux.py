@@ -1,21 +1,20 @@
 #!/usr/bin/env python3
-"""Dessine les 26 drapeaux cantonaux (125 x 125, carrés, opaques) d'après
-leurs armoiries, en SVG simple que le moteur SVG de Qt rend tel quel.
+"""Draws the 26 canton flags (125 x 125, square, opaque) from their arms, as
+plain SVG that Qt's SVG renderer draws as it is.
 
-    python3 tools/dessins/drapeaux.py [dossier]   (défaut : data/drapeaux)
+    python3 tools/dessins/drapeaux.py [folder [PLATE...]]   (default: data/drapeaux)
 
-Numérotation du jeu : ordre alphabétique des noms français."""
+The game numbers the cantons in the alphabetical order of their French names."""
 
 import math
 import os
 import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from formes import (cercle, chemin, coupe, etoile, f, groupe, lisse, miroir,  # noqa: E402
-                    poly, rect, svg, trait)
+from formes import coupe, etoile, groupe, poly, rect, svg  # noqa: E402
 import figures  # noqa: E402
 
-C = 125  # côté du drapeau
+C = 125  # side of the flag
 
 ROUGE = "#E2001A"
 NOIR = "#000000"
@@ -24,7 +23,6 @@ OR = "#FFD100"
 BLEU = "#0067B1"
 BLEU_CIEL = "#3D8ED6"
 VERT = "#009A44"
-CHAIR = "#F3C6A5"
 
 
 def fond(couleur):
@@ -32,8 +30,8 @@ def fond(couleur):
 
 
 def croix_suisse(cx, cy, bras, couleur):
-    """Croix alésée à bras égaux : bras = longueur totale d'un bras à l'autre."""
-    e = bras * 6 / 20  # largeur d'un bras (proportions de la croix fédérale)
+    """Couped cross with equal arms; bras is the span from one arm's end to the other's."""
+    e = bras * 6 / 20  # width of an arm, as in the federal cross
     return (rect(cx - e / 2, cy - bras / 2, e, bras, couleur)
             + rect(cx - bras / 2, cy - e / 2, bras, e, couleur))
 
@@ -49,14 +47,14 @@ def parti(gauche, droite):
 
 
 def tranche(haut_droite, bas_gauche):
-    """Partagé par la diagonale du coin haut-gauche au coin bas-droit."""
+    """Divided by the diagonal from the top left corner to the bottom right one."""
     return fond(haut_droite) + poly([(0, 0), (C, C), (0, C)], bas_gauche)
 
 
 # ------------------------------------------------------------------ cantons
 
 def appenzell_ext():
-    # Ours dressé, lettres V et R de part et d'autre de la tête
+    # bear rampant between the letters V and R
     corps = fond(BLANC) + figures.ours_dresse(20, 24, 94)
     corps += figures.lettre_v(5, 6, 19, NOIR) + figures.lettre_r(102, 6, 19, NOIR)
     return corps
@@ -68,7 +66,7 @@ def appenzell_int():
 
 def argovie():
     corps = parti(NOIR, BLEU_CIEL)
-    # la rivière : fasce ondée blanche chargée de deux filets bleus
+    # the river: a white wavy fess charged with two blue wavy lines
     corps += figures.onde(0, C / 2, 62.5, 30, BLANC, 3)
     corps += figures.onde(0, C / 2 - 5.5, 62.5, 3.2, BLEU, 3)
     corps += figures.onde(0, C / 2 + 5.5, 62.5, 3.2, BLEU, 3)
@@ -87,7 +85,7 @@ def bale_ville():
 
 def berne():
     corps = fond(ROUGE)
-    l = 58  # largeur de la bande, mesurée perpendiculairement
+    l = 58  # width of the bend, measured across it
     d = l / math.sqrt(2)
     corps += poly([(0, 0), (d, 0), (C, C - d), (C, C), (C - d, C), (0, d)], OR)
     corps += figures.ours_passant()
@@ -112,9 +110,9 @@ def glaris():
 def grisons():
     corps = fond(BLANC)
     h = C / 2
-    # Ligue grise : parti de sable et d'argent
+    # Grey League: per pale sable and argent
     corps += rect(0, 0, h / 2, h, NOIR)
-    # Dix-Juridictions : écartelé d'azur et d'or à la croix écartelée de l'un en l'autre
+    # Ten Jurisdictions: quarterly azure and or, a cross quartered counterchanged
     x0 = h
     corps += rect(x0, 0, h / 2, h / 2, BLEU) + rect(x0 + h / 2, 0, h / 2, h / 2, OR)
     corps += rect(x0, h / 2, h / 2, h / 2, OR) + rect(x0 + h / 2, h / 2, h / 2, h / 2, BLEU)
@@ -124,9 +122,9 @@ def grisons():
     corps += rect(cx - e / 2, h / 2, e / 2, h / 2, BLEU) + rect(cx, h / 2, e / 2, h / 2, OR)
     corps += rect(x0, cy - e / 2, h / 2, e / 2, OR) + rect(x0, cy, h / 2, e / 2, BLEU)
     corps += rect(cx, cy - e / 2, h / 2, e / 2, BLEU) + rect(cx, cy, h / 2, e / 2, OR)
-    # Ligue de la Maison-Dieu : bouquetin dressé de sable
+    # League of God's House: an ibex rampant sable
     corps += figures.bouquetin(39, h + 6.5, 57)
-    # filets de séparation
+    # thin dividing lines
     corps += rect(0, h - 0.6, C, 1.2, NOIR) + rect(h - 0.6, 0, 1.2, h, NOIR)
     return corps
 
@@ -141,7 +139,7 @@ def jura():
 
 
 def lucerne():
-    # le drapeau est coupé d'argent sur azur (l'écu, lui, est parti)
+    # the flag is white over blue (the shield itself is per pale)
     return coupe_en_deux(BLANC, BLEU)
 
 
@@ -170,7 +168,7 @@ def schaffhouse():
 
 
 def schwyz():
-    # croisette à bras longs et étroits, au canton de la hampe
+    # small cross with long narrow arms, in the upper hoist
     bras, e = 33, 33 / 7
     return (fond(ROUGE) + rect(27 - e / 2, 27 - bras / 2, e, bras, BLANC)
             + rect(27 - bras / 2, 27 - e / 2, bras, e, BLANC))
@@ -186,8 +184,8 @@ def tessin():
 
 def thurgovie():
     corps = tranche(BLANC, VERT)
-    corps += figures.lion(84, 41, 60)   # sur l'argent, en haut à droite
-    corps += figures.lion(41, 84, 60)   # sur le sinople, en bas à gauche
+    corps += figures.lion(84, 41, 60)   # on the white, upper right
+    corps += figures.lion(41, 84, 60)   # on the green, lower left
     return corps
 
 
@@ -198,20 +196,17 @@ def uri():
 def valais():
     corps = parti(BLANC, ROUGE)
     r = 8.2
-    ys = [14 + i * 24.25 for i in range(5)]
-    for y in ys[:4]:
-        pass
-    # quatre étoiles en pal dans chaque moitié
+    # four stars in pale in each half
     for k in range(4):
         y = 26 + k * 24.5
         corps += poly(etoile(21, y, r), ROUGE)
         corps += poly(etoile(C - 21, y, r), BLANC)
-    # cinq sur la ligne de partition, de l'un en l'autre
+    # five on the dividing line, counterchanged
     for k in range(5):
         y = 14 + k * 24.5
         e = etoile(C / 2, y, r)
-        corps += poly(coupe(e, -1, 0, C / 2), ROUGE)   # moitié gauche : rouge sur blanc
-        corps += poly(coupe(e, 1, 0, -C / 2), BLANC)   # moitié droite : blanche sur rouge
+        corps += poly(coupe(e, -1, 0, C / 2), ROUGE)   # left half: red on white
+        corps += poly(coupe(e, 1, 0, -C / 2), BLANC)   # right half: white on red
     return corps
 
 

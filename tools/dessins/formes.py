@@ -1,11 +1,11 @@
-"""Petits outils de géométrie pour écrire du SVG simple (profil Tiny 1.2) :
-pas de clipPath ni de masque, tout est découpé ici à l'avance."""
+"""Small geometry helpers that write plain SVG (Tiny 1.2 profile, as Qt SVG
+renders it): no clipPath and no mask, anything cut is cut here beforehand."""
 
 import math
 
 
 def f(v):
-    """Nombre court et stable dans le fichier."""
+    """Short, stable number text for the file."""
     s = f"{v:.2f}".rstrip("0").rstrip(".")
     return "0" if s in ("-0", "") else s
 
@@ -47,7 +47,7 @@ def groupe(contenu, transform):
 
 
 def etoile(cx, cy, r, branches=5, creux=0.382, angle=-90):
-    """Sommets d'une étoile, une pointe vers le haut par défaut."""
+    """Vertices of a star, one point up by default."""
     pts = []
     for i in range(2 * branches):
         rr = r if i % 2 == 0 else r * creux
@@ -57,7 +57,7 @@ def etoile(cx, cy, r, branches=5, creux=0.382, angle=-90):
 
 
 def coupe(points, a, b, c):
-    """Garde la partie du polygone où a*x + b*y + c >= 0 (Sutherland-Hodgman)."""
+    """Keeps the part of the polygon where a*x + b*y + c >= 0 (Sutherland-Hodgman)."""
     sortie = []
     n = len(points)
     for i in range(n):
@@ -73,13 +73,13 @@ def coupe(points, a, b, c):
 
 
 def lisse(points):
-    """Contour fermé arrondi. Chaque point est (x, y) ou (x, y, True) pour un
-    angle vif (griffe, oreille, corne) ; les autres servent de points de
-    contrôle entre les milieux des côtés."""
+    """Rounded closed outline. Each point is (x, y), or (x, y, True) for a
+    sharp corner (claw, ear, horn); the others are control points of curves
+    running between the midpoints of the sides."""
     pts = [(p[0], p[1], len(p) > 2 and p[2]) for p in points]
     n = len(pts)
     mil = lambda i: ((pts[i][0] + pts[(i + 1) % n][0]) / 2, (pts[i][1] + pts[(i + 1) % n][1]) / 2)
-    # départ sur un angle vif s'il y en a, sinon au milieu du premier côté
+    # start on a sharp corner if there is one, else halfway along the last side
     debut = next((i for i in range(n) if pts[i][2]), None)
     d = []
     if debut is None:
@@ -96,12 +96,12 @@ def lisse(points):
         else:
             m = mil(i)
             d.append(f"Q{f(x)},{f(y)} {f(m[0])},{f(m[1])}")
-    # si le départ est un angle vif, le dernier Q est arrivé au milieu avant
-    # lui : on ferme par une ligne
+    # when the start is a sharp corner the last curve stops at the midpoint
+    # before it: a straight line closes the outline
     d.append("Z")
     return " ".join(d)
 
 
 def miroir(points, axe):
-    """Symétrique horizontal autour de x = axe."""
+    """Mirror image about the vertical line x = axe."""
     return [(2 * axe - p[0],) + tuple(p[1:]) for p in points]

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Icônes des fenêtres et repères de la carte, en SVG simple (profil Tiny
-1.2) que le moteur SVG de Qt rend tel quel.
+"""Icons of the windows and markers of the map, as plain SVG (Tiny 1.2
+profile) that Qt's SVG renderer draws as it is.
 
-    python3 tools/dessins/icones.py [dossier]   (défaut : data/images)
+    python3 tools/dessins/icones.py [folder]   (default: data/images)
 
-Chaque icône de bouton a la taille du bouton : le dessin garde une marge
-pour que le cadre du bouton reste visible autour."""
+A button's icon has the size of the button: the drawing keeps a margin so
+that the button's frame still shows around it."""
 
 import os
 import sys
@@ -19,7 +19,7 @@ ROUGE = "#FF0000"
 
 
 def degrade(ident, x1, y1, x2, y2, arrets):
-    """Dégradé linéaire en unités utilisateur."""
+    """Linear gradient in user units."""
     s = (f'<linearGradient id="{ident}" gradientUnits="userSpaceOnUse" '
          f'x1="{f(x1)}" y1="{f(y1)}" x2="{f(x2)}" y2="{f(y2)}">\n')
     for pos, couleur in arrets:
@@ -31,17 +31,17 @@ def defs(*contenus):
     return "<defs>\n" + "".join(contenus) + "</defs>\n"
 
 
-# ------------------------------------------------------------------ repères
+# ------------------------------------------------------------------ map markers
 
 def octogone(x0, y0, l, h, c):
-    """Pastille à angles coupés de c pixels, alignée sur la grille : bords
-    droits nets à 100 %, arrondie à 200 %."""
+    """Dot with its corners cut by c pixels, on the pixel grid: straight edges
+    stay sharp at 100 %, and it looks round at 200 %."""
     return [(x0 + c, y0), (x0 + l - c, y0), (x0 + l, y0 + c), (x0 + l, y0 + h - c),
             (x0 + l - c, y0 + h), (x0 + c, y0 + h), (x0, y0 + h - c), (x0, y0 + c)]
 
 
 def pastille(fond, anneau):
-    """Point de chef-lieu de 7 x 8 : disque et anneau d'un pixel."""
+    """Chief-town dot, 7 x 8: a disc in a one-pixel ring."""
     return (poly(octogone(0, 0, 7, 8, 2), anneau)
             + poly(octogone(1, 1, 5, 6, 1.5), fond))
 
@@ -54,7 +54,7 @@ def disque(taille, fond, anneau=None):
 
 
 def _anneau(c, rext, rint, couleur):
-    """Anneau plein entre deux rayons (trou par la règle pair-impair)."""
+    """Solid ring between two radii (the hole made by the even-odd rule)."""
     def rond(r):
         return (f"M{f(c - r)},{f(c)} A{f(r)},{f(r)} 0 1 0 {f(c + r)},{f(c)} "
                 f"A{f(r)},{f(r)} 0 1 0 {f(c - r)},{f(c)} Z")
@@ -62,22 +62,22 @@ def _anneau(c, rext, rint, couleur):
 
 
 def cible():
-    """Cible de 23 x 23 : anneaux noirs et rouges de deux pixels, le fond de
-    carte visible entre eux pour qu'on voie encore le canton dessous."""
+    """Target, 23 x 23: black and red rings two pixels wide, with the map
+    showing between them so that the canton underneath stays visible."""
     c = 11.5
     return (_anneau(c, 11.5, 9.5, NOIR) + _anneau(c, 9.5, 7.5, ROUGE)
             + _anneau(c, 5.5, 3.5, NOIR) + cercle(c, c, 3.5, ROUGE)
             + cercle(c, c, 1.2, NOIR))
 
 
-# ------------------------------------------------------------------ ampoules
+# ------------------------------------------------------------------ bulbs
 
 def ampoule(allumee):
     s = ""
     if allumee:
         s += defs(degrade("verre", 10, 3, 22, 20, [(0, "#FFFBD0"), (0.45, "#FFE53B"), (1, "#F5A300")]),
                   degrade("culot", 11, 0, 21, 0, [(0, "#8A8A8A"), (0.5, "#E8E8E8"), (1, "#7A7A7A")]))
-        # rayons
+        # rays
         for x1, y1, x2, y2 in ((16, 0.8, 16, 2.6), (5.2, 4.6, 6.6, 6.0), (26.8, 4.6, 25.4, 6.0),
                                (1.2, 13, 3.2, 13), (30.8, 13, 28.8, 13), (3.4, 21, 5.2, 20),
                                (28.6, 21, 26.8, 20)):
@@ -87,37 +87,26 @@ def ampoule(allumee):
         s += defs(degrade("verre", 10, 3, 22, 20, [(0, "#FFFFFF"), (0.5, "#E4E8EC"), (1, "#AEB6BE")]),
                   degrade("culot", 11, 0, 21, 0, [(0, "#8A8A8A"), (0.5, "#E8E8E8"), (1, "#7A7A7A")]))
         verre, bord, filament = "url(#verre)", "#6E7680", "#7A7A7A"
-    # globe et col
+    # globe and neck
     s += chemin("M16,3.5 C10.2,3.5 6.5,7.7 6.5,12.6 C6.5,16.3 8.6,18.3 10.2,20.3 "
                 "C11.2,21.6 11.5,22.6 11.5,23.5 L20.5,23.5 C20.5,22.6 20.8,21.6 21.8,20.3 "
                 "C23.4,18.3 25.5,16.3 25.5,12.6 C25.5,7.7 21.8,3.5 16,3.5 Z",
                 verre, f' stroke="{bord}" stroke-width="1.1"')
     # filament
     s += trait("M13.5,23 L13,16.5 L14.5,13.5 L16,16 L17.5,13.5 L19,16.5 L18.5,23", filament, 1.0)
-    if allumee:
-        s += chemin("M11,9 Q12.5,6.2 15.5,5.6", "none", ' stroke="#FFFFFF" stroke-width="1.4" stroke-linecap="round"')
-    else:
-        s += chemin("M11,9 Q12.5,6.2 15.5,5.6", "none", ' stroke="#FFFFFF" stroke-width="1.4" stroke-linecap="round"')
-    # culot à pas de vis
+    # glint on the glass
+    s += trait("M11,9 Q12.5,6.2 15.5,5.6", "#FFFFFF", 1.4)
+    # screw base
     s += rect(11.3, 23.5, 9.4, 5.2, "url(#culot)", ' stroke="#555555" stroke-width="0.8"')
     s += trait("M11.6,25.2 L20.4,24.6 M11.6,27.2 L20.4,26.6", "#555555", 0.8)
     s += chemin("M13.2,28.7 L18.8,28.7 L17.6,31 L14.4,31 Z", "#444444")
     return s
 
 
-# ------------------------------------------------------------------ flèches
-
-def fleche_droite(x, y, l, h, couleur, bord):
-    """Flèche pleine vers la droite dans la boîte (x, y, l, h)."""
-    tige = h * 0.42
-    pts = [(x, y + (h - tige) / 2), (x + l * 0.52, y + (h - tige) / 2), (x + l * 0.52, y),
-           (x + l, y + h / 2), (x + l * 0.52, y + h), (x + l * 0.52, y + (h + tige) / 2),
-           (x, y + (h + tige) / 2)]
-    return poly(pts, couleur, f' stroke="{bord}" stroke-width="1.2" stroke-linejoin="round"')
-
+# ------------------------------------------------------------------ buttons
 
 def bouton_passe():
-    """« Je passe » : deux triangles et une barre, comme « au suivant »."""
+    """Pass: two triangles and a bar, the usual "skip to next" sign."""
     s = defs(degrade("vert", 0, 10, 0, 35, [(0, "#7CD67C"), (1, "#1E8C1E")]))
     attr = ' stroke="#0B4A0B" stroke-width="1.4" stroke-linejoin="round"'
     s += poly([(10, 10), (27, 22.5), (10, 35)], "url(#vert)", attr)
@@ -127,8 +116,8 @@ def bouton_passe():
 
 
 def fleche_edition(sens):
-    """Boutons de la fiche : BTNUp (première fiche), BTNLeft, BTNRight,
-    BTNDown (dernière fiche). Boîte de 33 x 33."""
+    """Buttons of the card editor: BTNUp (first card), BTNLeft, BTNRight,
+    BTNDown (last card). 33 x 33 box."""
     s = defs(degrade("bleu", 0, 6, 0, 27, [(0, "#8EC5FF"), (1, "#1C5FB8")]))
     attr = ' stroke="#0A2F66" stroke-width="1.2" stroke-linejoin="round"'
     if sens == "gauche":
@@ -145,18 +134,18 @@ def fleche_edition(sens):
 
 
 def sortie(l, h):
-    """Porte ouverte et flèche qui en sort : fermer la fenêtre."""
+    """Open door with an arrow going out: close the window."""
     k = min(l, h) / 41.0
     s = defs(degrade("bois", 0, 0, 14, 0, [(0, "#A0522D"), (1, "#6B3410")]),
              degrade("fl", 0, 14, 0, 28, [(0, "#FF8A7A"), (1, "#C81E0A")]))
     d = ""
-    # chambranle
+    # door frame
     d += rect(7, 6, 18, 29, "#3A3A3A")
     d += rect(9, 8, 14, 27, "#FFF6D8")
-    # battant entrouvert
+    # door ajar
     d += poly([(9, 8), (19, 11), (19, 37), (9, 35)], "url(#bois)", ' stroke="#40200A" stroke-width="0.8"')
     d += cercle(17, 23, 1.1, "#F4C430")
-    # flèche vers la sortie
+    # arrow going out
     d += poly([(20, 18.5), (28, 18.5), (28, 14), (36, 21), (28, 28), (28, 23.5), (20, 23.5)],
               "url(#fl)", ' stroke="#6A0C00" stroke-width="1" stroke-linejoin="round"')
     dx = (l - 41 * k) / 2
@@ -165,7 +154,7 @@ def sortie(l, h):
 
 
 def statistiques(l, h):
-    """Histogramme : ouvre le tableau des pertes par canton."""
+    """Bar chart: opens the table of points lost per canton."""
     k = min(l, h) / 37.0
     d = ""
     d += rect(6, 7, 1.6, 24, "#333333") + rect(6, 29.4, 28, 1.6, "#333333")
@@ -178,7 +167,7 @@ def statistiques(l, h):
 
 
 def disquette(l, h):
-    """Disquette : enregistre le tableau des statistiques."""
+    """Floppy disk: saves the statistics table."""
     k = min(l, h) / 41.0
     s = defs(degrade("disq", 0, 7, 0, 34, [(0, "#4F8FE0"), (1, "#1D4F9A")]))
     d = ""
@@ -194,24 +183,24 @@ def disquette(l, h):
 
 
 def ferme_palette():
-    """Petit signe de fermeture de la palette, 19 x 19."""
+    """Small close sign of the colour palette, 19 x 19."""
     s = rect(1.5, 1.5, 16, 16, "#E8E8E8", ' rx="2" ry="2" stroke="#404040" stroke-width="1"')
     s += trait("M5.5,5.5 L13.5,13.5 M13.5,5.5 L5.5,13.5", "#B00000", 2.4, "round")
     return s
 
 
-# ------------------------------------------------------------------ icône
+# ------------------------------------------------------------------ window icon
 
-# Contour très simplifié du pays (fraction de la largeur et de la hauteur).
+# Much simplified outline of the country (fractions of width and height).
 _PAYS = [(0.00, 0.80), (0.06, 0.66), (0.14, 0.52), (0.24, 0.36), (0.31, 0.20), (0.36, 0.12),
          (0.46, 0.15), (0.55, 0.07), (0.58, 0.00), (0.64, 0.06), (0.76, 0.09), (0.83, 0.16),
          (0.86, 0.30), (0.92, 0.40), (1.00, 0.48), (0.97, 0.62), (0.89, 0.67), (0.86, 0.79),
          (0.79, 0.73), (0.72, 0.79), (0.66, 0.81), (0.63, 1.00), (0.56, 0.89), (0.55, 0.77),
          (0.47, 0.81), (0.39, 0.89), (0.30, 0.95), (0.21, 0.89), (0.13, 0.83), (0.05, 0.86)]
 
-# Découpage en quelques « cantons » : chaque morceau est le contour coupé
-# par une suite de demi-plans (a, b, c), gardant a*x + b*y + c >= 0 ;
-# un nom précédé de « - » garde l'autre côté.
+# A few "cantons": each piece is the outline cut by a series of half-planes
+# (a, b, c) keeping a*x + b*y + c >= 0; a name written with a leading "-"
+# keeps the other side.
 _COUPES = {
     "ouest": (-1, -0.08, 0.34),     # x < 0.34 - 0.08 y
     "centre": (-1, 0, 0.64),        # x < 0.64
@@ -236,8 +225,8 @@ def _oppose(dp):
 
 
 def icone():
-    """Icône de la fenêtre : la carte du pays découpée en cantons de couleur,
-    une punaise plantée dessus."""
+    """Window icon: the country cut into coloured cantons, with a pin stuck
+    in it."""
     from formes import coupe
     s = defs(degrade("ciel", 0, 0, 0, 32, [(0, "#D8EEFF"), (1, "#8CC2EE")]),
              degrade("tete", 19, 3, 28, 13, [(0, "#FF7A70"), (1, "#C00000")]))
@@ -253,7 +242,7 @@ def icone():
                       ' stroke="#FFFFFF" stroke-width="0.7" stroke-linejoin="round"')
     s += poly([(x0 + a * l, y0 + b * h) for a, b in _PAYS], "none",
               ' stroke="#2B4A66" stroke-width="0.9" stroke-linejoin="round"')
-    # punaise : ombre, aiguille, tête
+    # pin: shadow, needle, head
     s += chemin("M16.6,19.8 Q19.2,18.7 21.6,19.6 Q19.2,20.9 16.6,19.8 Z", "#000000", ' fill-opacity="0.3"')
     s += trait("M18.8,19.6 L21.6,12.2", "#404040", 1.2, "round")
     s += cercle(23.0, 8.4, 5.0, "url(#tete)", ' stroke="#6A0000" stroke-width="0.9"')
@@ -262,7 +251,7 @@ def icone():
 
 
 FICHIERS = [
-    # repères de la carte
+    # map markers
     ("RondVille.svg", 7, 8, lambda: pastille(BLANC, NOIR)),
     ("RondPref.svg", 7, 8, lambda: pastille(ROUGE, "#7A0000")),
     ("Rond0.svg", 7, 8, lambda: pastille(ROUGE, NOIR)),
@@ -270,19 +259,19 @@ FICHIERS = [
     ("Rondrouge.svg", 16, 16, lambda: disque(16, ROUGE, NOIR)),
     ("Rondjaune.svg", 20, 20, lambda: disque(20, "#FFFF00", NOIR)),
     ("Rondcible.svg", 23, 23, cible),
-    # écran principal
+    # main window
     ("AmpouleAllumee.svg", 32, 32, lambda: ampoule(True)),
     ("AmpouleEteinte.svg", 32, 32, lambda: ampoule(False)),
     ("BoutonPasse.svg", 60, 45, bouton_passe),
     ("Icone.svg", 32, 32, icone),
     ("FermePalette.svg", 19, 19, ferme_palette),
-    # meilleurs scores
+    # best scores
     ("AffichageScoresCommand1.svg", 40, 37, lambda: sortie(40, 37)),
     ("BoutonStatistiques.svg", 40, 37, lambda: statistiques(40, 37)),
-    # statistiques
+    # statistics
     ("StatsCommand1.svg", 41, 41, lambda: sortie(41, 41)),
     ("BoutonSauvegarde.svg", 41, 41, lambda: disquette(41, 41)),
-    # édition des fiches
+    # card editor
     ("BTNUp.svg", 33, 33, lambda: fleche_edition("haut")),
     ("BTNLeft.svg", 33, 33, lambda: fleche_edition("gauche")),
     ("BTNRight.svg", 33, 33, lambda: fleche_edition("droite")),

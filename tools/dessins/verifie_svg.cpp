@@ -1,14 +1,14 @@
-// Contrôle des images SVG du jeu avec le moteur de rendu de Qt lui-même :
-// chaque fichier doit se charger sans avertissement, annoncer la taille
-// écrite dans ses attributs width/height et, pour un drapeau, couvrir tout
-// son carré. Une planche-contact (1x, 2x et une loupe du 1x) permet de
-// juger le dessin à l'œil.
+// Checks the game's SVG pictures with Qt's own renderer: each file must load
+// without a warning, report the size written in its width/height attributes
+// and, for a flag, cover its whole square. A contact sheet (1x, 2x and a
+// magnified 1x) lets one judge the drawing by eye.
 //
-//   verifie_svg [--planche sortie.png] [--loupe N] fichier.svg...
+//   verifie_svg [--planche sheet.png] [--loupe N] file.svg...
 //
-// Code de retour 0 si tout va bien, 1 sinon.
+// Exit code 0 when every file passes, 1 otherwise.
 
 #include <QFile>
+#include <QDir>
 #include <QFileInfo>
 #include <QFont>
 #include <QGuiApplication>
@@ -29,7 +29,7 @@ void recueille(QtMsgType type, const QMessageLogContext &, const QString &msg)
         avertissements << msg;
 }
 
-// Taille annoncée par la racine <svg width=".." height="..">, en pixels.
+// Size given by the root <svg width=".." height="..">, in pixels.
 QSize tailleDéclarée(const QByteArray &texte)
 {
     const QRegularExpression racine(QStringLiteral("<svg\\b[^>]*>"));
@@ -97,8 +97,10 @@ struct Vignette {
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
+    // installed first, so that the platform's start-up notices are kept out
+    // of the report; each file's own warnings are collected afresh
     qInstallMessageHandler(recueille);
+    QGuiApplication app(argc, argv);
 
     QString planche;
     int loupe = 0;
@@ -113,7 +115,7 @@ int main(int argc, char **argv)
             fichiers << args[i];
     }
     if (fichiers.isEmpty()) {
-        std::fprintf(stderr, "usage : verifie_svg [--planche sortie.png] [--loupe N] fichier.svg...\n");
+        std::fprintf(stderr, "usage: verifie_svg [--planche sheet.png] [--loupe N] file.svg...\n");
         return 2;
     }
 
@@ -123,21 +125,21 @@ int main(int argc, char **argv)
         QStringList défauts;
         QFile f(chemin);
         if (!f.open(QIODevice::ReadOnly)) {
-            std::printf("ÉCHEC %s : illisible\n", qPrintable(chemin));
+            std::printf("FAIL  %s: unreadable\n", qPrintable(chemin));
             ++échecs;
             continue;
         }
         const QByteArray texte = f.readAll();
         const QSize déclarée = tailleDéclarée(texte);
         if (!déclarée.isValid())
-            défauts << QStringLiteral("pas d'attributs width/height entiers à la racine");
+            défauts << QStringLiteral("no whole width/height attributes on the root");
 
         avertissements.clear();
         QSvgRenderer r(texte);
         if (!r.isValid())
-            défauts << QStringLiteral("QSvgRenderer::isValid() faux");
+            défauts << QStringLiteral("QSvgRenderer::isValid() is false");
         if (déclarée.isValid() && r.defaultSize() != déclarée)
-            défauts << QStringLiteral("taille par défaut %1x%2 au lieu de %3x%4")
+            défauts << QStringLiteral("default size %1x%2 instead of %3x%4")
                            .arg(r.defaultSize().width()).arg(r.defaultSize().height())
                            .arg(déclarée.width()).arg(déclarée.height());
         const QSize taille = déclarée.isValid() ? déclarée : r.defaultSize();
@@ -146,27 +148,29 @@ int main(int argc, char **argv)
             un = rendu(r, taille, 1);
             deux = rendu(r, taille, 2);
             if (!quelqueChose(un))
-                défauts << QStringLiteral("rendu vide");
-            if (chemin.contains(QLatin1String("/drapeaux/")) && (!toutOpaque(un) || !toutOpaque(deux)))
-                défauts << QStringLiteral("drapeau pas entièrement opaque");
+                défauts << QStringLiteral("renders nothing");
+            if (QFileInfo(chemin).absoluteDir().dirName() == QLatin1String("drapeaux") && (!toutOpaque(un) || !toutOpaque(deux)))
+                défauts << QStringLiteral("flag not wholly opaque");
         }
         for (const QString &a : std::as_const(avertissements))
-            défauts << QStringLiteral("avertissement Qt : ") + a;
+            défauts << QStringLiteral("Qt warning: ") + a;
 
         const bool bon = défauts.isEmpty();
         if (!bon)
             ++échecs;
-        std::printf("%s %s %dx%d%s%s\n", bon ? "ok   " : "ÉCHEC", qPrintable(chemin),
-                    taille.width(), taille.height(), bon ? "" : " : ", qPrintable(défauts.join(QStringLiteral("; "))));
+        std::printf("%s %s %dx%d%s%s\n", bon ? "ok   " : "FAIL ", qPrintable(chemin),
+                    taille.width(), taille.height(), bon ? "" : ": ", qPrintable(défauts.join(QStringLiteral("; "))));
         vignettes.push_back({QFileInfo(chemin).fileName(), un, deux, bon});
     }
 
     if (!planche.isEmpty() && !vignettes.empty()) {
-        // Cellules de taille égale, assez grandes pour le plus grand rendu 2x.
+        // only small pictures (dots, icons) get the magnified copy
+        const auto agrandie = [loupe](const QImage &im) { return loupe > 0 && !im.isNull() && im.width() <= 64; };
+        // Cells of equal size, large enough for the largest 2x rendering.
         int lmax = 0, hmax = 0;
         for (const auto &v : vignettes) {
-            const int lo = loupe > 0 ? v.un.width() * loupe : 0;
-            const int ho = loupe > 0 ? v.un.height() * loupe : 0;
+            const int lo = agrandie(v.un) ? v.un.width() * loupe : 0;
+            const int ho = agrandie(v.un) ? v.un.height() * loupe : 0;
             lmax = std::max(lmax, v.un.width() + v.deux.width() + lo + 24);
             hmax = std::max(hmax, std::max({v.un.height(), v.deux.height(), ho}) + 24);
         }
@@ -191,7 +195,7 @@ int main(int argc, char **argv)
                 p.drawImage(r.topLeft(), *im);
                 x += im->width() + 6;
             }
-            if (loupe > 0 && !v.un.isNull()) {
+            if (agrandie(v.un)) {
                 const QImage g = v.un.scaled(v.un.size() * loupe, Qt::IgnoreAspectRatio, Qt::FastTransformation);
                 const QRect r(x, y0, g.width(), g.height());
                 damier(p, r);
@@ -202,10 +206,10 @@ int main(int argc, char **argv)
         }
         p.end();
         if (!img.save(planche)) {
-            std::fprintf(stderr, "impossible d'écrire %s\n", qPrintable(planche));
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(planche));
             return 1;
         }
     }
-    std::printf("%d fichier(s), %d échec(s)\n", int(fichiers.size()), échecs);
+    std::printf("%d file(s), %d failure(s)\n", int(fichiers.size()), échecs);
     return échecs ? 1 : 0;
 }
