@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLayout>
 #include <QMenuBar>
 #include <QNetworkAccessManager>
 #include <QTextEdit>
@@ -301,8 +302,9 @@ void EcranPrincipal::setHeight(int twips)
     const int cadre = frameGeometry().height() - geometry().height();
     resize(width(), std::max(1, twips / TwipsPerPixelY - cadre));
 }
-int EcranPrincipal::ScaleWidth() const { return centralWidget()->width(); }
-int EcranPrincipal::ScaleHeight() const { return height() - menuBar()->height(); }
+// The client area, from the window's own size: the layout may not have run yet.
+int EcranPrincipal::ScaleWidth() const { return width(); }
+int EcranPrincipal::ScaleHeight() const { return height() - menuBar()->sizeHint().height(); }
 
 void EcranPrincipal::showEvent(QShowEvent *e)
 {
@@ -428,6 +430,8 @@ void AjusteCarte()
         carte->setWidth(LargeurEcran - 30);
     else
         carte->setWidth(LargeurEcran - E.QueFaire->Width() - 30);
+    // Refresh: the menu bar and the client area take their places before Carte is measured.
+    E.layout()->activate();
     E.update();
     const QRect travail = MesureEcran().zoneTravail;
     RectangleEcran = {travail.left(), travail.top(), travail.left() + travail.width(), travail.top() + travail.height()};
