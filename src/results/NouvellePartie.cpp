@@ -18,6 +18,7 @@ NouvellePartie::NouvellePartie() : QDialog(FormePrincipale())
     setObjectName(QStringLiteral("NouvellePartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4545 / TwipsPerPixelY);
     setWindowTitle(Messages[56]);
+    setProperty("HelpContextID", HelpContextID);
 
     Label1 = new QLabel(Messages[81], this);
     Label1->setGeometry(31, 29, 226, 21);

@@ -3,6 +3,7 @@
 #include "engine/communs.h"
 #include "platform/Boites.h"
 #include "screen/EcranPrincipal.h"
+#include "services/Aide.h"
 #include "services/Langues.h"
 #include "services/Sons.h"
 
@@ -45,8 +46,9 @@ void LanceRévision()
 
 void AfficheAide()
 {
-    // The general topic, whatever the panel shows.
+    // The general topic, whatever the panel shows; the form keeps it afterwards.
     Principal().HelpContextID = 10;
+    OuvreAide(10);
 }
 
 void AfficheAPropos()

@@ -7,6 +7,7 @@
 #include "platform/Images.h"
 #include "results/Resultats.h"
 #include "screen/Commandes.h"
+#include "services/Aide.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
@@ -219,7 +220,10 @@ EcranPrincipal::EcranPrincipal()
     RichTextBox1->hide();
     Inet1 = new QNetworkAccessManager(this);
 
+    for (int i : {11, 12, 15, 16})
+        Bouton[i]->setProperty("HelpContextID", 65);
     Relie();
+    InstalleToucheAide();
 }
 
 EcranPrincipal::~EcranPrincipal()

@@ -7,7 +7,11 @@
 #include "services/Langues.h"
 #include "services/Sons.h"
 
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QTest>
+#include "results/NouvellePartie.h"
+#include "services/Aide.h"
 
 namespace {
 
@@ -122,6 +126,33 @@ TEST_F(Chargement, AScrollKeepsMarkersAndHitsInLine)
     }
     RépondJuste();
     EXPECT_EQ(AssistanceUtilisée, False);
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(Chargement, F1OpensTheContextOfTheFormAndMenuAideAlwaysTheGeneralTopic)
+{
+    std::vector<int> ouverts;
+    InstalleAide([&](int c) { ouverts.push_back(c); });
+    auto &E = Principal();
+    QTest::keyClick(&E, Qt::Key_F1);
+    E.HelpContextID = 65; // as after a parameterisation command
+    QTest::keyClick(E.Bouton[3], Qt::Key_F1);
+    QTest::keyClick(E.Bouton[11], Qt::Key_F1);
+    E.MenuAide->trigger();
+    QTest::keyClick(&E, Qt::Key_F1);
+    {
+        NouvellePartie dialogue;
+        QTest::keyClick(dialogue.BoîteNomJoueur, Qt::Key_F1);
+    }
+    InstalleAide(nullptr);
+    EXPECT_EQ(ouverts, (std::vector<int>{10, 65, 65, 10, 10, 20}));
+    EXPECT_TRUE(PageAide(20).endsWith("/aide/fr/aide_20.html"));
+    ChangeLangue(2);
+    EXPECT_TRUE(PageAide(160).endsWith("/aide/de/aide_160.html"));
+    ChangeLangue(1);
 }
 
 } // namespace

@@ -1,0 +1,92 @@
+#include "services/Aide.h"
+
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTextBrowser>
+#include <QUrl>
+
+int ContexteDe(QWidget *contrôle);
+
+namespace {
+std::function<void(int)> aideScriptée;
+QPointer<QTextBrowser> fenêtre;
+
+// F1 anywhere in the program: the context of the form or control that has the focus.
+class ToucheAide : public QObject {
+protected:
+    bool eventFilter(QObject *objet, QEvent *e) override
+    {
+        if (e->type() != QEvent::KeyPress)
+            return false;
+        auto *touche = static_cast<QKeyEvent *>(e);
+        if (touche->key() != Qt::Key_F1 || touche->isAutoRepeat())
+            return false;
+        OuvreAide(ContexteDe(objet->isWidgetType() ? static_cast<QWidget *>(objet) : nullptr));
+        return true;
+    }
+};
+} // namespace
+
+QString PageAide(int contexte)
+{
+    // Each language's help is a folder of pages named after their contexts.
+    const QString langue = FichierAide.endsWith(QLatin1String("DRAVELN.HLP"), Qt::CaseInsensitive) ? QStringLiteral("de")
+                                                                                                    : QStringLiteral("fr");
+    return RépertoireApplication + QStringLiteral("/aide/") + langue + QStringLiteral("/aide_%1.html").arg(contexte);
+}
+
+int ContexteActif()
+{
+    return ContexteDe(QApplication::focusWidget() ? QApplication::focusWidget() : QApplication::activeWindow());
+}
+
+int ContexteDe(QWidget *contrôle)
+{
+    for (QWidget *w = contrôle; w; w = w->parentWidget()) {
+        if (w == FormePrincipale())
+            return FormePrincipale()->HelpContextID;
+        const int c = w->property("HelpContextID").toInt();
+        if (c > 0)
+            return c;
+    }
+    return FormePrincipale() ? FormePrincipale()->HelpContextID : 10;
+}
+
+void OuvreAide(int contexte)
+{
+    if (aideScriptée) {
+        aideScriptée(contexte);
+        return;
+    }
+    QString page = PageAide(contexte);
+    if (!QFileInfo::exists(page))
+        page = PageAide(10);
+    if (!fenêtre) {
+        fenêtre = new QTextBrowser();
+        fenêtre->setAttribute(Qt::WA_DeleteOnClose);
+        fenêtre->setOpenExternalLinks(false);
+        fenêtre->resize(640, 560);
+    }
+    fenêtre->setWindowTitle(Messages.size() > 67 ? Messages[67] : QStringLiteral("Aide"));
+    fenêtre->setSource(QUrl::fromLocalFile(page));
+    fenêtre->show();
+    fenêtre->raise();
+    fenêtre->activateWindow();
+}
+
+void InstalleToucheAide()
+{
+    static ToucheAide *filtre = nullptr;
+    if (!filtre) {
+        filtre = new ToucheAide();
+        qApp->installEventFilter(filtre);
+    }
+}
+
+void InstalleAide(std::function<void(int)> aide) { aideScriptée = std::move(aide); }

@@ -1,0 +1,109 @@
+// The new game's dialog: name, level, clock, and what the caller builds from it.
+#include "Fixtures.h"
+
+#include "engine/communs.h"
+#include "results/NouvellePartie.h"
+#include "results/Resultats.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+using Dialogue = JeuTest;
+
+TEST_F(Dialogue, FirstGameOffersFacileAndAnEmptyNameWithTheFocusInIt)
+{
+    NouvellePartie d;
+    d.show();
+    QApplication::processEvents();
+    EXPECT_TRUE(d.NiveauFacile->isChecked());
+    EXPECT_TRUE(d.BoîteNomJoueur->text().isEmpty());
+    EXPECT_EQ(QApplication::focusWidget(), d.BoîteNomJoueur);
+    EXPECT_EQ(d.windowTitle(), "Nouvelle partie");
+    EXPECT_EQ(d.size(), QSize(312, 303));
+}
+
+TEST_F(Dialogue, NamesAreCutAtTwentyAndBlankNamesRefused)
+{
+    {
+        NouvellePartie d;
+        d.BoîteNomJoueur->setText("   ");
+        d.BoutonSortie->click();
+        ASSERT_EQ(boîtes.journal.size(), 1u);
+        EXPECT_EQ(boîtes.journal[0].texte, Messages[11]);
+        EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Saisie incomplète"));
+        EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
+        EXPECT_EQ(d.result(), 0);
+        EXPECT_EQ(Etape, 0);
+    }
+    const struct { const char *tapé; const char *gardé; } cas[] = {
+        {"Abcdefghijklmnopqrst", "Abcdefghijklmnopqrst"},
+        {"Abcdefghijklmnopqrstu", "Abcdefghijklmnopqrst"},
+        {"  Zoé", "  Zoé"},
+    };
+    for (const auto &c : cas) {
+        NouvellePartie d;
+        d.BoîteNomJoueur->setText(QString::fromUtf8(c.tapé));
+        d.BoutonSortie->click();
+        EXPECT_EQ(NomJoueur, QString::fromUtf8(c.gardé));
+        EXPECT_EQ(Etape, OrdreEtapes[1]);
+    }
+}
+
+TEST_F(Dialogue, LevelsAndTheClock)
+{
+    horloge = 4000.6;
+    struct Cas { QRadioButton *NouvellePartie::*bouton; int niveau; bool apprentissage; };
+    for (Cas c : {Cas{&NouvellePartie::NiveauApprentissage, 1, true}, Cas{&NouvellePartie::NiveauFacile, 1, false},
+                  Cas{&NouvellePartie::NiveauMoyen, 2, false}, Cas{&NouvellePartie::NiveauDifficile, 3, false},
+                  Cas{&NouvellePartie::NiveauExpert, 4, false}}) {
+        NouvellePartie d;
+        d.BoîteNomJoueur->setText("Lou");
+        (d.*c.bouton)->setChecked(true);
+        d.BoutonSortie->click();
+        EXPECT_EQ(Niveau, c.niveau);
+        EXPECT_EQ(ModeApprentissage, Booléen(c.apprentissage));
+        EXPECT_EQ(ScoreGelé, ModeApprentissage);
+        EXPECT_EQ(HeureDépart, 4001);
+    }
+    // After Expert the dialog offers Expert; after Apprentissage, Facile.
+    {
+        NouvellePartie d;
+        EXPECT_TRUE(d.NiveauExpert->isChecked());
+    }
+    Niveau = 1;
+    ModeApprentissage = True;
+    NouvellePartie d;
+    EXPECT_TRUE(d.NiveauFacile->isChecked());
+    d.show();
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), d.BoutonSortie) << "a known name: Enter starts the game";
+}
+
+TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
+{
+    NouvellePartieAuNiveau(2);
+    RépondJuste();
+    InstalleDialogueNouvellePartie(nullptr);
+    boîtes.réponses = {RéponseOui};
+    // The real dialog, cancelled as soon as it is up.
+    QTimer::singleShot(0, [] {
+        auto *d = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(d, nullptr);
+        static_cast<NouvellePartie *>(d)->BoutonAnnuler->click();
+    });
+    LanceNouvellePartie();
+    EXPECT_EQ(boîtes.journal.size(), 1u);
+    EXPECT_EQ(Etape, 0);
+    EXPECT_EQ(Score, -999999 + 4807);
+    EXPECT_FALSE(Principal().rond[1]->Visible());
+    EXPECT_FALSE(Principal().QueFaire->Visible());
+}
+
+} // namespace
