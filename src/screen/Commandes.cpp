@@ -3,6 +3,7 @@
 #include "engine/communs.h"
 #include "platform/Boites.h"
 #include "screen/EcranPrincipal.h"
+#include "screen/Palette.h"
 #include "services/Aide.h"
 #include "services/Langues.h"
 #include "services/Sons.h"
@@ -21,6 +22,8 @@ void RelieCommandes(EcranPrincipal &E)
     });
     relie(E.Menuson, [] { Menuson_Click(); });
     relie(E.MenuRévision, [] { LanceRévision(); });
+    relie(E.MenuCouleurCapitalesATrouver, [] { MenuCouleurCapitalesATrouver_Click(); });
+    relie(E.MenuCouleurCapitalesTrouvées, [] { MenuCouleurCapitalesTrouvées_Click(); });
     relie(E.MenuFrançais, [] { ChangeLangue(1); });
     relie(E.MenuAllemand, [] { ChangeLangue(2); });
     relie(E.MenuAutreLangue, [] { ChangeLangue(3); });
