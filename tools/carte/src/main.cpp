@@ -5,12 +5,18 @@
 #include "Ajustement.h"
 #include "Cantons.h"
 #include "Carte.h"
+#include "Dessins.h"
+#include "Png.h"
+#include "Relief.h"
 #include "Trame.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QPainter>
+#include <QTemporaryDir>
 #include <QSaveFile>
 #include <cmath>
 #include <cstdio>
@@ -154,6 +160,113 @@ void Écris(const QString &chemin, const QByteArray &contenu)
         throw std::runtime_error("cannot write " + chemin.toStdString());
 }
 
+QString Nom2x(const QString &nom) { return nom + "@2x"; }
+
+// Overlays to look at: the map, every Pays(i) and the town dots, as the game
+// would show them with every canton found.
+QImage Aperçu(const QImage &carte, const QVector<QImage> &calques, int k, bool points)
+{
+    QImage a = carte.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter p(&a);
+    for (int i = 0; i < calques.size(); ++i) {
+        const FicheCanton &c = Canton(i + 1);
+        p.drawImage(QPoint(c.paysGauche, c.paysHaut) * k, calques[i]);
+    }
+    if (points) {
+        p.setRenderHint(QPainter::Antialiasing);
+        for (const FicheCanton &c : Cantons()) {
+            p.setPen(QPen(Qt::white, 1.0 * k));
+            p.setBrush(QColor(20, 20, 20));
+            p.drawEllipse(QRectF((c.villeGauche + 0.5) * k, (c.villeHaut + 0.5) * k, 6.0 * k, 7.0 * k));
+        }
+    }
+    p.end();
+    return a;
+}
+
+// Draws and writes every picture; returns the bytes written.
+qint64 FaisImages(const Géographie &g, const Trame &t, const QString &dossier, const QString &aperçu)
+{
+    QDir().mkpath(dossier);
+    const Dessinateur d(g, t);
+    const Relief relief(g.projection);
+    qint64 total = 0;
+    QVector<QImage> cartes(3);
+    for (int k : {1, 2}) {
+        QElapsedTimer chrono;
+        chrono.start();
+        const Teintes teintes = Ombrage(relief, LargeurCarte, HauteurCarte, k);
+        cartes[k] = d.carte(teintes, k);
+        ÉcriturePng avecPalette;
+        avecPalette.quantifier = true;
+        const QString nom = k == 1 ? "carte" : Nom2x("carte");
+        const qint64 n = EnregistrePng(cartes[k], dossier + "/" + nom + ".png", avecPalette);
+        total += n;
+        Dit(QString("  %1.png %2 x %3, %4 kB (%5 s)").arg(nom).arg(cartes[k].width()).arg(cartes[k].height())
+                .arg(n / 1024).arg(chrono.elapsed() / 1000.0, 0, 'f', 1));
+    }
+    QVector<QImage> invs[3], paysFr[3], paysDe[3];
+    for (int k : {1, 2}) {
+        const QString suffixe = k == 1 ? "" : "@2x";
+        qint64 sous = 0;
+        for (const FicheCanton &c : Cantons()) {
+            const QString nn = QString("%1").arg(c.numéro, 2, 10, QChar('0'));
+            const QImage i = d.inv(c.numéro, k), fr = d.pays(c.numéro, Langue::Français, k),
+                         de = d.pays(c.numéro, Langue::Allemand, k);
+            sous += EnregistrePng(i, dossier + "/inv" + nn + suffixe + ".png");
+            sous += EnregistrePng(fr, dossier + "/pays" + nn + "_fr" + suffixe + ".png");
+            sous += EnregistrePng(de, dossier + "/pays" + nn + "_de" + suffixe + ".png");
+            invs[k] << i;
+            paysFr[k] << fr;
+            paysDe[k] << de;
+        }
+        for (const Miniature &m : Miniatures) {
+            const QString nn = QString("%1").arg(m.numéro, 2, 10, QChar('0'));
+            sous += EnregistrePng(d.miniature(m.numéro, m.taille, k), dossier + "/miniature" + nn + suffixe + ".png");
+        }
+        Dit(QString("  inv, pays and miniatures at %1x: %2 kB").arg(k).arg(sous / 1024));
+        total += sous;
+    }
+    for (const FicheCanton &c : Cantons())
+        for (Langue l : {Langue::Français, Langue::Allemand}) {
+            const PlacementNom pl = d.placement(c.numéro, l);
+            Dit(QString("  name of %1 (%2): %3 px%4, %5 line(s)").arg(c.sigle).arg(l == Langue::Français ? "fr" : "de")
+                    .arg(pl.taille).arg(pl.étirement != 100 ? QString(" at %1 %").arg(pl.étirement) : QString())
+                    .arg(pl.lignes.size()));
+        }
+    if (!aperçu.isEmpty()) {
+        QDir().mkpath(aperçu);
+        for (int k : {1, 2}) {
+            const QString s = k == 1 ? "" : "@2x";
+            Aperçu(cartes[k], paysFr[k], k, true).save(aperçu + "/apercu-fr" + s + ".png");
+            Aperçu(cartes[k], paysDe[k], k, true).save(aperçu + "/apercu-de" + s + ".png");
+            Aperçu(cartes[k], invs[k], k, false).save(aperçu + "/apercu-inv" + s + ".png");
+            // each picture alone on its part of the map, as when one canton is found
+            for (const auto &[nomPlanche, calques] : {std::pair{QString("fr"), &paysFr[k]}, {QString("de"), &paysDe[k]}, {QString("inv"), &invs[k]}}) {
+                QImage planche(QSize(1000, 760) * k, QImage::Format_RGB32);
+                planche.fill(Qt::white);
+                QPainter p(&planche);
+                int x = 0, y = 0, hauteurRangée = 0;
+                for (const FicheCanton &c : Cantons()) {
+                    const QRect zone = c.rectPays().adjusted(-6, -6, 6, 6);
+                    if (x + zone.width() > 1000) {
+                        x = 0;
+                        y += hauteurRangée + 4;
+                        hauteurRangée = 0;
+                    }
+                    p.drawImage(QPoint(x, y) * k, cartes[k], QRect(zone.topLeft() * k, zone.size() * k));
+                    p.drawImage(QPoint(x + 6, y + 6) * k, (*calques)[c.numéro - 1]);
+                    x += zone.width() + 4;
+                    hauteurRangée = std::max(hauteurRangée, zone.height());
+                }
+                p.end();
+                planche.save(aperçu + "/planche-" + nomPlanche + s + ".png");
+            }
+        }
+    }
+    return total;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -196,6 +309,9 @@ int main(int argc, char **argv)
         QDir().mkpath(p.value("sortie"));
         Écris(p.value("sortie") + "/KELMOR.pts", pts);
         Dit(QString("Wrote KELMOR.pts: %1 runs, %2 bytes").arg(CompteRuns(t)).arg(pts.size()));
+        Dit("Pictures:");
+        const qint64 octets = FaisImages(g, t, p.value("sortie") + "/images", p.value("apercu"));
+        Dit(QString("Wrote %1 kB of pictures").arg(octets / 1024));
     } catch (const std::exception &e) {
         std::fprintf(stderr, "FAILED: %s\n", e.what());
         return 1;

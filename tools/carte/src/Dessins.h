@@ -1,0 +1,57 @@
+#pragma once
+// The map's pictures, drawn from the projected outlines at 1x or 2x.
+#include "Carte.h"
+#include "Relief.h"
+#include "Trame.h"
+
+#include <QFont>
+#include <QImage>
+#include <QPainterPath>
+#include <QStringList>
+#include <array>
+
+enum class Langue { Français, Allemand };
+
+// How a canton's name is set in its picture, in 1x pixels from the
+// picture's top-left.
+struct PlacementNom {
+    QStringList lignes;
+    double taille = 0;   // font pixel size
+    int étirement = 100; // horizontal stretch, percent
+    QRectF bloc;         // the lines' box
+    double note = 0;
+};
+
+class Dessinateur {
+public:
+    Dessinateur(const Géographie &géographie, const Trame &trame);
+
+    QImage carte(const Teintes &teintes, int échelle) const;
+    QImage inv(int numéro, int échelle) const;
+    QImage pays(int numéro, Langue langue, int échelle) const;
+    QImage miniature(int numéro, QSize taille, int échelle) const;
+
+    // Where the name goes: chosen once for all cantons of a language, the
+    // tightest pictures first, each name kept clear of those placed before.
+    const PlacementNom &placement(int numéro, Langue langue) const;
+    QFont police(double taillePixels, int étirement) const;
+
+private:
+    QPainterPath chemin(const Polygone &p, double échelle, QPointF décalage = {}) const;
+    PlacementNom place(int numéro, Langue langue, const QVector<double> &occupé) const;
+    void bordIntérieur(QImage &image, const QPainterPath &forme, double largeur, QColor couleur) const;
+
+    const Géographie &g;
+    const Trame &trame;
+    QString famille;
+    std::array<QVector<PlacementNom>, 2> placements;
+};
+
+// The colours the pictures share.
+namespace Couleurs {
+inline const QColor bordCanton(196, 22, 42);   // inv(i) and the reductions
+inline const QColor bordTrouvé(120, 20, 40);   // Pays(i)
+inline const QColor teinteTrouvé(255, 214, 92, 84);
+inline const QColor texte(34, 30, 34);
+inline const QColor halo(255, 255, 255, 225);
+} // namespace Couleurs
