@@ -49,6 +49,13 @@ void Image::mouseReleaseEvent(QMouseEvent *e)
     }
 }
 
+void Image::mouseDoubleClickEvent(QMouseEvent *e)
+{
+    // The second press of a double click is no second answer.
+    pressé = false;
+    e->accept();
+}
+
 void Etiquette::setTailleFonte(qreal points)
 {
     QFont f = font();

@@ -8,6 +8,7 @@
 #include "services/Langues.h"
 #include "services/Sons.h"
 
+#include <QMouseEvent>
 #include <QTest>
 
 namespace {
@@ -357,6 +358,32 @@ TEST_F(Partie, ALanguageChangeShowsTheQuestionInGermanAtOnce)
     EXPECT_EQ(Langue, 2);
     EXPECT_EQ(boîtes.journal.back().titre, "non parlo l'italiano !");
     ChangeLangue(1);
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(Partie, ADoubleClickAnswersOnce)
+{
+    NouvellePartieAuNiveau(3);
+    const i16 c = CantonRecherché;
+    auto &E = Principal();
+    const QPoint p = PointDe(c);
+    QWidget *cible = E.Carte->childAt(p);
+    ASSERT_NE(cible, nullptr);
+    const QPoint local = cible->mapFrom(E.Carte, p);
+    // What the window system delivers for a double click: press, release, double click, release.
+    const QPointF global = cible->mapToGlobal(QPointF(local));
+    for (QEvent::Type t : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
+                           QEvent::MouseButtonRelease}) {
+        const bool enfoncé = t != QEvent::MouseButtonRelease;
+        QMouseEvent e(t, QPointF(local), global, Qt::LeftButton, enfoncé ? Qt::LeftButton : Qt::NoButton, {});
+        QApplication::sendEvent(cible, &e);
+    }
+    EXPECT_TRUE(Cantons[c].Trouvé);
+    EXPECT_EQ(RestantsEtape, 25);
+    EXPECT_EQ(Score, 999999) << "the second half of the double click isn't judged against the next question";
 }
 
 } // namespace
