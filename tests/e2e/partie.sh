@@ -1,0 +1,239 @@
+#!/usr/bin/env bash
+# One game played end to end: the real program in a real X window under its own
+# Xvfb, driven with the mouse and the keyboard as a player would, then closed by
+# the close box's message and the abandon confirmed.
+#
+#     partie.sh KELMOR CAPTURE FERME_FENETRE IMAGE.png
+#
+# KELMOR is the built program with its data beside it, CAPTURE saves the X screen,
+# FERME_FENETRE sends WM_DELETE_WINDOW, IMAGE.png receives the screen of the game
+# in progress (and IMAGE-echec.png the screen at a failure).
+set -uo pipefail
+
+if [ $# -ne 4 ]; then
+  echo "usage: $0 KELMOR CAPTURE FERME_FENETRE IMAGE.png" >&2
+  exit 2
+fi
+jeu=$1
+capture=$2
+ferme=$3
+image=$4
+
+titre_jeu='Les cantons kelmors'
+titre_dialogue='Nouvelle partie'
+titre_abandon='Partie en cours...'
+
+debut=$(date +%s%N)
+etape="checking what the run needs"
+tmp=""
+xvfb_pid=""
+jeu_pid=""
+
+say() { echo "e2e: $*"; }
+
+fenetres_du_jeu() {
+  [ -n "$jeu_pid" ] || return 0
+  local w
+  for w in $(xdotool search --onlyvisible --pid "$jeu_pid" 2>/dev/null); do
+    echo "  window $w \"$(xdotool getwindowname "$w" 2>/dev/null)\""
+  done
+}
+
+echec() {
+  echo "e2e: FAILED while $etape: $*" >&2
+  if [ -n "$jeu_pid" ] && ! kill -0 "$jeu_pid" 2>/dev/null; then
+    wait "$jeu_pid"
+    echo "e2e: the game had ended, with exit code $?" >&2
+    jeu_pid=""
+  fi
+  if [ -n "$xvfb_pid" ] && kill -0 "$xvfb_pid" 2>/dev/null; then
+    echo "e2e: windows of the game on the screen:" >&2
+    fenetres_du_jeu >&2
+    "$capture" "${image%.png}-echec.png" >/dev/null 2>&1 &&
+      echo "e2e: screen at the failure: ${image%.png}-echec.png" >&2
+  fi
+  if [ -n "$tmp" ] && [ -s "$tmp/jeu.log" ]; then
+    echo "e2e: the game's output:" >&2
+    tail -n 20 "$tmp/jeu.log" >&2
+  fi
+  exit 1
+}
+
+nettoie() {
+  if [ -n "$jeu_pid" ] && kill -0 "$jeu_pid" 2>/dev/null; then
+    kill "$jeu_pid" 2>/dev/null
+    sleep 0.5
+    kill -KILL "$jeu_pid" 2>/dev/null
+  fi
+  if [ -n "$xvfb_pid" ] && kill -0 "$xvfb_pid" 2>/dev/null; then
+    kill "$xvfb_pid" 2>/dev/null
+    wait "$xvfb_pid" 2>/dev/null
+  fi
+  [ -n "$tmp" ] && rm -rf "$tmp"
+}
+trap nettoie EXIT
+trap 'echec "interrupted"' INT TERM
+
+# Waits up to $1 seconds for the command that follows to succeed.
+attend() {
+  local limite=$1
+  shift
+  local fin
+  fin=$(($(date +%s%N) + limite * 1000000000))
+  until "$@"; do
+    [ "$(date +%s%N)" -lt "$fin" ] || return 1
+    sleep 0.1
+  done
+}
+
+# The game's visible window of that exact title, if there is one.
+fenetre() {
+  xdotool search --all --onlyvisible --pid "$jeu_pid" --name "^$1\$" 2>/dev/null | head -n 1
+}
+fenetre_ouverte() { [ -n "$(fenetre "$1")" ]; }
+# Stops waiting as soon as the game is gone: nothing more will open then.
+fenetre_ou_fin() { fenetre_ouverte "$1" || ! kill -0 "$jeu_pid" 2>/dev/null; }
+fenetre_fermee() { [ -z "$(fenetre "$1")" ]; }
+jeu_vivant() { kill -0 "$jeu_pid" 2>/dev/null; }
+jeu_fini() { ! jeu_vivant; }
+
+# Sets X, Y, WIDTH, HEIGHT for a window.
+geometrie() {
+  eval "$(xdotool getwindowgeometry --shell "$1")" || echec "no geometry for window $1"
+}
+
+# Keystrokes go where the X focus is: without a window manager, the program itself
+# gives it to its new windows, and we check that rather than hope.
+focus_sur() {
+  attend 5 test "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ||
+    echec "the keyboard focus is not on window $1 (it is on $(xdotool getwindowfocus 2>/dev/null))"
+}
+
+# ---------------------------------------------------------------- what the run needs
+
+for outil in Xvfb xdotool; do
+  command -v "$outil" >/dev/null || echec "$outil is not installed (scripts/install-deps installs it)"
+done
+[ -x "$jeu" ] || echec "no program at $jeu"
+[ -x "$capture" ] || echec "no screen capture tool at $capture"
+[ -x "$ferme" ] || echec "no closing tool at $ferme"
+dossier_jeu=$(cd "$(dirname "$jeu")" && pwd)
+[ -f "$dossier_jeu/KELMOR.pts" ] ||
+  echec "no map file $dossier_jeu/KELMOR.pts: the game can't start without it (it is copied from data/KELMOR.pts when cmake runs)"
+mkdir -p "$(dirname "$image")" || echec "can't make the folder of $image"
+rm -f "$image" "${image%.png}-echec.png"
+
+# Everything the game and the tools keep goes into a folder of ours.
+tmp=$(mktemp -d "${TMPDIR:-/tmp}/kelmor-e2e.XXXXXX") || echec "no temporary folder"
+mkdir -p "$tmp/home" "$tmp/run" && chmod 700 "$tmp/run"
+export HOME=$tmp/home
+export XDG_RUNTIME_DIR=$tmp/run
+export XDG_CONFIG_HOME=$tmp/home/.config XDG_DATA_HOME=$tmp/home/.local/share
+export XDG_CACHE_HOME=$tmp/home/.cache XDG_STATE_HOME=$tmp/home/.local/state
+# Nor the user's session: no bus to talk to, no session manager, no Wayland.
+export DBUS_SESSION_BUS_ADDRESS=unix:path=$tmp/run/aucun-bus
+unset SESSION_MANAGER WAYLAND_DISPLAY XAUTHORITY
+# The test runs offscreen everywhere else; the game and the capture must draw on X.
+unset QT_QPA_PLATFORM
+export QT_QPA_PLATFORM=xcb
+
+# ---------------------------------------------------------------- the X server
+
+etape="starting Xvfb"
+# -displayfd lets the server take the first free display and tell us once it accepts clients.
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$tmp/affichage" 2>"$tmp/xvfb.log" &
+xvfb_pid=$!
+attend 10 grep -q '^[0-9][0-9]*$' "$tmp/affichage" ||
+  echec "no display from Xvfb after 10 s: $(tail -n 5 "$tmp/xvfb.log")"
+export DISPLAY=:$(head -n 1 "$tmp/affichage")
+say "Xvfb on display $DISPLAY"
+
+# ---------------------------------------------------------------- the game
+
+etape="starting the game"
+(cd "$tmp/home" && exec "$jeu") >"$tmp/jeu.log" 2>&1 &
+jeu_pid=$!
+etape="waiting for the window \"$titre_jeu\""
+attend 20 fenetre_ou_fin "$titre_jeu" || echec "no window \"$titre_jeu\" after 20 s"
+jeu_vivant || echec "the game ended before showing its window"
+principale=$(fenetre "$titre_jeu")
+geometrie "$principale"
+fx=$X fy=$Y fw=$WIDTH fh=$HEIGHT
+say "main window $principale at ${fx},${fy}, ${fw}x${fh}"
+[ "$fw" -ge 652 ] && [ "$fh" -ge 456 ] || echec "the window (${fw}x${fh}) can't hold the map"
+
+# ---------------------------------------------------------------- Fichier > Nouvelle partie
+
+etape="opening the menu Fichier"
+avant=$(xdotool search --onlyvisible --pid "$jeu_pid" | sort)
+# "Fichier" is the first title of the menu bar, at its left end.
+xdotool mousemove "$((fx + 25))" "$((fy + 9))" click 1
+menu_ouvert() {
+  menu=$(comm -13 <(echo "$avant") <(xdotool search --onlyvisible --pid "$jeu_pid" | sort) | head -n 1)
+  [ -n "$menu" ]
+}
+attend 5 menu_ouvert || echec "no menu opened after a click on Fichier"
+geometrie "$menu"
+# The menu opens right under the bar: that gives the bar's height, hence where the map is.
+barre=$((Y - fy))
+[ "$barre" -ge 10 ] && [ "$barre" -le 60 ] || echec "menu at ${X},${Y}: not under the menu bar"
+
+etape="choosing Nouvelle partie"
+# First entry of the menu.
+xdotool mousemove "$((X + 40))" "$((Y + 10))" click 1
+attend 10 fenetre_ouverte "$titre_dialogue" || echec "no dialog \"$titre_dialogue\" after choosing the first entry of Fichier"
+dialogue=$(fenetre "$titre_dialogue")
+
+etape="filling in the dialog \"$titre_dialogue\""
+focus_sur "$dialogue"
+xdotool type --delay 20 'Essai'
+xdotool key Return
+attend 10 fenetre_fermee "$titre_dialogue" || echec "the dialog did not close on Enter"
+
+# ---------------------------------------------------------------- clicks on the map
+
+etape="clicking on the map"
+# The map lies 5 px under the menu bar at the left of the client area, 652 x 456.
+cx=$((fx + 652 / 2))
+cy=$((fy + barre + 5 + 456 / 2))
+for d in "0 0" "-40 -20" "40 20"; do
+  set -- $d
+  xdotool mousemove "$((cx + $1))" "$((cy + $2))" click 1
+  sleep 0.2
+done
+sleep 0.5
+jeu_vivant || echec "the game ended during the clicks"
+autres=$(xdotool search --onlyvisible --pid "$jeu_pid" | while read -r w; do
+  [ "$w" = "$principale" ] && continue
+  # Message boxes and dialogs carry a title; the game has no other titled window.
+  n=$(xdotool getwindowname "$w" 2>/dev/null)
+  [ -n "$n" ] && [ "$n" != kelmor ] && echo "\"$n\""
+done)
+[ -z "$autres" ] || echec "windows opened by the clicks: $autres"
+
+etape="saving the screen of the game in progress"
+"$capture" "$image" >"$tmp/capture.log" 2>&1 && [ -s "$image" ] ||
+  echec "no screenshot: $(cat "$tmp/capture.log")"
+say "game in progress: $image"
+
+# ---------------------------------------------------------------- closing
+
+etape="closing the window by its close box"
+"$ferme" "$principale" || echec "the close message could not be sent"
+attend 10 fenetre_ou_fin "$titre_abandon" ||
+  echec "no question \"$titre_abandon\" after the close message (did no click count?)"
+jeu_vivant || echec "the game ended without asking to confirm the abandon of the game in progress"
+boite=$(fenetre "$titre_abandon")
+
+etape="answering Yes to \"$titre_abandon\""
+focus_sur "$boite"
+# Yes is the box's default button; if Enter meant No, the game would stay and fail below.
+xdotool key Return
+attend 10 jeu_fini || echec "the game still runs 10 s after Yes"
+wait "$jeu_pid"
+code=$?
+jeu_pid=""
+[ "$code" -eq 0 ] || echec "the game ended with exit code $code"
+
+duree=$((($(date +%s%N) - debut) / 100000000))
+say "passed in $((duree / 10)).$((duree % 10)) s"
