@@ -30,7 +30,7 @@ void AffichePatience()
 
 void FermePatience()
 {
-    if (patience)
-        patience->deleteLater();
+    // Deleted now: a deferred deletion asked for inside the first show would wait for a later loop.
+    delete patience.data();
     patience = nullptr;
 }

@@ -156,3 +156,14 @@ TEST_F(Chargement, F1OpensTheContextOfTheFormAndMenuAideAlwaysTheGeneralTopic)
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(Chargement, TheLoadingFormIsGoneOnceTheMainWindowShows)
+{
+    QApplication::processEvents();
+    for (QWidget *w : QApplication::topLevelWidgets())
+        EXPECT_NE(w->objectName(), "Patience") << "visible: " << w->isVisible();
+}
+
+} // namespace
