@@ -12,6 +12,9 @@
 #include "services/TableChaines.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <QMenu>
 
 std::vector<QString> Messages(170);
@@ -24,10 +27,29 @@ std::vector<QString> CheminsInfo;
 QString FichierAide;
 
 namespace {
+// The buttons of the message boxes and dialogs speak the language too.
+void TraductionsQt()
+{
+    static QTranslator *traduction = nullptr;
+    if (!QCoreApplication::instance())
+        return;
+    if (!traduction) {
+        traduction = new QTranslator(QCoreApplication::instance());
+        QCoreApplication::installTranslator(traduction);
+    }
+    // An empty translator leaves Qt's own English: the French one is loaded for French too.
+    const QString nom = Langue == 2 ? QStringLiteral("qtbase_de") : QStringLiteral("qtbase_fr");
+    if (!traduction->load(nom, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        return;
+    QCoreApplication::removeTranslator(traduction);
+    QCoreApplication::installTranslator(traduction);
+}
+
 void ChargeMessages()
 {
     for (int i = 0; i <= NombreMessages; ++i)
         Messages[i] = ChaîneTable(1000 + i + 250 * (Langue - 1));
+    TraductionsQt();
 }
 } // namespace
 
