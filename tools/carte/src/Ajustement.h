@@ -61,7 +61,7 @@ struct Options {
     // Every canton must stay at least this far inside every side of its
     // rectangle (inv(i), the narrower of its two pictures).
     double margeMin = 0.3;
-    double pasDéformation = 48.0;
+    double pasDéformation = 32.0;
     double raideur = 40.0; // weight of the warp's bending against the towns
 };
 

@@ -212,13 +212,19 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<double> &occ
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < l; ++x) {
             const int z = trame.sûr(r.left() + x, r.top() + y);
-            // the borders of the others are drawn over the name when they are found
-            bool bordAutre = false;
+            // Pictures of higher numbers lie above this one on the map: their
+            // tint and border would cover the name, those below would not.
+            bool bordDessus = false, bordDessous = false;
             for (auto [dx, dy] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
                 const int v = trame.sûr(r.left() + x + dx, r.top() + y + dy);
-                bordAutre = bordAutre || (v != z && v != n && v != 0) || (v != z && z != n && z != 0);
+                if (v == z)
+                    continue;
+                for (int w : {v, z})
+                    if (w != n && w != 0)
+                        (w > n ? bordDessus : bordDessous) = true;
             }
-            valeur[y * l + x] = (z == n ? 3.0 : z == 0 ? 1.5 : -1.5) - (bordAutre ? 5.0 : 0.0)
+            const double fond = z == n ? 3.0 : z == 0 ? 1.5 : z < n ? -1.0 : -4.0;
+            valeur[y * l + x] = fond - (bordDessus ? 5.0 : bordDessous ? 1.5 : 0.0)
                                 - 12.0 * std::min(1.0, occupé.value((r.top() + y) * LargeurCarte + r.left() + x));
         }
     // the town dots, which stay clickable: a name never covers one
@@ -340,6 +346,10 @@ QImage Dessinateur::pays(int n, Langue langue, int k) const
         const double y = pl.bloc.top() * k + m.ascent() + i * interligne;
         texte.addText(QPointF(std::round(x), std::round(y)), f, pl.lignes[i]);
     }
+    // The name with its halo stays whole inside the picture, at every scale.
+    const QRectF étendue = texte.boundingRect().adjusted(-1.3 * k, -1.3 * k, 1.3 * k, 1.3 * k);
+    if (!QRectF(image.rect()).adjusted(-0.5, -0.5, 0.5, 0.5).contains(étendue))
+        throw std::runtime_error(std::string("the name of ") + c.sigle + " spills out of its picture at " + std::to_string(k) + "x");
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);

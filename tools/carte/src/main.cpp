@@ -21,6 +21,7 @@
 #include <cmath>
 #include <cstdio>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace {
 
@@ -131,6 +132,12 @@ Trame FaisTrame(const Géographie &g, QStringList &échecs)
         if (enclaves.zones[i] != 0 && t.zones[i] != 0)
             échecs << "an enclave pixel belongs to a canton";
     Dit(QString("  enclaves: %1 pixels, zone 0").arg(pixelsEnclaves));
+    // Liechtenstein is foreign too: Vaduz, Schaan, Balzers.
+    for (QPointF lieu : {QPointF(9.5209, 47.1410), QPointF(9.5095, 47.1650), QPointF(9.4993, 47.0660)}) {
+        const QPoint q = g.projection.applique(Lv95(lieu.x(), lieu.y())).toPoint();
+        if (t.sûr(q.x(), q.y()) != 0)
+            échecs << QString("Liechtenstein at (%1, %2) is in zone %3").arg(q.x()).arg(q.y()).arg(t.sûr(q.x(), q.y()));
+    }
     // Lakes: their water is the canton's where the boundaries say so, else 0.
     for (const Lac &l : g.lacs) {
         const Trame eau = Rasterise({l.forme}, LargeurCarte, HauteurCarte);
@@ -213,6 +220,8 @@ qint64 FaisImages(const Géographie &g, const Trame &t, const QString &dossier, 
             const QString nn = QString("%1").arg(c.numéro, 2, 10, QChar('0'));
             const QImage i = d.inv(c.numéro, k), fr = d.pays(c.numéro, Langue::Français, k),
                          de = d.pays(c.numéro, Langue::Allemand, k);
+            if (i.size() != c.rectInv().size() * k || fr.size() != c.rectPays().size() * k || de.size() != fr.size())
+                throw std::runtime_error(std::string("wrong picture size for ") + c.sigle);
             sous += EnregistrePng(i, dossier + "/inv" + nn + suffixe + ".png");
             sous += EnregistrePng(fr, dossier + "/pays" + nn + "_fr" + suffixe + ".png");
             sous += EnregistrePng(de, dossier + "/pays" + nn + "_de" + suffixe + ".png");
@@ -222,7 +231,10 @@ qint64 FaisImages(const Géographie &g, const Trame &t, const QString &dossier, 
         }
         for (const Miniature &m : Miniatures) {
             const QString nn = QString("%1").arg(m.numéro, 2, 10, QChar('0'));
-            sous += EnregistrePng(d.miniature(m.numéro, m.taille, k), dossier + "/miniature" + nn + suffixe + ".png");
+            const QImage mini = d.miniature(m.numéro, m.taille, k);
+            if (mini.size() != m.taille * k)
+                throw std::runtime_error("wrong size for a reduction");
+            sous += EnregistrePng(mini, dossier + "/miniature" + nn + suffixe + ".png");
         }
         Dit(QString("  inv, pays and miniatures at %1x: %2 kB").arg(k).arg(sous / 1024));
         total += sous;
@@ -271,7 +283,14 @@ qint64 FaisImages(const Géographie &g, const Trame &t, const QString &dossier, 
 
 int main(int argc, char **argv)
 {
+    // No display is needed: the pictures are drawn off screen.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        const QString dossier = QDir::tempPath() + "/carte-" + QString::number(getuid());
+        QDir().mkpath(dossier);
+        QFile::setPermissions(dossier, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", dossier.toLocal8Bit());
+    }
     QGuiApplication app(argc, argv);
     QCommandLineParser p;
     p.setApplicationDescription("Makes KELMOR.pts and the map pictures from the boundary data.");
@@ -292,6 +311,34 @@ int main(int argc, char **argv)
         Dit("  towns through the final projection (distance, dx, dy):");
         const Bilan après = RésidusVilles([&](QPointF q) { return g.projection.applique(q); }, true);
         Dit(QString("  towns through the final projection: %1 px RMS, %2 px at most").arg(après.rms, 0, 'f', 2).arg(après.max, 0, 'f', 2));
+        double décalageMax = 0;
+        for (const Polygone &c : g.cantonsLv95)
+            for (const Anneau &a : c)
+                for (QPointF q : a) {
+                    const QPointF d = g.projection.applique(q) - s.applique(q);
+                    décalageMax = std::max(décalageMax, std::hypot(d.x(), d.y()));
+                }
+        // and how much it stretches or turns the drawing locally
+        double étirementMax = 0;
+        const Déformation &dé = g.projection.déformation;
+        for (int y = 0; y < HauteurCarte; y += 2)
+            for (int x = 0; x < LargeurCarte; x += 2) {
+                const QPointF p0 = dé.applique(QPointF(x, y)), px = dé.applique(QPointF(x + 1, y)), py = dé.applique(QPointF(x, y + 1));
+                étirementMax = std::max({étirementMax, std::abs(px.x() - p0.x() - 1), std::abs(px.y() - p0.y()),
+                                         std::abs(py.y() - p0.y() - 1), std::abs(py.x() - p0.x())});
+            }
+        Dit(QString("  the warp moves the country by %1 px at most, and stretches the map by %2 % at most")
+                .arg(décalageMax, 0, 'f', 2).arg(100 * étirementMax, 0, 'f', 1));
+        double écartMin = 1e9;
+        const char *plusSerré = "";
+        for (const FicheCanton &c : Cantons()) {
+            const double e = ÉcartsRectangle(g.cantons[c.numéro - 1], QRectF(c.rectInv())).pire();
+            if (e < écartMin) {
+                écartMin = e;
+                plusSerré = c.sigle;
+            }
+        }
+        Dit(QString("  every canton inside its picture, the closest %1 px from a side (%2)").arg(écartMin, 0, 'f', 2).arg(plusSerré));
 
         QStringList échecs;
         const Trame t = FaisTrame(g, échecs);
