@@ -6,6 +6,8 @@
 #include "platform/Son.h"
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
+#include "platform/Images.h"
+#include "services/Langues.h"
 #include "services/Parametres.h"
 
 #include <QApplication>
@@ -60,14 +62,17 @@ void BM_DemarrageJusquALaFenetreAuRepos(benchmark::State &state)
         PartieVierge = True;
         delete FormePrincipale();
         QApplication::processEvents();
+        InstalleRatioPixels(0); // every picture read again, as at a real start
         state.ResumeTiming();
     }
 }
 BENCHMARK(BM_DemarrageJusquALaFenetreAuRepos)->Unit(benchmark::kMillisecond)->Iterations(10);
 
+// At 100 % and at 200 %: the map and its markers are painted at the screen's density.
 void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
 {
     Prépare();
+    InstalleRatioPixels(qreal(state.range(0)));
     InstalleHorloge([] { return 36000.0; });
     if (!Main()) {
         state.SkipWithError("the start failed");
@@ -79,7 +84,8 @@ void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
         Etape = OrdreEtapes[1];
     });
     LanceNouvellePartie();
-    QPixmap écran(E.Carte->size() * 2);
+    QPixmap écran(E.Carte->size() * int(state.range(0)));
+    écran.setDevicePixelRatio(qreal(state.range(0)));
     for (auto _ : state) {
         // A wrong click on the canton of the dot, then the map painted as the screen would.
         const i16 autre = CantonRecherché == 1 ? 2 : 1;
@@ -90,8 +96,32 @@ void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
     }
     PartieVierge = True;
     delete FormePrincipale();
+    InstalleRatioPixels(0);
 }
-BENCHMARK(BM_ClicJugeEtCarteRepeinte)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ClicJugeEtCarteRepeinte)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond);
+
+void BM_ChangementDeLangue(benchmark::State &state)
+{
+    Prépare();
+    if (!Main()) {
+        state.SkipWithError("the start failed");
+        return;
+    }
+    InstalleDialogueNouvellePartie([] {
+        Niveau = 1;
+        Etape = OrdreEtapes[1];
+    });
+    LanceNouvellePartie();
+    int langue = 1;
+    for (auto _ : state) {
+        langue = 3 - langue;
+        ChangeLangue(langue);
+    }
+    ChangeLangue(1);
+    PartieVierge = True;
+    delete FormePrincipale();
+}
+BENCHMARK(BM_ChangementDeLangue)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
