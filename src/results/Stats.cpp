@@ -1,0 +1,267 @@
+#include "results/Stats.h"
+
+#include "platform/Ansi.h"
+#include "platform/Boites.h"
+#include "platform/Ecran.h"
+#include "platform/Formes.h"
+#include "platform/Images.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+
+#include <QApplication>
+#include <QSaveFile>
+#include <QWheelEvent>
+
+i16 TriPertes[NombrePlaces + 1];
+
+namespace {
+const QString NomFichierStats = QStringLiteral("KELM_STA.TXT");
+
+Etiquette *Case(QWidget *parent, int gauche, int haut, int largeur, int hauteur, Qt::Alignment alignement)
+{
+    auto *e = new Etiquette(parent);
+    e->setGeometry(gauche, haut, largeur, hauteur);
+    e->setFrameShape(QFrame::Box);
+    e->setFrameShadow(QFrame::Plain);
+    e->setAutoFillBackground(true);
+    e->setAlignment(alignement | Qt::AlignVCenter);
+    if (alignement & Qt::AlignLeft)
+        e->setIndent(3);
+    return e;
+}
+
+Etiquette *EnTête(QWidget *parent, int gauche, const QString &texte)
+{
+    auto *e = new Etiquette(parent);
+    e->setGeometry(gauche, 80, 69, 49);
+    e->setAlignment(Qt::AlignCenter);
+    e->setWordWrap(true);
+    e->setText(texte);
+    return e;
+}
+
+BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, int gauche, int haut)
+{
+    auto *b = new BoutonGraphique(parent);
+    b->setGeometry(gauche, haut, 41, 41);
+    b->setPicture(ImageJeu(image, QSize(41, 41)));
+    b->setIconSize(QSize(35, 35));
+    return b;
+}
+
+void Colore(Etiquette *e, const QColor &fond)
+{
+    QPalette p = e->palette();
+    p.setColor(QPalette::Window, fond);
+    e->setPalette(p);
+}
+
+// Blanks or, on every fourth line, hyphens, that lead the eye along the table.
+QString Bourrage(int n, QChar c) { return n > 0 ? QString(n, c) : QString(); }
+
+// Why the file couldn't be written; the table itself stays on the screen.
+QString ExplicationEchec()
+{
+    if (Langue == 2)
+        return QString::fromUtf8("Der Programmordner ist nicht beschreibbar (vielleicht schreibgeschützt oder nicht "
+                                 "mehr vorhanden). Die Tabelle bleibt angezeigt.");
+    return QString::fromUtf8("Le dossier du programme n'accepte pas l'écriture (il est peut-être protégé, ou n'existe "
+                             "plus). Le tableau reste affiché : vous pouvez continuer à le consulter.");
+}
+} // namespace
+
+void TriePertes()
+{
+    i16 A[NombrePlaces + 1];
+    for (int i = 1; i <= NombrePlaces; ++i)
+        A[i] = static_cast<i16>(i);
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        int p = i;
+        i32 v = Cantons[A[i]].Pertes[0];
+        for (int j = i + 1; j <= NombrePlaces; ++j)
+            if (Cantons[A[j]].Pertes[0] > v) {
+                p = j;
+                v = Cantons[A[j]].Pertes[0];
+            }
+        TriPertes[i] = A[p];
+        // The ones passed over move up one place and keep their order: equal losses stay by number.
+        for (int j = p; j > i; --j)
+            A[j] = A[j - 1];
+    }
+}
+
+QColor CouleurNeutre() { return QApplication::palette("QScrollBar").color(QPalette::Button); }
+
+QColor CouleurAbsence(i16 k)
+{
+    for (int i = 1; i <= 4; ++i)
+        if (OrdreEtapes[i] == k)
+            return CouleurAbsent;
+    return CouleurNeutre();
+}
+
+Stats::Stats() : QDialog(FormePrincipale())
+{
+    setObjectName(QStringLiteral("Stats"));
+    setFixedSize(8250 / TwipsPerPixelX, 7125 / TwipsPerPixelY);
+    QFont police = font();
+    police.setPointSizeF(8);
+    setFont(police);
+
+    const InfoEcran écran = MesureEcran();
+    move((écran.largeur - width()) / 2, (écran.hauteur - height()) / 2);
+
+    Baratin = new Etiquette(this);
+    Baratin->setGeometry(8, 8, 505, 65);
+    Baratin->setWordWrap(true);
+    Baratin->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    Baratin->setText(Messages[148]);
+    EntêtePays = EnTête(this, 227, Messages[149]);
+    EntêteCapitales = EnTête(this, 299, Messages[150]);
+    EntêteDrapeaux = EnTête(this, 371, Messages[151]);
+    EntêtePlaques = EnTête(this, 440, Messages[166]);
+    setWindowTitle(Messages[152]);
+
+    TriePertes();
+
+    BarreVerticale = new BarreDéfilement(Qt::Vertical, this);
+    BarreVerticale->setGeometry(520, 128, 17, 297);
+    BarreVerticale->hide();
+    BarreVerticale->setMin(0);
+    BarreVerticale->setMax(0);
+
+    NomPays[1] = Case(this, 8, 128, 212, 17, Qt::AlignLeft);
+    PertePays[1] = Case(this, 227, 128, 69, 17, Qt::AlignHCenter);
+    PerteCapitales[1] = Case(this, 299, 128, 69, 17, Qt::AlignHCenter);
+    PerteDrapeaux[1] = Case(this, 371, 128, 69, 17, Qt::AlignHCenter);
+    PertePlaques[1] = Case(this, 440, 128, 69, 17, Qt::AlignHCenter);
+    const int basBarre = BarreVerticale->Top() + BarreVerticale->Height();
+    bool barreMontrée = false;
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        std::array<Etiquette *, NombrePlaces + 1> *colonnes[] = {&NomPays, &PertePays, &PerteCapitales, &PerteDrapeaux,
+                                                                 &PertePlaques};
+        bool visible = true;
+        for (auto *colonne : colonnes) {
+            auto &c = *colonne;
+            if (i > 1) {
+                c[i] = Case(this, c[1]->Left(), 0, c[1]->Width(), c[1]->Height(), c[1]->alignment());
+                c[i]->setTop(c[i - 1]->Top() + c[i]->Height());
+            }
+            visible = c[i]->Top() + c[i]->Height() <= basBarre;
+            c[i]->setVisible(visible);
+        }
+        // The rows below the foot of the table are reached through the scroll bar.
+        if (!visible && !barreMontrée) {
+            barreMontrée = true;
+            BarreVerticale->setMax(NombrePlaces + 1 - i);
+            BarreVerticale->setSmallChange(1);
+            BarreVerticale->setLargeChange(3);
+            BarreVerticale->show();
+        }
+    }
+
+    BoutonSauvegarde = BoutonImage(this, QStringLiteral("BoutonSauvegarde"), 240, 432);
+    BoutonSauvegarde->setToolTip(NomFichierStats);
+    Command1 = BoutonImage(this, QStringLiteral("StatsCommand1"), 320, 432);
+    Command1->setToolTip(Messages[59]);
+
+    connect(BarreVerticale, &QScrollBar::valueChanged, this, [this](int v) { RemplitStats(static_cast<i16>(v)); });
+    connect(BoutonSauvegarde, &QToolButton::clicked, this, [this] { BoutonSauvegarde_Click(); });
+    connect(Command1, &QToolButton::clicked, this, [this] { Command1_Click(); });
+
+    BarreVerticale->setValue(0);
+    RemplitStats(0);
+    Command1->setFocus();
+}
+
+void Stats::RemplitStats(i16 Décalage)
+{
+    if (Décalage < 0 || Décalage >= NombrePlaces)
+        return;
+    for (int r = 1; r <= NombrePlaces - Décalage; ++r) {
+        const TCanton &c = Cantons[TriPertes[Décalage + r]];
+        NomPays[r]->setText(c.Nom);
+        Etiquette *cellules[5] = {nullptr, PertePays[r], PerteCapitales[r], PerteDrapeaux[r], PertePlaques[r]};
+        for (i16 k = 1; k <= 4; ++k) {
+            cellules[k]->setText(QString::number(c.Pertes[k]));
+            QColor fond;
+            if (c.Réussi[k] != False)
+                fond = c.Pertes[k] == 0 ? CouleurTrouvé : CouleurNeutre();
+            else
+                fond = c.Inhibé != False ? CouleurNeutre() : CouleurAbsence(k);
+            Colore(cellules[k], fond);
+        }
+    }
+}
+
+QByteArray ContenuStats()
+{
+    int L = 0;
+    for (int i = 1; i <= NombrePlaces; ++i)
+        L = std::max<int>(L, Cantons[i].Nom.size());
+    const QString &fin = FinDeLigne;
+    const QString tirets = Bourrage(L, QLatin1Char('-'));
+    const QChar tab = QLatin1Char('\t');
+
+    QString t;
+    t += Messages[154] + fin;
+    t += tirets + fin;
+    t += fin;
+    t += Messages[110] + QStringLiteral(", ") + Messages[0] + fin;
+    t += tirets + fin;
+    t += fin;
+    t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Messages[72] + QLatin1Char('/') + Messages[73] + QLatin1Char('/') +
+         Messages[74] + QLatin1Char('/') + Messages[162] + fin;
+    for (int n = 1; n <= NombrePlaces; ++n) {
+        const TCanton &c = Cantons[TriPertes[n]];
+        const QChar guide = n % 4 == 0 ? QLatin1Char('-') : QLatin1Char(' ');
+        t += c.Nom + Bourrage(L - int(c.Nom.size()) + 5, guide);
+        t += tab + QString::number(c.Pertes[1]);
+        for (int k = 2; k <= 4; ++k)
+            t += QString(tab) + guide + QString::number(c.Pertes[k]);
+        t += fin;
+    }
+    return VersAnsi(t);
+}
+
+void Stats::BoutonSauvegarde_Click()
+{
+    const QString Chemin = ComposeChemin(RépertoireApplication, NomFichierStats);
+    // Written whole beside the old file, which the new one replaces in one rename.
+    QSaveFile fichier(Chemin);
+    bool écrit = fichier.open(QIODevice::WriteOnly);
+    if (écrit) {
+        const QByteArray contenu = ContenuStats();
+        if (fichier.write(contenu) == contenu.size()) {
+            écrit = fichier.commit();
+        } else {
+            fichier.cancelWriting();
+            écrit = false;
+        }
+    }
+    if (!écrit) {
+        Boîte(Messages[134] + QLatin1Char(' ') + Chemin + FinDeLigne + ExplicationEchec(), StyleExclamation,
+              Messages[152]);
+        return;
+    }
+    Boîte(Messages[153] + Chemin, StyleInformation, Messages[152]);
+}
+
+void Stats::Command1_Click() { accept(); }
+
+void Stats::wheelEvent(QWheelEvent *e)
+{
+    // The wheel anywhere over the table moves it as the scroll bar does.
+    if (BarreVerticale->Visible())
+        QApplication::sendEvent(BarreVerticale, e);
+    else
+        QDialog::wheelEvent(e);
+}
+
+void MontreStats()
+{
+    Stats forme;
+    ExécuteModal(forme);
+}
