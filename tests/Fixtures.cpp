@@ -2,11 +2,13 @@
 
 #include "engine/communs.h"
 #include "platform/Ecran.h"
+#include "platform/Formes.h"
 #include "platform/Horloge.h"
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "services/Registre.h"
 
 #include <QFile>
 #include <QTest>
@@ -45,6 +47,7 @@ void JeuTest::SetUp()
     raster.close();
 
     InstalleDossierProgramme(dossier.path());
+    InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
     InstalleBoîtes(&boîtes);
     InstalleSons(&sons);
     InstalleHorloge([this] { return horloge; });
@@ -56,6 +59,8 @@ void JeuTest::SetUp()
         return t;
     });
     InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 1024), 24});
+    // Modal forms close at once unless a test scripts them.
+    InstalleFormesModales([](QDialog &) { return 0; });
 
     Langue = 1;
     NomJoueur.clear();
@@ -76,12 +81,14 @@ void JeuTest::TearDown()
         delete forme;
     }
     InstalleDialogueNouvellePartie(nullptr);
+    InstalleFormesModales(nullptr);
     InstalleBoîtes(nullptr);
     InstalleSons(nullptr);
     InstalleHorloge(nullptr);
     InstalleHasard(nullptr);
     InstalleEcran(std::nullopt);
     InstalleDossierProgramme(QString());
+    InstalleFichierRegistre(QString());
 }
 
 void JeuTest::CliqueEn(QPoint pointCarte)

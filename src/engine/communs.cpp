@@ -236,6 +236,8 @@ bool Main()
     FinDeLigne = QStringLiteral("\r\n");
     RépertoireApplication = DossierProgramme();
     LitParamètres();
+    if (!ParamètresLus)
+        return false;
     SonActif = True;
     if (!ChargeCarteZones())
         return false;
@@ -879,23 +881,4 @@ void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
     }
     PlaceRondSpécifique(i);
     r->setVisible(visible);
-}
-
-// ---------------------------------------------------------------- leaving a game
-
-bool ConfirmeArrêt()
-{
-    const bool enCours = !PartieVierge && !PartieEnregistrée && Etape != 6;
-    if (enCours && Boîte(Messages[32], StyleQuestion, Messages[33]) != RéponseOui)
-        return false;
-    if (enCours) {
-        ScoreAbandon();
-        if (Score != 0) {
-            AfficheScore();
-            EnregistreScore();
-        }
-    }
-    CacheMarques();
-    CacheZoneJeu();
-    return true;
 }

@@ -2,37 +2,16 @@
 
 #include "engine/communs.h"
 #include "platform/Boites.h"
+#include "platform/Formes.h"
 #include "results/NouvellePartie.h"
 #include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Registre.h"
 #include "services/Sons.h"
 
 #include <functional>
 
-void ChargeScores()
-{
-    // Until score files are read the game plays the default set: every canton, steps 1 to 4.
-    for (int k = 1; k <= 4; ++k)
-        OrdreEtapes[k] = static_cast<i16>(k);
-    for (int i = 1; i <= NombrePlaces; ++i)
-        Cantons[i].Inhibé = False;
-}
-
-void EnregistreScore()
-{
-    if (ScoreGelé) {
-        JoueSon(SonPerdu);
-        Boîte(Messages[44], StyleInformation, Messages[35]);
-    } else {
-        DuréePartie = DuréeDepuis(HeureDépart);
-    }
-    PartieEnregistrée = True;
-    ScoresFinPartie = True;
-}
-
-void EnregistreJoueur()
-{
-    // The player's name is kept for the run; the settings store keeps it across runs.
-}
+void EnregistreJoueur() { EcritValeur(CléJeu, QStringLiteral("joueur"), NomJoueur); }
 
 namespace {
 std::function<void()> dialogueScripté;
@@ -47,5 +26,5 @@ void MontreNouvellePartie()
         return;
     }
     NouvellePartie dialogue;
-    dialogue.exec();
+    ExécuteModal(dialogue);
 }

@@ -1,10 +1,6 @@
 #pragma once
 // The game's results: the score lists and the new game's dialog.
-
-// Reads the parameter set and the best scores of the file in use.
-void ChargeScores();
-// Deals with the result of a game that has ended.
-void EnregistreScore();
+#include "results/Scores.h"
 // The new game's dialog, shown modally: name, level, clock.
 void MontreNouvellePartie();
 // Keeps the player's name for the next game.

@@ -2,6 +2,9 @@
 
 #include "engine/communs.h"
 #include "platform/Boites.h"
+#include "results/AffichageScores.h"
+#include "results/Parties.h"
+#include "results/Scores.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Palette.h"
 #include "services/Aide.h"
@@ -16,6 +19,14 @@ void RelieCommandes(EcranPrincipal &E)
         QObject::connect(entrée, &QAction::triggered, &E, commande);
     };
     relie(E.FichierNouveau, [] { LanceNouvellePartie(); });
+    relie(E.FichierEnregistrer, [] { EnregistrePartie(); });
+    relie(E.FichierLire, [] { FichierLire_Click(); });
+    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(Niveau); });
+    relie(E.ScoreFacile, [] { AfficheMeilleursScores(1); });
+    relie(E.ScoreMoyen, [] { AfficheMeilleursScores(2); });
+    relie(E.ScoreDifficile, [] { AfficheMeilleursScores(3); });
+    relie(E.ScoreExpert, [] { AfficheMeilleursScores(4); });
+    relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
     relie(E.FichierQuitter, [] {
         if (ConfirmeArrêt())
             Principal().close();

@@ -2,6 +2,7 @@
 
 #include "engine/communs.h"
 #include "platform/Ecran.h"
+#include "platform/Formes.h"
 #include "platform/Images.h"
 #include "screen/EcranPrincipal.h"
 
@@ -87,7 +88,7 @@ void Palette::BoutonFermeture_Click() { reject(); }
 void OuvrePalette()
 {
     Palette palette;
-    palette.exec();
+    ExécuteModal(palette);
 }
 
 void MenuCouleurCapitalesATrouver_Click()

@@ -5,6 +5,8 @@
 
 #include <QMenu>
 
+i16 LancementDemandé = False;
+
 namespace {
 void MontrePanneau(bool visible)
 {

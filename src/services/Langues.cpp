@@ -8,6 +8,7 @@
 #include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Parametres.h"
+#include "services/Registre.h"
 #include "services/Sons.h"
 #include "services/TableChaines.h"
 
@@ -161,6 +162,7 @@ void ChangeLangue(int n)
     CacheZoneJeu();
     MontreCantons();
     AffichePanneau();
+    EcritValeur(CléJeu, QStringLiteral("langue"), QLatin1Char(' ') + QString::number(Langue));
     if (Etape == 7) {
         auto &E = Principal();
         for (int k = 1; k <= NombrePlaces; ++k)

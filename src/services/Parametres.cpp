@@ -1,20 +1,92 @@
 #include "services/Parametres.h"
 
-#include "engine/communs.h"
+#include "platform/Boites.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
+#include "services/ParametrageRepertoires.h"
+#include "services/Registre.h"
+#include "services/TableChaines.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 QString RépertoireApplication;
 QString RépertoireSauvegarde;
 QString RépertoireInfo;
 QString FichierLancement;
 QString VersionJeu;
+bool ParamètresLus = false;
 
 namespace {
 QString dossierInstallé;
+std::function<QDateTime()> maintenantScripté;
+
+const QString Version = QStringLiteral("version");
+const QString Date = QStringLiteral("date");
+const QString Joueur = QStringLiteral("joueur");
+const QString LangueValeur = QStringLiteral("langue");
+const QString Répertoire = QStringLiteral("répertoire");
+const QString FichierDeLancement = QStringLiteral("fichier de lancement");
+const QString RépertoireInformation = QStringLiteral("répertoire information");
+const QString Updates = QStringLiteral("Updates");
+const QString FichierScoresParDéfaut = QStringLiteral("KELMOR.SCS");
+
+QString TexteMaintenant() { return Maintenant().toString(FormatDate); }
+
+// The number at the head of a text, blanks before it skipped: " 2" is 2, "x" is 0.
+int ValeurNumérique(const QString &texte)
+{
+    const QString t = texte.trimmed();
+    qsizetype i = 0;
+    const bool négatif = t.startsWith(QLatin1Char('-'));
+    if (négatif || t.startsWith(QLatin1Char('+')))
+        ++i;
+    qint64 v = 0;
+    for (; i < t.size() && t[i] >= QLatin1Char('0') && t[i] <= QLatin1Char('9'); ++i)
+        v = qMin<qint64>(v * 10 + (t[i].unicode() - '0'), 32767);
+    return int(négatif ? -v : v);
 }
+
+void DemandeRépertoireSauvegarde()
+{
+    Boîte(Messages[122], StyleInformation, Messages[118]);
+    ModeRépertoires = 7;
+    MontreParamétrageRépertoires();
+}
+
+// The current folder is where the bare name of the score file is found. A folder
+// that doesn't exist leaves it where it was.
+void VaDansRépertoireSauvegarde()
+{
+    if (!RépertoireSauvegarde.trimmed().isEmpty())
+        QDir::setCurrent(RépertoireSauvegarde);
+}
+
+// The reminder comes when at least 60 calendar days separate the stored date from
+// today, whatever the hours. A date that can't be read is renewed without one.
+void RappelSiLeTempsEstVenu()
+{
+    QString texte;
+    LitValeur(CléFamille, Date, texte);
+    const QDateTime dernier = QDateTime::fromString(texte.trimmed(), FormatDate);
+    if (dernier.isValid()) {
+        if (dernier.date().daysTo(Maintenant().date()) < JoursEntreRappels)
+            return;
+        RappelVersions();
+    }
+    EcritValeur(CléFamille, Date, TexteMaintenant());
+}
+
+void MessageCléImpossible()
+{
+    // The messages aren't loaded yet: this one is in the default language.
+    Boîte(QStringLiteral("Les paramètres du jeu ne peuvent pas être enregistrés dans le fichier\n%1\n"
+                         "Vérifiez que ce dossier existe et qu'il est accessible en écriture ; "
+                         "le jeu ne peut pas démarrer sans lui.")
+              .arg(QDir::toNativeSeparators(FichierRegistre())),
+          StyleCritique, QStringLiteral("Les cantons kelmors"));
+}
+} // namespace
 
 QString DossierProgramme()
 {
@@ -26,14 +98,101 @@ QString DossierProgramme()
 
 void InstalleDossierProgramme(const QString &dossier) { dossierInstallé = dossier; }
 
+QDateTime Maintenant() { return maintenantScripté ? maintenantScripté() : QDateTime::currentDateTime(); }
+
+void InstalleMaintenant(std::function<QDateTime()> maintenant) { maintenantScripté = std::move(maintenant); }
+
+QMap<QString, QString> JeuxInstallés()
+{
+    QMap<QString, QString> jeux;
+    const i32 racine = OuvreClé(CléFamille);
+    if (racine == -1)
+        return jeux;
+    QString nom;
+    for (i32 i = 0; EnumèreSousClés(racine, i, nom) == 0; ++i) {
+        if (nom == Updates)
+            continue;
+        QString version;
+        LitValeur(CléFamille + QLatin1Char('\\') + nom, Version, version);
+        jeux.insert(nom, version);
+    }
+    FermeClé(racine);
+    return jeux;
+}
+
+void RappelVersions() { Boîte(Messages[123], StyleInformation, Messages[124]); }
+
+void DossiersParDéfaut()
+{
+    if (RépertoireAccessible(RépertoireApplication)) {
+        EcritValeur(CléJeu, Répertoire, RépertoireApplication);
+        RépertoireSauvegarde = RépertoireApplication;
+        EcritValeur(CléJeu, FichierDeLancement, ComposeChemin(RépertoireSauvegarde, FichierScoresParDéfaut));
+        FichierLancement = FichierScoresParDéfaut;
+    } else {
+        DemandeRépertoireSauvegarde();
+    }
+    RépertoireInfo = RépertoireApplication;
+    EcritValeur(CléJeu, RépertoireInformation, RépertoireInfo);
+}
+
+void PremierLancement()
+{
+    EcritValeur(CléFamille, Date, TexteMaintenant());
+    EcritValeur(CléJeu, Version, VersionJeu);
+    EcritValeur(CléJeu, Joueur, QString());
+    EcritValeur(CléJeu, LangueValeur, QStringLiteral("1"));
+    Langue = 1;
+    ChargeChaînes();
+    DossiersParDéfaut();
+    // The very first run always reminds.
+    RappelVersions();
+}
+
+void MiseAJourVersion()
+{
+    EcritValeur(CléFamille, Date, TexteMaintenant());
+    EcritValeur(CléJeu, Version, VersionJeu);
+    DossiersParDéfaut();
+}
+
 void LitParamètres()
 {
-    // Until the settings store exists the game starts in French with its files beside it.
+    ParamètresLus = true;
+    VersionJeu = ChaîneTable(1000);
+
+    QString version;
+    const i32 lu = LitValeur(CléJeu, Version, version);
+    if (lu == -1 && CréeClé(CléJeu) != 0) {
+        ParamètresLus = false;
+        MessageCléImpossible();
+        return;
+    }
+    if (lu != 0 || version.isEmpty()) {
+        PremierLancement();
+        // The bare name of the score file is looked for in the current folder.
+        VaDansRépertoireSauvegarde();
+        return;
+    }
+
+    QString langue;
+    LitValeur(CléJeu, LangueValeur, langue);
+    Langue = static_cast<short>(ValeurNumérique(langue));
     if (Langue < 1)
         Langue = 1;
     ChargeChaînes();
-    VersionJeu = LitChamp(Messages[0], 1).section(QLatin1Char(' '), 1, 1);
-    RépertoireSauvegarde = RépertoireApplication;
-    RépertoireInfo = RépertoireApplication;
-    FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
+
+    if (version != VersionJeu)
+        MiseAJourVersion();
+    else
+        RappelSiLeTempsEstVenu();
+
+    LitValeur(CléJeu, Joueur, NomJoueur);
+    LitValeur(CléJeu, Répertoire, RépertoireSauvegarde);
+    if (!RépertoireAccessible(RépertoireSauvegarde))
+        DemandeRépertoireSauvegarde();
+    VaDansRépertoireSauvegarde();
+    LitValeur(CléJeu, FichierDeLancement, FichierLancement);
+    LitValeur(CléJeu, RépertoireInformation, RépertoireInfo);
+    // The desktop's message boxes make no sound of their own: no system sound to silence.
 }

@@ -22,6 +22,9 @@ image=$4
 titre_jeu='Les cantons kelmors'
 titre_dialogue='Nouvelle partie'
 titre_abandon='Partie en cours...'
+titre_verdict='Meilleur score'
+titre_rappel='Publicité bimestrielle gratuite...'
+titre_scores='Meilleurs scores'
 
 debut=$(date +%s%N)
 etape="checking what the run needs"
@@ -153,6 +156,12 @@ say "Xvfb on display $DISPLAY"
 etape="starting the game"
 (cd "$tmp/home" && exec "$jeu") >"$tmp/jeu.log" 2>&1 &
 jeu_pid=$!
+# A first run on this machine: the reminder of the family's games comes before the window.
+etape="closing the first run's reminder"
+attend 20 fenetre_ou_fin "$titre_rappel" || echec "no reminder \"$titre_rappel\" at the first run"
+jeu_vivant || echec "the game ended before its reminder"
+focus_sur "$(fenetre "$titre_rappel")"
+xdotool key Return
 etape="waiting for the window \"$titre_jeu\""
 attend 20 fenetre_ou_fin "$titre_jeu" || echec "no window \"$titre_jeu\" after 20 s"
 jeu_vivant || echec "the game ended before showing its window"
@@ -229,7 +238,19 @@ etape="answering Yes to \"$titre_abandon\""
 focus_sur "$boite"
 # Yes is the box's default button; if Enter meant No, the game would stay and fail below.
 xdotool key Return
-attend 10 jeu_fini || echec "the game still runs 10 s after Yes"
+
+# The abandoned game is scored: its verdict, then its level's best scores.
+etape="closing the verdict of the abandoned game"
+attend 10 fenetre_ou_fin "$titre_verdict" || echec "no verdict \"$titre_verdict\" after Yes"
+jeu_vivant || echec "the game ended without scoring the abandoned game"
+focus_sur "$(fenetre "$titre_verdict")"
+xdotool key Return
+etape="closing the best scores"
+attend 10 fenetre_ou_fin "$titre_scores" || echec "no list \"$titre_scores\" after the verdict"
+jeu_vivant || echec "the game ended without showing the best scores"
+focus_sur "$(fenetre "$titre_scores")"
+xdotool key Escape
+attend 10 jeu_fini || echec "the game still runs 10 s after the best scores were closed"
 wait "$jeu_pid"
 code=$?
 jeu_pid=""

@@ -42,12 +42,13 @@ TEST_F(Partie, AWholeGameAtEachLevelEndsAt999999)
         EXPECT_EQ(Score, 999999);
         EXPECT_EQ(Etape, 0);
         EXPECT_EQ(PartieEnregistrée, True);
-        // Three announcements of the next step, each with its sound.
-        ASSERT_EQ(boîtes.journal.size(), 3u);
+        // Three announcements of the next step, each with its sound, then the verdict.
+        ASSERT_EQ(boîtes.journal.size(), 4u);
+        EXPECT_EQ(boîtes.journal[3].texte, Messages[39]);
         EXPECT_EQ(boîtes.journal[0].texte, QString::fromUtf8("Après les cantons nous allons passer aux chefs-lieux"));
         EXPECT_EQ(boîtes.journal[2].texte, QString::fromUtf8("Après les drapeaux, nous allons passer à la recherche des plaques..."));
         EXPECT_EQ(boîtes.journal[1].titre, "Etape suivante");
-        EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonEtape), 3);
+        EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonEtape), 4);
         for (int i = 1; i <= 26; ++i)
             EXPECT_EQ(Cantons[i].Réussi[4], True);
         EXPECT_FALSE(Principal().rond[5]->Visible());
@@ -73,7 +74,8 @@ TEST_F(Partie, OrderOfTwoStepsEndsWithoutAnnouncementAfterFlags)
     for (int n = 0; n < 26; ++n)
         RépondJuste();
     EXPECT_EQ(Etape, 0);
-    EXPECT_EQ(boîtes.journal.size(), 1u);
+    ASSERT_EQ(boîtes.journal.size(), 2u);
+    EXPECT_EQ(boîtes.journal[1].texte, Messages[39]);
     for (int k = 1; k <= 4; ++k)
         OrdreEtapes[k] = static_cast<i16>(k);
 }

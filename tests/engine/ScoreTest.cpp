@@ -4,6 +4,7 @@
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
 
 namespace {
 
@@ -116,8 +117,9 @@ TEST_F(Score_, ARunOutScoreEndsTheGameWithoutTheQuestionsMessage)
     RépondFaux(); // the ninth error costs 65536
     EXPECT_EQ(Etape, 0);
     EXPECT_EQ(Score, -999999);
-    ASSERT_EQ(boîtes.journal.size(), 1u);
+    ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[0].titre, "Bon pour un tour gratuit");
+    EXPECT_EQ(boîtes.journal[1].texte, Messages[41]) << "a lost game still enters a list with room";
     EXPECT_EQ(boîtes.journal[0].style, StyleCritique);
     EXPECT_EQ(PartieEnregistrée, True);
     EXPECT_FALSE(Principal().BoîteScore->Visible());

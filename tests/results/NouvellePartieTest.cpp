@@ -3,6 +3,7 @@
 
 #include "engine/communs.h"
 #include "results/NouvellePartie.h"
+#include "platform/Formes.h"
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
@@ -93,13 +94,15 @@ TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
     InstalleDialogueNouvellePartie(nullptr);
     boîtes.réponses = {RéponseOui};
     // The real dialog, cancelled as soon as it is up.
-    QTimer::singleShot(0, [] {
-        auto *d = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        ASSERT_NE(d, nullptr);
-        static_cast<NouvellePartie *>(d)->BoutonAnnuler->click();
+    InstalleFormesModales([](QDialog &d) {
+        // The abandoned game's best scores come first; then the dialog, cancelled.
+        if (auto *n = dynamic_cast<NouvellePartie *>(&d))
+            n->BoutonAnnuler->click();
+        return d.result();
     });
     LanceNouvellePartie();
-    EXPECT_EQ(boîtes.journal.size(), 1u);
+    ASSERT_EQ(boîtes.journal.size(), 2u);
+    EXPECT_EQ(boîtes.journal[1].texte, Messages[41]) << "the abandoned game is scored";
     EXPECT_EQ(Etape, 0);
     EXPECT_EQ(Score, -999999 + 4807);
     EXPECT_FALSE(Principal().rond[1]->Visible());

@@ -1,0 +1,23 @@
+#include "platform/Formes.h"
+
+#include <QDialog>
+
+namespace {
+std::function<int(QDialog &)> scriptModal;
+}
+
+std::vector<QString> &FormesMontrées()
+{
+    static std::vector<QString> formes;
+    return formes;
+}
+
+int ExécuteModal(QDialog &forme)
+{
+    FormesMontrées().push_back(forme.objectName());
+    if (scriptModal)
+        return scriptModal(forme);
+    return forme.exec();
+}
+
+void InstalleFormesModales(std::function<int(QDialog &)> script) { scriptModal = std::move(script); }

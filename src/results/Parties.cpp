@@ -1,0 +1,219 @@
+#include "results/Parties.h"
+
+#include "platform/Boites.h"
+#include "results/FichierEnregistrements.h"
+#include "results/Scores.h"
+#include "results/SelectionPartie.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+
+#include <QFile>
+
+namespace {
+const QString ParamétrageNonSauvé = QStringLiteral("~tmp.~cf");
+}
+
+bool PartieEnCours() { return !PartieVierge && !PartieEnregistrée && Etape != 6; }
+
+QString RépertoireDe(const QString &Chemin)
+{
+    const qsizetype i = Chemin.lastIndexOf(SéparateurChemin);
+    return i < 0 ? QString() : Chemin.left(i + 1);
+}
+
+void EnregistrePartie()
+{
+    if (!PartieEnCours())
+        return;
+    SoldeQuestion();
+    if (Score <= 0) {
+        PartiePerdue();
+        return;
+    }
+    DuréePartie = DuréeDepuis(HeureDépart);
+    ModeRépertoires = 1;
+    TypeFichier = 4;
+    MontreSélectionPartie();
+}
+
+QByteArray ContenuPartie()
+{
+    EcritureEnregistrements f;
+    f.Chaîne(VersionJeu);
+    f.Entier(Langue);
+    f.Chaîne(FichierLancement);
+    if (FichierLancement == ParamétrageNonSauvé) {
+        for (int i = 1; i <= 4; ++i)
+            f.Entier(OrdreEtapes[i]);
+        f.Entier(static_cast<i16>(NombreScores[1] + NombreScores[2] + NombreScores[3] + NombreScores[4]));
+        for (int n = 1; n <= 4; ++n)
+            for (int r = 1; r <= NombreScores[n]; ++r)
+                f.LigneScore(MeilleursScores[n][r], static_cast<i16>(n));
+    }
+    f.Entier(Etape);
+    f.Chaîne(NomJoueur);
+    f.Entier(Niveau);
+    f.Entier(ModeApprentissage);
+    f.Long(Score);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        f.Paire(static_cast<i16>(i), Cantons[i].Trouvé);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        for (int j = 0; j <= 4; ++j) {
+            f.Entier(Cantons[i].Réussi[j]);
+            f.Long(Cantons[i].Pertes[j]);
+        }
+    f.Long(DuréePartie);
+    return f.Octets();
+}
+
+bool EcritPartie(const QString &Chemin)
+{
+    QString dossier = RépertoireDe(Chemin);
+    if (dossier.isEmpty())
+        dossier = QStringLiteral(".");
+    if (!RépertoireAccessible(dossier)) {
+        Boîte(Messages[119], StyleInformation, Messages[46]);
+        return false;
+    }
+    if (!EcritFichierEntier(Chemin, ContenuPartie())) {
+        Boîte(Messages[134] + QStringLiteral(" ") + Chemin, StyleInformation, Messages[46]);
+        return false;
+    }
+    return true;
+}
+
+bool RestaurePartie(const QByteArray &contenu)
+{
+    // Everything is read aside first: a file cut short or out of range changes nothing.
+    LectureEnregistrements f(contenu);
+    QString version, fichier, nom;
+    i16 langue = 0;
+    if (!f.Chaîne(version) || version != VersionJeu)
+        return false;
+    if (!f.Entier(langue) || !f.Chaîne(fichier))
+        return false;
+
+    i16 ordre[5] = {0, 0, 0, 0, 0};
+    std::vector<std::pair<TLigneScore, i16>> lignes;
+    if (fichier == ParamétrageNonSauvé) {
+        i16 n = 0;
+        for (int i = 1; i <= 4; ++i)
+            if (!f.Entier(ordre[i]) || ordre[i] < 0 || ordre[i] > 4)
+                return false;
+        if (!f.Entier(n) || n < 0 || n > 40)
+            return false;
+        i16 parNiveau[5] = {};
+        for (int k = 0; k < n; ++k) {
+            TLigneScore l;
+            i16 niveau = 0;
+            if (!f.LigneScore(l, niveau) || niveau < 0 || niveau > 4 || ++parNiveau[niveau] > 10)
+                return false;
+            lignes.emplace_back(l, niveau);
+        }
+    }
+    i16 étape = 0, niveau = 0, apprentissage = 0;
+    i32 score = 0;
+    if (!f.Entier(étape) || !f.Chaîne(nom) || !f.Entier(niveau) || !f.Entier(apprentissage) || !f.Long(score))
+        return false;
+    if (étape < 1 || étape > 4 || niveau < 1 || niveau > 4)
+        return false;
+    i16 trouvés[NombrePlaces + 1] = {};
+    for (int k = 1; k <= NombrePlaces; ++k) {
+        i16 numéro = 0, drapeau = 0;
+        if (!f.Paire(numéro, drapeau))
+            return false;
+        // A number outside the table is never used as an index.
+        if (numéro >= 1 && numéro <= NombrePlaces)
+            trouvés[numéro] = Booléen(drapeau != 0);
+    }
+    i16 réussis[NombrePlaces + 1][5] = {};
+    i32 pertes[NombrePlaces + 1][5] = {};
+    for (int i = 1; i <= NombrePlaces; ++i)
+        for (int j = 0; j <= 4; ++j)
+            if (!f.Entier(réussis[i][j]) || !f.Long(pertes[i][j]))
+                return false;
+    i32 durée = 0;
+    if (!f.Long(durée))
+        return false;
+
+    // The file is sound: the game takes its state from it.
+    RazScores();
+    Langue = langue >= 1 && langue <= NombreLangues ? langue : Langue;
+    FichierLancement = fichier;
+    if (fichier == ParamétrageNonSauvé) {
+        for (int i = 1; i <= 4; ++i)
+            OrdreEtapes[i] = ordre[i];
+        for (const auto &[l, n] : lignes) {
+            NombreScores[n] = NombreScores[n] + 1;
+            MeilleursScores[n][NombreScores[n]] = l;
+        }
+    } else {
+        ChargeScores();
+    }
+    Etape = étape;
+    NomJoueur = nom.left(20);
+    Niveau = niveau;
+    ModeApprentissage = Booléen(apprentissage != 0);
+    ScoreGelé = ModeApprentissage;
+    DébutEtape();
+    PartieVierge = False;
+    Score = score;
+    RestantsEtape = NombrePlaces;
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        Cantons[i].Trouvé = trouvés[i];
+        if (trouvés[i])
+            RestantsEtape = RestantsEtape - 1;
+    }
+    for (int i = 1; i <= NombrePlaces; ++i)
+        for (int j = 0; j <= 4; ++j) {
+            Cantons[i].Réussi[j] = Booléen(réussis[i][j] != 0);
+            Cantons[i].Pertes[j] = pertes[i][j];
+        }
+    DuréePartie = durée;
+    for (int i = 1; i <= NombrePlaces; ++i)
+        PlaceRond(static_cast<i16>(i));
+    return true;
+}
+
+bool LitPartie(const QString &Chemin)
+{
+    QByteArray contenu;
+    if (!LitFichierEntier(Chemin, contenu))
+        return false;
+    LectureEnregistrements tête(contenu);
+    QString version;
+    if (!tête.Chaîne(version) || version != VersionJeu) {
+        Boîte(Messages[104] + Messages[0] + Messages[105], StyleCritique, Messages[19]);
+        return false;
+    }
+    return RestaurePartie(contenu);
+}
+
+void FichierLire_Click()
+{
+    if (!ConfirmeArrêt())
+        return;
+    ModeRépertoires = 2;
+    TypeFichier = 4;
+    MontreSélectionPartie();
+    ConseilFicheDonné = False;
+}
+
+bool ConfirmeArrêt()
+{
+    const bool enCours = PartieEnCours();
+    if (enCours && Boîte(Messages[32], StyleQuestion, Messages[33]) != RéponseOui)
+        return false;
+    if (enCours) {
+        ScoreAbandon();
+        if (Score != 0) {
+            AfficheScore();
+            EnregistreScore();
+        }
+    }
+    CacheMarques();
+    CacheZoneJeu();
+    return true;
+}

@@ -1,0 +1,191 @@
+#include "results/Scores.h"
+
+#include "platform/Boites.h"
+#include "platform/Horloge.h"
+#include "results/AffichageScores.h"
+#include "results/FichierEnregistrements.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Registre.h"
+#include "services/Sons.h"
+
+#include <QFile>
+
+TLigneScore MeilleursScores[5][11];
+i16 NombreScores[5] = {0, 0, 0, 0, 0};
+i16 NiveauAffiché = 0;
+
+namespace {
+const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
+
+// The step order of a file: kinds 1..4, each once, and nothing behind the first 0.
+bool OrdreValable(const i16 ordre[5])
+{
+    bool vus[5] = {};
+    bool fini = false;
+    for (int i = 1; i <= 4; ++i) {
+        const i16 k = ordre[i];
+        if (k < 0 || k > 4 || (fini && k != 0) || (k != 0 && vus[k]))
+            return false;
+        fini = fini || k == 0;
+        vus[k] = true;
+    }
+    return true;
+}
+} // namespace
+
+void RazScores()
+{
+    for (int n = 1; n <= 4; ++n) {
+        NombreScores[n] = 0;
+        for (int r = 1; r <= 10; ++r) {
+            MeilleursScores[n][r].Points = 0;
+            MeilleursScores[n][r].Nom.clear();
+        }
+    }
+}
+
+QByteArray ContenuScores(bool AvecScores)
+{
+    EcritureEnregistrements f;
+    f.Chaîne(VersionJeu);
+    f.Entier(Langue);
+    f.Entier(4);
+    f.Entier(NombrePlaces);
+    for (int i = 1; i <= 4; ++i)
+        f.Entier(OrdreEtapes[i]);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        f.Entier(Cantons[i].Inhibé ? True : False);
+    if (AvecScores)
+        for (int n = 1; n <= 4; ++n)
+            for (int r = 1; r <= NombreScores[n]; ++r)
+                f.LigneScore(MeilleursScores[n][r], static_cast<i16>(n));
+    return f.Octets();
+}
+
+bool EcritFichierScores(bool AvecScores)
+{
+    // The old file is replaced in one rename: a failure leaves it as it was.
+    if (EcritFichierEntier(FichierLancement, ContenuScores(AvecScores)))
+        return true;
+    Boîte(Messages[134] + QStringLiteral(" ") + FichierLancement + QLatin1Char('\n') + Messages[147],
+          StyleExclamation, Messages[46]);
+    return false;
+}
+
+bool LitScores(const QByteArray &contenu)
+{
+    LectureEnregistrements f(contenu);
+    for (int i = 1; i <= 4; ++i)
+        OrdreEtapes[i] = static_cast<i16>(i);
+    QString version;
+    i16 langue = 0, places = 0, cantons = 0;
+    if (!f.Chaîne(version) || !f.Entier(langue) || !f.Entier(places) || !f.Entier(cantons))
+        return false;
+    if (places != 4 || cantons != NombrePlaces)
+        return false;
+    i16 ordre[5] = {0, 0, 0, 0, 0};
+    for (int i = 1; i <= 4; ++i)
+        if (!f.Entier(ordre[i]))
+            return false;
+    i16 inhibés[NombrePlaces + 1] = {};
+    for (int i = 1; i <= NombrePlaces; ++i)
+        if (!f.Entier(inhibés[i]))
+            return false;
+    if (!OrdreValable(ordre))
+        return false;
+    for (int i = 1; i <= 4; ++i)
+        OrdreEtapes[i] = ordre[i];
+    for (int i = 1; i <= NombrePlaces; ++i)
+        Cantons[i].Inhibé = Booléen(inhibés[i] != 0);
+
+    while (!f.Fin()) {
+        TLigneScore ligne;
+        i16 n = 0;
+        if (!f.LigneScore(ligne, n) || n < 0 || n > 4 || NombreScores[n] >= 10)
+            return false;
+        NombreScores[n] = NombreScores[n] + 1;
+        MeilleursScores[n][NombreScores[n]] = ligne;
+    }
+    return true;
+}
+
+bool LitFichierScores()
+{
+    QByteArray contenu;
+    return LitFichierEntier(FichierLancement, contenu) && LitScores(contenu);
+}
+
+void ChargeScores()
+{
+    RazScores();
+    if (QFile::exists(FichierLancement)) {
+        QByteArray contenu;
+        bool accepté = LitFichierEntier(FichierLancement, contenu);
+        if (accepté) {
+            // Same major number: "Version 6." whatever the minor number and the date.
+            LectureEnregistrements f(contenu);
+            QString version;
+            accepté = f.Chaîne(version) && version.left(7) == QLatin1String("Version") && version.size() >= 10 &&
+                      version.mid(8, 2) == VersionJeu.mid(8, 2);
+        }
+        if (accepté && LitScores(contenu))
+            return;
+        Boîte(FichierLancement + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
+    }
+    FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
+    EcritValeur(CléKelmor, QStringLiteral("fichier de lancement"), FichierLancement);
+    for (int i = 1; i <= 4; ++i)
+        OrdreEtapes[i] = static_cast<i16>(i);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        Cantons[i].Inhibé = False;
+}
+
+void EnregistreScore()
+{
+    if (ScoreGelé) {
+        JoueSon(SonPerdu);
+        Boîte(Messages[44], StyleInformation, Messages[35]);
+    } else {
+        DuréePartie = DuréeDepuis(HeureDépart);
+        const int niveau = (Niveau >= 1 && Niveau <= 4) ? Niveau : 0;
+        int pos = 1;
+        for (int i = 1; i <= NombreScores[niveau]; ++i) {
+            const TLigneScore &l = MeilleursScores[niveau][i];
+            if (l.Points < Score || (l.Points == Score && l.Durée > DuréePartie)) {
+                pos = i;
+                break;
+            }
+            pos = pos + 1;
+        }
+        if (NombreScores[niveau] != 10)
+            NombreScores[niveau] = NombreScores[niveau] + 1;
+        for (int r = NombreScores[niveau]; r > pos; --r)
+            MeilleursScores[niveau][r] = MeilleursScores[niveau][r - 1];
+        if (pos <= NombreScores[niveau]) {
+            JoueSon(SonEtape);
+            if (Score > 0)
+                Boîte(Messages[39], StyleInformation, Messages[40]);
+            else
+                Boîte(Messages[41], StyleInformation, Messages[42]);
+            MeilleursScores[niveau][pos] = TLigneScore{NomJoueur, Score, DuréePartie};
+            EcritFichierScores(true);
+        } else {
+            JoueSon(SonPerdu);
+            Boîte(Messages[43], StyleInformation, Messages[35]);
+        }
+    }
+    NiveauAffiché = Niveau;
+    PartieEnregistrée = True;
+    ScoresFinPartie = True;
+    MontreAffichageScores();
+}
+
+void ConfirmeRazScores()
+{
+    if (Boîte(Messages[30], StyleQuestion, Messages[31]) != RéponseOui)
+        return;
+    RazScores();
+    EcritFichierScores(false);
+}

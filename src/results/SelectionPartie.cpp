@@ -1,0 +1,242 @@
+#include "results/SelectionPartie.h"
+
+#include "platform/Boites.h"
+#include "platform/Ecran.h"
+#include "platform/Formes.h"
+#include "platform/Horloge.h"
+#include "results/Parties.h"
+#include "results/Scores.h"
+#include "screen/EcranPrincipal.h"
+#include "screen/Parametrage.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Registre.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStorageInfo>
+#include <cmath>
+
+i16 TypeFichier = 4;
+i16 SortieParamétrage = False;
+
+namespace {
+const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
+const QString Parent = QStringLiteral("..");
+
+QString SansSéparateurFinal(QString d)
+{
+    d = d.trimmed();
+    while (d.size() > 1 && d.endsWith(SéparateurChemin))
+        d.chop(1);
+    return d;
+}
+} // namespace
+
+SélectionPartie::SélectionPartie() : QDialog(FormePrincipale())
+{
+    setObjectName(QStringLiteral("SélectionPartie"));
+    setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);
+    SortieParamétrage = False;
+    setWindowTitle(TypeFichier == 4 ? Messages[89] : Messages[87]);
+    extension = TypeFichier == 4 ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
+
+    Entête = new QLabel(this);
+    Entête->setGeometry(22, 9, 268, 22);
+    Entête->setAlignment(Qt::AlignCenter);
+    QFont f = Entête->font();
+    f.setPointSizeF(9.75);
+    f.setBold(true);
+    Entête->setFont(f);
+    Répertoire = new QListWidget(this);
+    Répertoire->setGeometry(22, 39, 129, 126);
+    Lecteur = new QComboBox(this);
+    Lecteur->setGeometry(23, 178, 129, 21);
+    Fichier = new QListWidget(this);
+    Fichier->setGeometry(168, 40, 121, 136);
+    NomFichier = new QLineEdit(this);
+    NomFichier->setGeometry(171, 212, 120, 22);
+    BoutonOK = new QPushButton(QStringLiteral("OK"), this);
+    BoutonOK->setGeometry(24, 264, 50, 36);
+    BoutonAnnuler = new QPushButton(Messages[80], this);
+    BoutonAnnuler->setGeometry(216, 264, 74, 34);
+    for (QWidget *w : std::initializer_list<QWidget *>{this, Répertoire, Lecteur, Fichier, NomFichier, BoutonOK, BoutonAnnuler})
+        w->setProperty("HelpContextID", 10);
+
+    if (ModeRépertoires != 2) {
+        Entête->setText(TypeFichier == 4 ? Messages[92] : Messages[93]);
+        NomFichier->show();
+    } else {
+        Entête->setText(TypeFichier == 4 ? Messages[90] : Messages[88]);
+        NomFichier->hide();
+    }
+
+    const InfoEcran écran = MesureEcran();
+    move((écran.largeur - width()) / 2, (écran.hauteur - height()) / 2);
+
+    for (const QStorageInfo &v : QStorageInfo::mountedVolumes())
+        if (v.isValid() && v.isReady())
+            Lecteur->addItem(v.rootPath());
+    chemin = SansSéparateurFinal(QDir::currentPath());
+    RemplitListes();
+
+    connect(Lecteur, &QComboBox::activated, this, [this](int i) { ChangeRépertoire(Lecteur->itemText(i)); });
+    connect(Répertoire, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
+        ChangeRépertoire(item->text() == Parent ? QFileInfo(chemin).path()
+                                                : ComposeChemin(chemin, item->text()));
+    });
+    connect(Fichier, &QListWidget::itemDoubleClicked, this, [this] { Fichier_DblClick(); });
+    connect(NomFichier, &QLineEdit::returnPressed, this, [this] { BoutonOK_Click(); });
+    connect(BoutonOK, &QPushButton::clicked, this, [this] { BoutonOK_Click(); });
+    connect(BoutonAnnuler, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+void SélectionPartie::showEvent(QShowEvent *e)
+{
+    QDialog::showEvent(e);
+    if (ModeRépertoires == 1)
+        NomFichier->setFocus();
+}
+
+void SélectionPartie::ChangeRépertoire(const QString &dossier)
+{
+    chemin = SansSéparateurFinal(QDir::cleanPath(dossier));
+    RemplitListes();
+}
+
+void SélectionPartie::RemplitListes()
+{
+    // A folder that can't be listed shows empty lists; the dialog stays usable.
+    Répertoire->clear();
+    Fichier->clear();
+    const QDir d(chemin);
+    if (!d.isRoot())
+        Répertoire->addItem(Parent);
+    Répertoire->addItems(d.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
+    Fichier->addItems(d.entryList({QLatin1Char('*') + extension}, QDir::Files, QDir::Name | QDir::IgnoreCase));
+    const int i = Lecteur->findText(QStorageInfo(chemin).rootPath());
+    if (i >= 0)
+        Lecteur->setCurrentIndex(i);
+}
+
+void SélectionPartie::Fichier_DblClick()
+{
+    if (ModeRépertoires == 2) {
+        BoutonOK_Click();
+        return;
+    }
+    if (Fichier->currentItem())
+        NomFichier->setText(Fichier->currentItem()->text());
+}
+
+void SélectionPartie::ProposeRépertoire()
+{
+    const QString a = SansSéparateurFinal(chemin);
+    const QString b = SansSéparateurFinal(RépertoireSauvegarde);
+    if (a.compare(b, Qt::CaseInsensitive) == 0)
+        return;
+    if (Boîte(Messages[117] + chemin, StyleQuestion, Messages[118]) != RéponseOui)
+        return;
+    EcritValeur(CléKelmor, QStringLiteral("répertoire"), chemin);
+    QDir::setCurrent(chemin);
+    RépertoireSauvegarde = chemin;
+}
+
+void SélectionPartie::BoutonOK_Click()
+{
+    if (ModeRépertoires == 2) {
+        if (!Fichier->currentItem()) {
+            Boîte(TypeFichier == 4 ? Messages[7] : Messages[10], StyleExclamation, Messages[8]);
+            return;
+        }
+        const QString cheminFichier = ComposeChemin(chemin, Fichier->currentItem()->text());
+        if (TypeFichier == 4) {
+            if (!LitPartie(cheminFichier)) {
+                Boîte(Messages[27], StyleExclamation, Messages[28]);
+                return;
+            }
+            QFile::remove(cheminFichier);
+            ProposeRépertoire();
+            ModeRévision = False;
+            AjusteCarte();
+            AffichePanneau();
+            MontreCantons();
+            AfficheScore();
+            AfficheRestants(RestantsEtape);
+            QuestionSuivante();
+            PartieVierge = False;
+            PartieEnregistrée = False;
+            accept();
+            HeureDépart = static_cast<i32>(std::lrint(Timer() - DuréePartie));
+            return;
+        }
+        if (Boîte(Messages[9], StyleQuestion, Messages[109]) == RéponseOui) {
+            EcritValeur(CléKelmor, QStringLiteral("fichier de lancement"), cheminFichier);
+            ProposeRépertoire();
+        }
+        FichierLancement = cheminFichier;
+        ChargeScores();
+        Etape = 0;
+        DébutEtape();
+        PartieVierge = True;
+        ModeRévision = False;
+        AjusteCarte();
+        MontreCantons();
+        accept();
+        return;
+    }
+
+    // A save: the name that is really used stands in the box.
+    QString nom = NomFichier->text();
+    const qsizetype point = nom.indexOf(QLatin1Char('.'));
+    if (point >= 0)
+        nom = nom.left(point);
+    NomFichier->setText(nom + extension);
+    if (nom.trimmed().isEmpty()) {
+        Boîte(Messages[3], StyleExclamation, Messages[4]);
+        return;
+    }
+    const QString cheminFichier = ComposeChemin(chemin, nom + extension);
+    if (QFile::exists(cheminFichier)) {
+        Boîte(Messages[5], StyleExclamation, Messages[6]);
+        return;
+    }
+    if (TypeFichier == 4) {
+        if (!EcritPartie(cheminFichier))
+            return;
+        ProposeRépertoire();
+    } else {
+        FichierLancement = cheminFichier;
+        for (int i = 1; i <= NombrePlaces; ++i)
+            Cantons[i].Inhibé = Cantons[i].Trouvé;
+        if (ModeRépertoires == 3) {
+            EcritFichierScores(true);
+        } else {
+            EcritFichierScores(false);
+            RazScores();
+        }
+        if (LancementDemandé) {
+            EcritValeur(CléKelmor, QStringLiteral("fichier de lancement"), FichierLancement);
+            ProposeRépertoire();
+        }
+    }
+    Etape = 0;
+    DébutEtape();
+    PartieVierge = True;
+    CacheMarques();
+    CacheZoneJeu();
+    SortieParamétrage = True;
+    accept();
+}
+
+void MontreSélectionPartie()
+{
+    SélectionPartie dialogue;
+    ExécuteModal(dialogue);
+}

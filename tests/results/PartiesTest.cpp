@@ -1,0 +1,279 @@
+// Saved games: the .CAS file byte by byte, a game taken up where it stood, and files refused.
+#include "Fixtures.h"
+
+#include "engine/communs.h"
+#include "platform/Formes.h"
+#include "results/Parties.h"
+#include "results/Scores.h"
+#include "results/SelectionPartie.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+namespace {
+
+qint32 Long(const QByteArray &o, int record)
+{
+    const auto *p = reinterpret_cast<const unsigned char *>(o.constData()) + (record - 1) * 128;
+    return qint32(quint32(p[0]) | quint32(p[1]) << 8 | quint32(p[2]) << 16 | quint32(p[3]) << 24);
+}
+int Entier(const QByteArray &o, int record, int décalage = 0)
+{
+    const auto *p = reinterpret_cast<const unsigned char *>(o.constData()) + (record - 1) * 128 + décalage;
+    return qint16(quint16(p[0] | p[1] << 8));
+}
+QByteArray Chaîne(const QByteArray &o, int record)
+{
+    return o.mid((record - 1) * 128 + 2, quint8(o[(record - 1) * 128]));
+}
+
+class Sauvegarde : public JeuTest {
+protected:
+    void SetUp() override
+    {
+        JeuTest::SetUp();
+        FormesMontrées().clear();
+        FichierLancement = dossier.filePath("KELMOR.SCS");
+        RépertoireSauvegarde = dossier.path();
+        QDir::setCurrent(dossier.path());
+    }
+    // A game at Difficile in its third step of four, with a few cantons found.
+    void PartieEntamée()
+    {
+        NouvellePartieAuNiveau(3);
+        while (Etape < 3)
+            RépondJuste();
+        for (int n = 0; n < 5; ++n)
+            RépondJuste();
+        RépondFaux();
+        RépondJuste();
+        RépondFaux();
+        RépondFaux();
+    }
+};
+
+TEST_F(Sauvegarde, WrittenRecordByRecord)
+{
+    PartieEntamée();
+    NomJoueur = QString::fromUtf8("Zoé");
+    DuréePartie = 3725;
+    const QByteArray o = ContenuPartie();
+    ASSERT_EQ(o.size(), 37760);
+    EXPECT_EQ(Chaîne(o, 1), "Version 6.07 du 30/07/2008");
+    EXPECT_EQ(Entier(o, 2), 1);
+    EXPECT_EQ(Chaîne(o, 3), QFile::encodeName(FichierLancement));
+    EXPECT_EQ(Entier(o, 4), 3);
+    EXPECT_EQ(Chaîne(o, 5), "Zo\xE9");
+    EXPECT_EQ(Entier(o, 6), 3);
+    EXPECT_EQ(Entier(o, 7), 0);
+    EXPECT_EQ(Long(o, 8), Score);
+    for (int i = 1; i <= 26; ++i) {
+        EXPECT_EQ(Entier(o, 8 + i), i);
+        EXPECT_EQ(Entier(o, 8 + i, 2), Cantons[i].Trouvé);
+        for (int j = 0; j <= 4; ++j) {
+            EXPECT_EQ(Entier(o, 35 + 10 * (i - 1) + 2 * j), Cantons[i].Réussi[j]);
+            EXPECT_EQ(Long(o, 36 + 10 * (i - 1) + 2 * j), Cantons[i].Pertes[j]);
+        }
+    }
+    EXPECT_EQ(Long(o, 295), 3725);
+}
+
+TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
+{
+    NouvellePartieAuNiveau(2);
+    RépondJuste();
+    FichierLancement = "~tmp.~cf";
+    OrdreEtapes[1] = 1; OrdreEtapes[2] = 4; OrdreEtapes[3] = 0; OrdreEtapes[4] = 0;
+    NombreScores[2] = 2;
+    MeilleursScores[2][1] = {"A", 10, 1};
+    MeilleursScores[2][2] = {"B", 5, 2};
+    NombreScores[4] = 1;
+    MeilleursScores[4][1] = {"C", 3, 3};
+    const QByteArray o = ContenuPartie();
+    EXPECT_EQ(o.size(), (295 + 5 + 3) * 128);
+    EXPECT_EQ(Entier(o, 4), 1);
+    EXPECT_EQ(Entier(o, 5), 4);
+    EXPECT_EQ(Entier(o, 8), 3);
+    EXPECT_EQ(Chaîne(o, 9).left(1), "A");
+    EXPECT_EQ(Entier(o, 12), 1) << "Etape stands behind the block";
+
+    RazScores();
+    ASSERT_TRUE(RestaurePartie(o));
+    EXPECT_EQ(OrdreEtapes[2], 4);
+    EXPECT_EQ(NombreScores[2], 2);
+    EXPECT_EQ(MeilleursScores[4][1].Nom, "C");
+    for (int k = 1; k <= 4; ++k)
+        OrdreEtapes[k] = static_cast<i16>(k);
+}
+
+TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
+{
+    PartieEntamée();
+    const i32 scoreAvant = Score;
+    const i16 restants = RestantsEtape;
+    std::vector<TCanton> avant(Cantons, Cantons + 27);
+
+    // Saving charges what is left of the question that drew errors.
+    horloge = 36000 + 600;
+    InstalleFormesModales([&](QDialog &d) {
+        auto &s = static_cast<SélectionPartie &>(d);
+        s.NomFichier->setText("essai.txt");
+        s.BoutonOK->click();
+        EXPECT_EQ(s.NomFichier->text(), "essai.CAS");
+        return s.result();
+    });
+    EnregistrePartie();
+    const i32 solde = 16 + 64 + 256 + 1024 + 4096 + 16384 + 65536; // errors 3 to 9 of the question
+    EXPECT_EQ(Score, scoreAvant - solde);
+    EXPECT_TRUE(QFile::exists(dossier.filePath("essai.CAS")));
+    EXPECT_EQ(Etape, 0);
+    EXPECT_EQ(PartieVierge, True);
+    boîtes.journal.clear();
+    EXPECT_TRUE(ConfirmeArrêt());
+    EXPECT_TRUE(boîtes.journal.empty()) << "a saved game has nothing to confirm";
+
+    // Taken up later: the clock goes on from where it stood.
+    horloge = 50000;
+    InstalleFormesModales([&](QDialog &d) {
+        auto &s = static_cast<SélectionPartie &>(d);
+        s.Fichier->setCurrentRow(0);
+        s.BoutonOK->click();
+        return s.result();
+    });
+    FichierLire_Click();
+    EXPECT_EQ(Etape, 3);
+    EXPECT_EQ(Score, scoreAvant - solde);
+    EXPECT_EQ(RestantsEtape, restants);
+    for (int i = 1; i <= 26; ++i) {
+        EXPECT_EQ(Cantons[i].Trouvé, avant[i].Trouvé) << i;
+        for (int j = 0; j <= 4; ++j) {
+            EXPECT_EQ(Cantons[i].Réussi[j], avant[i].Réussi[j]) << i;
+            if (i != avant[0].Trouvé)
+                EXPECT_GE(Cantons[i].Pertes[j], avant[i].Pertes[j]);
+        }
+    }
+    EXPECT_EQ(DuréePartie, 600);
+    EXPECT_EQ(HeureDépart, 50000 - 600);
+    EXPECT_FALSE(QFile::exists(dossier.filePath("essai.CAS"))) << "a saved game is taken up once";
+    EXPECT_FALSE(Cantons[CantonRecherché].Trouvé);
+    // The resumed game asks before it is left, even before its first click.
+    boîtes.réponses = {RéponseNon};
+    EXPECT_FALSE(ConfirmeArrêt());
+    EXPECT_EQ(boîtes.journal.back().titre, Messages[33]);
+}
+
+TEST_F(Sauvegarde, DamagedFilesChangeNothing)
+{
+    PartieEntamée();
+    const QByteArray bon = ContenuPartie();
+    RépondJuste();
+    const i32 score = Score;
+    const i16 étape = Etape, restants = RestantsEtape;
+
+    QByteArray horsTable = bon;
+    horsTable[(9 - 1) * 128] = char(200); // the first pair names canton 200
+    const QByteArray mauvais[] = {
+        bon.left(200 * 128),  // cut short
+        bon.left(100),        // cut in its first records
+        QByteArray(),
+    };
+    for (const QByteArray &o : mauvais) {
+        EXPECT_FALSE(RestaurePartie(o));
+        EXPECT_EQ(Score, score);
+        EXPECT_EQ(Etape, étape);
+        EXPECT_EQ(RestantsEtape, restants);
+    }
+    // A number outside 0..26 in a pair is never used as an index.
+    EXPECT_TRUE(RestaurePartie(horsTable));
+
+    // Another version: its message, then the dialog's own.
+    QByteArray autre = bon;
+    autre.replace(2 + 8, 4, "6.08");
+    QFile f(dossier.filePath("vieux.CAS"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(autre);
+    f.close();
+    boîtes.journal.clear();
+    PartieVierge = True;
+    InstalleFormesModales([&](QDialog &d) {
+        auto &s = static_cast<SélectionPartie &>(d);
+        s.Fichier->setCurrentRow(0);
+        s.BoutonOK->click();
+        return 0;
+    });
+    FichierLire_Click();
+    ASSERT_EQ(boîtes.journal.size(), 2u);
+    EXPECT_EQ(boîtes.journal[0].texte, Messages[104] + Messages[0] + Messages[105]);
+    EXPECT_EQ(boîtes.journal[0].style, StyleCritique);
+    EXPECT_EQ(boîtes.journal[1].titre, "Erreur de format");
+    EXPECT_TRUE(QFile::exists(dossier.filePath("vieux.CAS")));
+}
+
+TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNames)
+{
+    PartieEntamée();
+    QFile existant(dossier.filePath("pris.CAS"));
+    ASSERT_TRUE(existant.open(QIODevice::WriteOnly));
+    existant.close();
+    ModeRépertoires = 1;
+    TypeFichier = 4;
+    {
+        SélectionPartie s;
+        s.NomFichier->setText("   ");
+        s.BoutonOK->click();
+        EXPECT_EQ(boîtes.journal.back().texte, Messages[3]);
+        EXPECT_EQ(s.NomFichier->text(), "   .CAS");
+        s.Fichier->setCurrentRow(0);
+        s.Fichier_DblClick();
+        EXPECT_EQ(s.NomFichier->text(), "pris.CAS");
+        s.BoutonOK->click();
+        EXPECT_EQ(boîtes.journal.back().texte, Messages[5]);
+        EXPECT_EQ(s.result(), 0);
+    }
+    ModeRépertoires = 2;
+    {
+        SélectionPartie s;
+        EXPECT_TRUE(s.NomFichier->isHidden());
+        s.Fichier->setCurrentRow(-1);
+        s.BoutonOK->click();
+        EXPECT_EQ(boîtes.journal.back().texte, Messages[7]);
+        EXPECT_EQ(boîtes.journal.back().titre, "M'enffffin");
+    }
+    EXPECT_EQ(Etape, 3);
+}
+
+TEST_F(Sauvegarde, AnotherFolderIsOfferedOnceAsTheDefault)
+{
+    ModeRépertoires = 1;
+    TypeFichier = 4;
+    SélectionPartie s;
+    s.ChangeRépertoire(dossier.path() + "/");
+    s.ProposeRépertoire();
+    EXPECT_TRUE(boîtes.journal.empty()) << "the same folder with a final separator asks nothing";
+    QDir(dossier.path()).mkdir("autre");
+    s.ChangeRépertoire(dossier.filePath("autre"));
+    boîtes.réponses = {RéponseOui};
+    s.ProposeRépertoire();
+    ASSERT_EQ(boîtes.journal.size(), 1u);
+    EXPECT_EQ(boîtes.journal[0].texte, Messages[117] + dossier.filePath("autre"));
+    EXPECT_EQ(RépertoireSauvegarde, dossier.filePath("autre"));
+    EXPECT_EQ(QDir::currentPath(), dossier.filePath("autre"));
+}
+
+TEST_F(Sauvegarde, NothingToSaveWithoutAGameAndAnUnwritableFolderIsTold)
+{
+    EnregistrePartie();
+    EXPECT_TRUE(FormesMontrées().empty());
+    PartieEntamée();
+    EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
+    EXPECT_EQ(boîtes.journal.back().texte, Messages[119]);
+    EXPECT_EQ(Etape, 3);
+}
+
+} // namespace
