@@ -293,8 +293,9 @@ TEST_F(Registre, RandomBytesNeverCrashTheStore)
         QString texte;
         const i32 r = LitValeur(Kelmor, QStringLiteral("version"), texte);
         ASSERT_TRUE(r == 0 || r == -1 || r == -2);
-        if (essai % 2)
+        if (essai % 2) {
             ASSERT_EQ(r, 0) << "a good head survives the junk after it";
+        }
         const i32 h = OuvreClé(QStringLiteral("HKEY_CURRENT_USER"));
         QString nom;
         for (i32 i = 0; EnumèreSousClés(h, i, nom) == 0 && i < 1000; ++i)
@@ -327,13 +328,6 @@ TEST_F(Registre, AStoreThatCantBeReadIsNeverWrittenOver)
     InstalleFichierRegistre(neuf);
     EXPECT_EQ(CréeClé(Kelmor), 0);
     EXPECT_TRUE(QFile::exists(neuf));
-}
-
-TEST(RegistreParDéfaut, LivesInTheUsersConfigurationFolder)
-{
-    InstalleFichierRegistre(QString());
-    EXPECT_TRUE(FichierRegistre().endsWith(QStringLiteral("/kelmor/registre.ini"))) << FichierRegistre().toStdString();
-    EXPECT_TRUE(QDir::isAbsolutePath(FichierRegistre()));
 }
 
 } // namespace
