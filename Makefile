@@ -21,12 +21,16 @@ build: deps
 bench: build
 	./$(BUILD)/bench/kelmor_bench
 
-# Two minutes of libFuzzer on each file reader.
+# libFuzzer on each file reader: the raster, score files, saved games, the settings store.
 fuzz:
 	./scripts/install-deps clang libclang-rt-14-dev
 	CC=clang CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELMOR_FUZZ=ON
-	cmake --build build-fuzz -j $(JOBS) --target FuzzCarteZones
+	cmake --build build-fuzz -j $(JOBS) --target FuzzCarteZones FuzzScores FuzzPartie FuzzRegistre
 	cd build-fuzz && ./FuzzCarteZones -max_total_time=120 -max_len=20000
+	cd build-fuzz && ./FuzzScores -max_total_time=60 -max_len=12000
+	# The main window lives to the end of that run: Qt's own allocations at exit aren't leaks of ours.
+	cd build-fuzz && ASAN_OPTIONS=detect_leaks=0 ./FuzzPartie -max_total_time=60 -max_len=45000
+	cd build-fuzz && ./FuzzRegistre -max_total_time=60 -max_len=4000
 
 clean:
 	rm -rf $(BUILD)

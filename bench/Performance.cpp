@@ -4,15 +4,21 @@
 #include "platform/Boites.h"
 #include "platform/Horloge.h"
 #include "platform/Son.h"
+#include "results/Parties.h"
 #include "results/Resultats.h"
+#include "results/Scores.h"
 #include "screen/EcranPrincipal.h"
+#include "platform/Ecran.h"
+#include "platform/Formes.h"
 #include "platform/Images.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "services/Registre.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QPixmap>
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <random>
 
@@ -23,6 +29,9 @@ SonsEnregistrés sons;
 
 void Prépare()
 {
+    // The settings go to a store of the run's own, never to the player's.
+    static QTemporaryDir magasin;
+    InstalleFichierRegistre(magasin.filePath(QStringLiteral("registre.ini")));
     InstalleDossierProgramme(QStringLiteral(DOSSIER_DONNEES));
     InstalleBoîtes(&boîtes);
     InstalleSons(&sons);
@@ -122,6 +131,86 @@ void BM_ChangementDeLangue(benchmark::State &state)
     delete FormePrincipale();
 }
 BENCHMARK(BM_ChangementDeLangue)->Unit(benchmark::kMillisecond);
+
+// A whole game of four steps, 104 right answers clicked through the map's pictures.
+void BM_PartieEntiere(benchmark::State &state)
+{
+    Prépare();
+    InstalleHorloge([] { return 36000.0; });
+    InstalleFormesModales([](QDialog &) { return 0; });
+    if (!Main()) {
+        state.SkipWithError("the start failed");
+        return;
+    }
+    QTemporaryDir dossier;
+    auto &E = Principal();
+    // A point of each canton, found once on the raster.
+    std::vector<QPoint> points(27);
+    for (int y = 0; y < 456; ++y)
+        for (int x = 0; x < 652; ++x)
+            if (points[ZoneEn(0, x, y)].isNull())
+                points[ZoneEn(0, x, y)] = QPoint(x, y);
+    for (auto _ : state) {
+        FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
+        InstalleDialogueNouvellePartie([] {
+            Niveau = 3;
+            Etape = OrdreEtapes[1];
+        });
+        LanceNouvellePartie();
+        while (Etape != 0) {
+            const QPoint p = points[CantonRecherché];
+            NotePositionCurseur(E.Carte->mapToGlobal(p));
+            CliqueCarte(0);
+        }
+    }
+    InstalleFormesModales(nullptr);
+    delete FormePrincipale();
+}
+BENCHMARK(BM_PartieEntiere)->Unit(benchmark::kMillisecond);
+
+// A full score file (forty lines) and a saved game, written whole and read back.
+void BM_FichierScoresEcritEtLu(benchmark::State &state)
+{
+    Prépare();
+    QTemporaryDir dossier;
+    FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
+    for (int n = 1; n <= 4; ++n) {
+        NombreScores[n] = 10;
+        for (int r = 1; r <= 10; ++r)
+            MeilleursScores[n][r] = TLigneScore{QStringLiteral("Joueuse %1").arg(r), 999999 - r, 600 + r};
+    }
+    for (auto _ : state) {
+        EcritFichierScores(true);
+        RazScores();
+        benchmark::DoNotOptimize(LitFichierScores());
+    }
+}
+BENCHMARK(BM_FichierScoresEcritEtLu)->Unit(benchmark::kMicrosecond);
+
+void BM_PartieEcriteEtLue(benchmark::State &state)
+{
+    Prépare();
+    InstalleHorloge([] { return 36000.0; });
+    if (!Main()) {
+        state.SkipWithError("the start failed");
+        return;
+    }
+    QTemporaryDir dossier;
+    FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
+    InstalleDialogueNouvellePartie([] {
+        Niveau = 2;
+        Etape = OrdreEtapes[1];
+    });
+    LanceNouvellePartie();
+    const QString chemin = dossier.filePath(QStringLiteral("partie.CAS"));
+    for (auto _ : state) {
+        EcritPartie(chemin);
+        benchmark::DoNotOptimize(LitPartie(chemin));
+    }
+    PartieVierge = True;
+    delete FormePrincipale();
+}
+BENCHMARK(BM_PartieEcriteEtLue)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

@@ -69,6 +69,26 @@ TEST_F(Carte, EveryCantonHasPixelsAndStaysInsideItsPicture)
     EXPECT_LT(pixels[0], 652 * 456 * 4 / 5);
 }
 
+TEST_F(Carte, TheRasterAgreesWithTheDrawnBorders)
+{
+    ASSERT_TRUE(chargée);
+    // The border of canton i is drawn just inside it: its pixels resolve to i.
+    for (int i = 1; i <= 26; ++i) {
+        const QImage inv = QImage(Données + QStringLiteral("/images/inv%1.png").arg(i, 2, 10, QLatin1Char('0')))
+                               .convertToFormat(QImage::Format_ARGB32);
+        ASSERT_FALSE(inv.isNull());
+        int dessinés = 0, dedans = 0;
+        for (int y = 0; y < inv.height(); ++y)
+            for (int x = 0; x < inv.width(); ++x)
+                if (qAlpha(inv.pixel(x, y)) > 200) {
+                    ++dessinés;
+                    dedans += ZoneEn(0, Cantons[i].PaysGauche + x, Cantons[i].PaysHaut + y) == i;
+                }
+        ASSERT_GT(dessinés, 10) << i;
+        EXPECT_GT(dedans, dessinés * 8 / 10) << Cantons[i].Nom.toStdString() << ": " << dedans << " of " << dessinés;
+    }
+}
+
 TEST_F(Carte, FileSizeIsItsRecords)
 {
     QFile f(Données + "/KELMOR.pts");

@@ -1,0 +1,32 @@
+// Any bytes as a score file: no crash, the lists never past ten lines, the step
+// order always one the game can play.
+#include "engine/communs.h"
+#include "results/Scores.h"
+#include "services/Langues.h"
+
+#include <QCoreApplication>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    static QCoreApplication application(*argc, *argv);
+    ChargeChaînes();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille)
+{
+    RazScores();
+    LitScores(QByteArray(reinterpret_cast<const char *>(octets), qsizetype(taille)));
+    for (int n = 0; n <= 4; ++n)
+        if (NombreScores[n] < 0 || NombreScores[n] > 10)
+            std::abort();
+    for (int i = 1; i <= 4; ++i)
+        if (OrdreEtapes[i] < 0 || OrdreEtapes[i] > 4)
+            std::abort();
+    // What was read writes back without trouble.
+    if (ContenuScores(true).size() % 128 != 0)
+        std::abort();
+    NombreScores[0] = 0;
+    return 0;
+}
