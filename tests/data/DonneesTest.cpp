@@ -4,6 +4,7 @@
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "screen/EcranPrincipal.h"
+#include "services/Fiches.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/TableChaines.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QSvgRenderer>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -172,21 +174,38 @@ TEST(Sons, FiveShortWaveFiles)
 TEST(Fiches, TwentySixRecordsOf650BytesNamedAfterTheirCanton)
 {
     for (int langue : {1, 2}) {
-        QFile f(Données + "/" + ChaîneTable(20 + langue));
-        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-        const QByteArray o = f.readAll();
-        ASSERT_EQ(o.size(), 26 * 650);
+        const QString chemin = Données + "/" + ChaîneTable(20 + langue);
+        EXPECT_EQ(QFileInfo(chemin).size(), 26 * TailleFiche);
+        std::set<QString> textes;
         for (int i = 1; i <= 26; ++i) {
-            const QByteArray r = o.mid((i - 1) * 650, 650);
-            const int n1 = quint8(r[0]) | quint8(r[1]) << 8;
-            ASSERT_LT(n1 + 4, 650);
-            const int n2 = quint8(r[2 + n1]) | quint8(r[3 + n1]) << 8;
-            ASSERT_LE(4 + n1 + n2, 650);
-            EXPECT_EQ(DepuisAnsi(r.mid(2, n1)), LitChamp(ChaîneTable(2000 + 200 * (langue - 1) + i), 1));
-            EXPECT_GT(n2, 100) << "a few lines of facts";
-            EXPECT_EQ(r.mid(4 + n1 + n2), QByteArray(650 - 4 - n1 - n2, '\0'));
+            TFiche fiche;
+            ASSERT_TRUE(LitFicheInfo(chemin, i, fiche)) << i;
+            EXPECT_EQ(fiche.Nom, LitChamp(ChaîneTable(2000 + 200 * (langue - 1) + i), 1));
+            EXPECT_GT(fiche.Texte.size(), 100) << "a few lines of facts";
+            EXPECT_TRUE(fiche.Texte.contains("\r\n")) << "lines end in CR LF";
+            EXPECT_LE(4 + VersAnsi(fiche.Nom).size() + VersAnsi(fiche.Texte).size(), TailleFiche);
+            textes.insert(fiche.Texte);
         }
+        EXPECT_EQ(textes.size(), 26u);
+        TFiche horsFichier;
+        EXPECT_FALSE(LitFicheInfo(chemin, 27, horsFichier));
     }
+    // Lengths that run past the record are refused, not read beyond it.
+    QTemporaryDir d;
+    QFile f(d.filePath("abime.INF"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    QByteArray r(TailleFiche, '\0');
+    r[0] = char(0x10);
+    r[1] = char(0x02); // n1 = 528
+    r[2 + 528] = char(0x90);
+    r[3 + 528] = char(0x01); // n2 = 400
+    f.write(r + QByteArray("\x04\x00Vaud\x02\x00ok", 10));
+    f.close();
+    TFiche fiche;
+    EXPECT_FALSE(LitFicheInfo(f.fileName(), 1, fiche));
+    ASSERT_TRUE(LitFicheInfo(f.fileName(), 2, fiche)) << "a short last record is read as far as it goes";
+    EXPECT_EQ(fiche.Nom, "Vaud");
+    EXPECT_EQ(fiche.Texte, "ok");
 }
 
 TEST(Aide, EveryContextHasItsPageInBothLanguages)
