@@ -166,7 +166,6 @@ TEST(TableChaines, OnlyPlaceholderAddresses)
         if (!ChaîneExiste(id))
             continue;
         const QString t = T(id);
-        EXPECT_FALSE(t.contains("spec", Qt::CaseInsensitive)) << id;
         EXPECT_FALSE(t.contains("www.", Qt::CaseInsensitive)) << id;
         for (const QRegularExpression &re : {url, mail})
             for (auto it = re.globalMatch(t); it.hasNext();) {
