@@ -193,19 +193,6 @@ TEST_F(Partie, AFoundCantonCostsAtDifficileButNotAtMoyenOrFacile)
     }
 }
 
-TEST_F(Partie, FacileShowsThePassButtonFromTheFirstError)
-{
-    NouvellePartieAuNiveau(1);
-    auto &E = Principal();
-    EXPECT_FALSE(E.BoutonPasse->Visible());
-    RépondFaux();
-    EXPECT_TRUE(E.BoutonPasse->Visible());
-    EXPECT_FALSE(E.BoutonGruge->Visible());
-    RépondJuste();
-    EXPECT_FALSE(E.BoutonPasse->Visible());
-    EXPECT_EQ(ErreursQuestion, 0);
-}
-
 TEST_F(Partie, ApprentissageGivesTheAnswerAwayFromTheThirdError)
 {
     NouvellePartieAuNiveau(1, true);

@@ -95,8 +95,10 @@ TEST_F(Score_, PassAfterOneErrorCostsTheRestOfTheQuestion)
 {
     NouvellePartieAuNiveau(1);
     const i16 asked = CantonRecherché;
+    EXPECT_FALSE(Principal().BoutonPasse->Visible());
     RépondFaux();
     EXPECT_TRUE(Principal().BoutonPasse->Visible());
+    EXPECT_FALSE(Principal().BoutonGruge->Visible());
     Principal().BoutonPasse->click();
     EXPECT_EQ(Score, 999999 - 87381);
     EXPECT_EQ(Cantons[asked].Pertes[1], 87381);
