@@ -61,6 +61,7 @@ void JeuTest::SetUp()
     InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 1024), 24});
     // Modal forms close at once unless a test scripts them.
     InstalleFormesModales([](QDialog &) { return 0; });
+    FormesMontrées().clear();
 
     Langue = 1;
     NomJoueur.clear();

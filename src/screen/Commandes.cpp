@@ -7,6 +7,7 @@
 #include "results/Scores.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Palette.h"
+#include "screen/Parametrage.h"
 #include "services/Aide.h"
 #include "services/Langues.h"
 #include "services/Sons.h"
@@ -27,6 +28,10 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.ScoreDifficile, [] { AfficheMeilleursScores(3); });
     relie(E.ScoreExpert, [] { AfficheMeilleursScores(4); });
     relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
+    relie(E.MenuAfficheParamètres, [] { RevoitParamétrage(); });
+    relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });
+    relie(E.MenuRecharger, [] { RechargeParamétrage(); });
+    relie(E.MenuDéfinir, [] { DéfinitParamétrage(); });
     relie(E.FichierQuitter, [] {
         if (ConfirmeArrêt())
             Principal().close();

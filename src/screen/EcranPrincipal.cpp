@@ -7,6 +7,7 @@
 #include "platform/Images.h"
 #include "results/Resultats.h"
 #include "screen/Commandes.h"
+#include "screen/Parametrage.h"
 #include "services/Aide.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
@@ -286,6 +287,11 @@ void EcranPrincipal::Relie()
     connect(BarreV, &QScrollBar::valueChanged, this, [] { BarreV_Change(); });
     connect(BoutonPasse, &QToolButton::clicked, this, [] { BoutonPasse_Click(); });
     connect(BoutonGruge, &QToolButton::clicked, this, [] { BoutonGruge_Click(); });
+    // A check box's change, by the player or by the program, runs its rule at once.
+    for (int k = 1; k <= 18; ++k)
+        connect(Bouton[k], &QCheckBox::toggled, this, [k] { Bouton_Click(k); });
+    for (int i = 1; i <= 2; ++i)
+        connect(BTN[i], &QPushButton::clicked, this, [i] { BTN_Click(i); });
     RelieCommandes(*this);
 }
 

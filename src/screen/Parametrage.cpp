@@ -1,22 +1,36 @@
 #include "screen/Parametrage.h"
 
-#include "engine/communs.h"
+#include "platform/Boites.h"
+#include "results/Parties.h"
+#include "results/Scores.h"
+#include "results/SelectionPartie.h"
 #include "screen/EcranPrincipal.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Registre.h"
 
+#include <QFile>
 #include <QMenu>
 
+i16 GrilleActive = False;
+i32 CodeEtapes = 0;
+i16 ParamétrageNommé = False;
+i16 ParamétrageDeLancement = False;
 i16 LancementDemandé = False;
 
 namespace {
-void MontrePanneau(bool visible)
+const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
+const QString FichierDeLancement = QStringLiteral("fichier de lancement");
+const QString ParamétrageNonSauvé = QStringLiteral("~tmp.~cf");
+
+CaseACocher *Case(int colonne, int rang) { return Principal().Bouton[(colonne - 1) * 4 + rang]; }
+bool ColonneRemplie(int colonne)
 {
-    auto &E = Principal();
-    for (int i = 1; i <= 13; ++i)
-        E.LBLParam[i]->setVisible(visible);
-    for (int i = 1; i <= 18; ++i)
-        E.Bouton[i]->setVisible(visible);
-    E.BTN[1]->setVisible(visible);
-    E.BTN[2]->setVisible(visible);
+    for (int r = 1; r <= 4; ++r)
+        if (Case(colonne, r)->isChecked())
+            return true;
+    return false;
 }
 
 void MenusDeJeu(bool actifs)
@@ -27,17 +41,257 @@ void MenusDeJeu(bool actifs)
     E.MenuRévision->setEnabled(actifs);
     E.MenuParamétrer->setEnabled(actifs);
 }
+
+// What the four commands share once the step is set.
+void SéquenceEntrée()
+{
+    Principal().HelpContextID = 65;
+    DébutEtape();
+    AffichePanneau();
+    PartieVierge = True;
+    ModeRévision = False;
+    AjusteCarte();
+    MontreCantons();
+}
 } // namespace
+
+void DéfinitParamétrage()
+{
+    if (!ConfirmeArrêt())
+        return;
+    Etape = 5;
+    SéquenceEntrée();
+}
+
+void RevoitParamétrage()
+{
+    if (!ConfirmeArrêt())
+        return;
+    Etape = 6;
+    SéquenceEntrée();
+}
+
+void ParamétrageDéfaut()
+{
+    if (!ConfirmeArrêt())
+        return;
+    FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
+    EcritValeur(CléKelmor, FichierDeLancement, FichierLancement);
+    ChargeScores();
+    Etape = 6;
+    SéquenceEntrée();
+}
+
+void RechargeParamétrage()
+{
+    if (!ConfirmeArrêt())
+        return;
+    ModeRépertoires = 2;
+    TypeFichier = 5;
+    MontreSélectionPartie();
+    Etape = 6;
+    SéquenceEntrée();
+}
 
 void AfficheParamétrage()
 {
-    MontrePanneau(true);
-    // While a set is edited only its own OK and Annuler lead out.
-    MenusDeJeu(Etape != 5);
+    auto &E = Principal();
+    GrilleActive = False;
+    PartieEnregistrée = True;
+    PartieVierge = True;
+    CacheZoneJeu();
+    CodeEtapes = 0;
+    for (int k = 1; k <= 16; ++k) {
+        E.Bouton[k]->setChecked(false);
+        E.Bouton[k]->show();
+        E.Bouton[k]->setEnabled(Etape != 6);
+    }
+    for (int i = 1; i <= 12; ++i)
+        E.LBLParam[i]->show();
+    E.Bouton[17]->show();
+    E.Bouton[17]->setEnabled(Etape != 6);
+    for (int n = 1; n <= 4; ++n)
+        if (OrdreEtapes[n] >= 1 && OrdreEtapes[n] <= 4) {
+            const int k = (n - 1) * 4 + OrdreEtapes[n];
+            E.Bouton[k]->setChecked(true);
+            CodeEtapes += 1 << k;
+        }
+    if (FichierLancement == ParamétrageNonSauvé) {
+        E.LBLParam[3]->setText(Messages[94]);
+        ParamétrageNommé = False;
+        E.Bouton[18]->hide();
+        E.LBLParam[13]->hide();
+    } else {
+        E.LBLParam[3]->setText(Messages[71] + QLatin1Char('\n') + FichierLancement);
+        E.LBLParam[3]->setToolTip(FichierLancement);
+        ParamétrageNommé = True;
+        E.Bouton[17]->setChecked(true);
+        E.Bouton[18]->show();
+        E.LBLParam[13]->show();
+        E.Bouton[18]->setEnabled(Etape != 6);
+        QString lancement;
+        LitValeur(CléKelmor, FichierDeLancement, lancement);
+        ParamétrageDeLancement = Booléen(lancement == FichierLancement);
+        E.Bouton[18]->setChecked(ParamétrageDeLancement);
+    }
+    if (Etape == 6) {
+        E.BTN[1]->hide();
+        E.BTN[2]->hide();
+        E.LBLParam[2]->setText(Messages[70]);
+    } else {
+        E.BTN[1]->show();
+        E.BTN[2]->show();
+        E.LBLParam[2]->setText(Messages[69]);
+        MenusDeJeu(false);
+    }
+    GrilleActive = True;
 }
 
 void CacheParamétrage()
 {
-    MontrePanneau(false);
+    auto &E = Principal();
+    for (int i = 1; i <= 13; ++i)
+        E.LBLParam[i]->hide();
+    for (int i = 1; i <= 18; ++i)
+        E.Bouton[i]->hide();
+    E.BTN[1]->hide();
+    E.BTN[2]->hide();
     MenusDeJeu(true);
+}
+
+void Bouton_Click(int k)
+{
+    auto &E = Principal();
+    if (k <= 16 && GrilleActive) {
+        const int c = (k - 1) / 4 + 1;
+        const int r = (k - 1) % 4 + 1;
+        bool vide = true;
+        bool doublon = false;
+        const bool coché = E.Bouton[k]->isChecked();
+        if (coché) {
+            for (int j = 1; j < c; ++j)
+                doublon = doublon || Case(j, r)->isChecked();
+            vide = c == 1 ? false : !ColonneRemplie(c - 1);
+        } else {
+            vide = !ColonneRemplie(c);
+        }
+        if (!coché) {
+            if (!vide)
+                return;
+            if (c != 1) {
+                // A gap closes by dropping all later ranks.
+                for (int j = c + 1; j <= 4; ++j)
+                    for (int rr = 1; rr <= 4; ++rr)
+                        Case(j, rr)->setChecked(false);
+                return;
+            }
+            Boîte(Messages[48], StyleInformation, Messages[46]);
+            E.Bouton[k]->setChecked(true);
+            return;
+        }
+        if (vide) {
+            Boîte(Messages[45], StyleInformation, Messages[46]);
+            E.Bouton[k]->setChecked(false);
+        } else if (doublon) {
+            Boîte(Messages[47], StyleInformation, Messages[46]);
+            E.Bouton[k]->setChecked(false);
+        } else {
+            for (int rr = 1; rr <= 4; ++rr)
+                if (rr != r)
+                    Case(c, rr)->setChecked(false);
+            for (int j = c + 1; j <= 4; ++j)
+                Case(j, r)->setChecked(false);
+        }
+        return;
+    }
+    if (k == 17) {
+        if (E.Bouton[17]->isChecked()) {
+            E.Bouton[18]->show();
+            E.LBLParam[13]->show();
+        } else {
+            E.Bouton[18]->hide();
+            E.LBLParam[13]->hide();
+            E.Bouton[18]->setChecked(false);
+        }
+    }
+}
+
+void BTN_Click(int i)
+{
+    if (i == 2) {
+        AnnuleParamétrage();
+        return;
+    }
+    bool tousRouges = true;
+    for (int c = 1; c <= NombrePlaces; ++c)
+        tousRouges = tousRouges && Cantons[c].Trouvé;
+    if (tousRouges) {
+        Boîte(Messages[121], StyleExclamation, Messages[46]);
+        return;
+    }
+    ValideParamétrage();
+}
+
+void ValideParamétrage()
+{
+    auto &E = Principal();
+    SortieParamétrage = True;
+    i32 code = 0;
+    for (int n = 1; n <= 4; ++n) {
+        OrdreEtapes[n] = 0;
+        for (int r = 1; r <= 4; ++r)
+            if (Case(n, r)->isChecked()) {
+                OrdreEtapes[n] = static_cast<i16>(r);
+                code += 1 << ((n - 1) * 4 + r);
+            }
+    }
+    bool modifié = false;
+    for (int c = 1; c <= NombrePlaces; ++c)
+        modifié = modifié || Cantons[c].Trouvé != Cantons[c].Inhibé;
+
+    if (!E.Bouton[17]->isChecked()) {
+        if (Boîte(Messages[29], StyleQuestion, Messages[106]) != RéponseOui)
+            return;
+        QFile::remove(ParamétrageNonSauvé);
+        FichierLancement = ParamétrageNonSauvé;
+        if (code == CodeEtapes && !modifié) {
+            EcritFichierScores(true);
+        } else {
+            for (int c = 1; c <= NombrePlaces; ++c)
+                Cantons[c].Inhibé = Cantons[c].Trouvé;
+            RazScores();
+            EcritFichierScores(false);
+        }
+    } else {
+        LancementDemandé = Booléen(E.Bouton[18]->isChecked());
+        if (code != CodeEtapes || modifié) {
+            ModeRépertoires = 1;
+            TypeFichier = 5;
+            MontreSélectionPartie();
+        } else if (ParamétrageNommé && !ParamétrageDeLancement && LancementDemandé) {
+            EcritValeur(CléKelmor, FichierDeLancement, FichierLancement);
+        } else if (!ParamétrageNommé) {
+            ModeRépertoires = 3;
+            TypeFichier = 5;
+            MontreSélectionPartie();
+        }
+    }
+    if (SortieParamétrage) {
+        CacheParamétrage();
+        Etape = 0;
+        DébutEtape();
+        PartieVierge = True;
+        CacheMarques();
+        CacheZoneJeu();
+    }
+}
+
+void AnnuleParamétrage()
+{
+    Etape = 0;
+    DébutEtape();
+    AffichePanneau();
+    ModeRévision = False;
+    AjusteCarte();
+    MontreCantons();
 }

@@ -1,9 +1,22 @@
 #pragma once
-// The side panel in which a parameter set is shown or edited.
+// The parameter set edited on the main screen: dots on the map for the cantons in
+// play, a grid of step kinds by rank in the side panel.
 #include "engine/communs.h"
 
+extern i16 GrilleActive;
+extern i32 CodeEtapes;
+extern i16 ParamétrageNommé;
+extern i16 ParamétrageDeLancement;
 // The set being saved must become the one used at the next starts.
 extern i16 LancementDemandé;
 
+void DéfinitParamétrage();
+void RevoitParamétrage();
+void ParamétrageDéfaut();
+void RechargeParamétrage();
 void AfficheParamétrage();
 void CacheParamétrage();
+void Bouton_Click(int k);
+void BTN_Click(int i);
+void ValideParamétrage();
+void AnnuleParamétrage();
