@@ -9,6 +9,8 @@
 #include "screen/Palette.h"
 #include "screen/Parametrage.h"
 #include "services/Aide.h"
+#include "services/ParametrageRepertoires.h"
+#include "services/Parametres.h"
 #include "services/Langues.h"
 #include "services/Sons.h"
 
@@ -32,6 +34,11 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });
     relie(E.MenuRecharger, [] { RechargeParamétrage(); });
     relie(E.MenuDéfinir, [] { DéfinitParamétrage(); });
+    relie(E.MenuInf, [] {
+        ModeRépertoires = 6;
+        MontreParamétrageRépertoires();
+    });
+    relie(E.FichierVersion, [] { ChercheVersions(); });
     relie(E.FichierQuitter, [] {
         if (ConfirmeArrêt())
             Principal().close();

@@ -19,7 +19,8 @@ QString ChoisitDossier(const QString &départ)
 {
     if (choixScripté)
         return choixScripté();
-    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), Messages[143], départ);
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(),
+                                             ModeRépertoires == 6 ? Messages[144] : Messages[143], départ);
 }
 } // namespace
 
@@ -29,7 +30,7 @@ void MontreParamétrageRépertoires()
 {
     // The desktop's own folder chooser, which can also make a subfolder, stands in
     // for the game's folder form until that form exists.
-    QString départ = QDir::currentPath();
+    QString départ = ModeRépertoires == 6 ? RépertoireInfo : QDir::currentPath();
     for (;;) {
         QString dossier = ChoisitDossier(départ);
         if (dossier.isEmpty())
@@ -38,6 +39,14 @@ void MontreParamétrageRépertoires()
             Boîte(Messages[119], StyleInformation, Messages[46]);
             départ = dossier;
             continue;
+        }
+        if (ModeRépertoires == 6) {
+            // The information files of every language are looked for in the new folder.
+            RépertoireInfo = dossier;
+            EcritValeur(CléJeu, QStringLiteral("répertoire information"), dossier);
+            for (int i = 1; i < int(CheminsInfo.size()); ++i)
+                CheminsInfo[i] = ComposeChemin(RépertoireInfo, NomsFichiersInfo[i]);
+            return;
         }
         EcritValeur(CléJeu, QStringLiteral("répertoire"), dossier);
         RépertoireSauvegarde = dossier;

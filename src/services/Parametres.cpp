@@ -122,6 +122,8 @@ QMap<QString, QString> JeuxInstallés()
 
 void RappelVersions() { Boîte(Messages[123], StyleInformation, Messages[124]); }
 
+void ChercheVersions() { RappelVersions(); }
+
 void DossiersParDéfaut()
 {
     if (RépertoireAccessible(RépertoireApplication)) {

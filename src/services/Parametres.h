@@ -47,3 +47,5 @@ void DossiersParDéfaut();
 QMap<QString, QString> JeuxInstallés();
 // The reminder to look for new versions of the family's games.
 void RappelVersions();
+// The command that looks for new versions: the reminder of what is known, nothing fetched yet.
+void ChercheVersions();
