@@ -5,6 +5,7 @@
 #include "services/Langues.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Registre.h"
+#include "services/Sons.h"
 #include "services/TableChaines.h"
 
 #include <QCoreApplication>
@@ -174,6 +175,7 @@ void LitParamètres()
         PremierLancement();
         // The bare name of the score file is looked for in the current folder.
         VaDansRépertoireSauvegarde();
+        CoupeSonsSystème();
         return;
     }
 
@@ -196,5 +198,5 @@ void LitParamètres()
     VaDansRépertoireSauvegarde();
     LitValeur(CléJeu, FichierDeLancement, FichierLancement);
     LitValeur(CléJeu, RépertoireInformation, RépertoireInfo);
-    // The desktop's message boxes make no sound of their own: no system sound to silence.
+    CoupeSonsSystème();
 }
