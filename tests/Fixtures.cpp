@@ -7,6 +7,7 @@
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
+#include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
 
@@ -62,6 +63,8 @@ void JeuTest::SetUp()
     // Modal forms close at once unless a test scripts them.
     InstalleFormesModales([](QDialog &) { return 0; });
     FormesMontrées().clear();
+    // The desktop's folder chooser is answered with a cancel unless a test picks a folder.
+    InstalleChoixDossier([] { return QString(); });
 
     Langue = 1;
     NomJoueur.clear();
@@ -83,6 +86,7 @@ void JeuTest::TearDown()
     }
     InstalleDialogueNouvellePartie(nullptr);
     InstalleFormesModales(nullptr);
+    InstalleChoixDossier(nullptr);
     InstalleBoîtes(nullptr);
     InstalleSons(nullptr);
     InstalleHorloge(nullptr);

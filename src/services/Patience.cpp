@@ -1,29 +1,116 @@
 #include "services/Patience.h"
 
+#include "platform/Controles.h"
+#include "platform/Ecran.h"
+#include "platform/Images.h"
+#include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QPointer>
-#include <QScreen>
+
+int BitsParPixel = 0;
+std::vector<TMode> Modes;
+short CapacitéModes = 36;
 
 namespace {
-QPointer<QLabel> patience;
+QPointer<Patience> patience;
+std::function<std::vector<TMode>()> sourceModes;
+
+// "16 Couleurs]", " Couleurs 32 bits]": the depth as the player reads it.
+QString Profondeur(int bits)
+{
+    switch (bits) {
+    case 4: return QStringLiteral("16 ") + Messages[97] + QStringLiteral("]");
+    case 8: return QStringLiteral("256") + Messages[97] + QStringLiteral("]");
+    case 16: return QStringLiteral("65536") + Messages[97] + QStringLiteral("]");
+    case 24: return Messages[97] + QStringLiteral(" 24 bits]");
+    case 32: return Messages[97] + QStringLiteral(" 32 bits]");
+    default: return QString();
+    }
+}
+
+QString Mode(int largeur, int hauteur, int bits)
+{
+    return QStringLiteral("%1x%2  [").arg(largeur).arg(hauteur) + Profondeur(bits);
+}
+} // namespace
+
+void InstalleModesAffichage(std::function<std::vector<TMode>()> source) { sourceModes = std::move(source); }
+
+bool SondeModes()
+{
+    CapacitéModes = 36;
+    Modes.assign(CapacitéModes + 1, TMode{});
+    int suivant = 1;
+    for (const TMode &m : sourceModes ? sourceModes() : std::vector<TMode>{}) {
+        if (m.Bits < 16 || m.Largeur <= LargeurEcran)
+            continue;
+        if (suivant > CapacitéModes) {
+            CapacitéModes = static_cast<short>(CapacitéModes + 10);
+            Modes.resize(CapacitéModes + 1);
+        }
+        Modes[suivant++] = m;
+    }
+    Modes[0].Largeur = LargeurEcran;
+    Modes[0].Bits = BitsParPixel;
+    bool meilleur = false;
+    for (int i = 1; i < suivant; ++i) {
+        const TMode &m = Modes[i];
+        if (m.Largeur > Modes[0].Largeur || (m.Largeur == Modes[0].Largeur && m.Bits > Modes[0].Bits)) {
+            Modes[0] = m;
+            meilleur = true;
+        }
+    }
+    return meilleur;
+}
+
+Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::WindowTitleHint)
+{
+    setObjectName(QStringLiteral("Patience"));
+    setFixedSize(500, 296);
+    const InfoEcran écran = MesureEcran();
+    LargeurEcran = écran.largeur;
+    HauteurEcran = écran.hauteur;
+    BitsParPixel = écran.profondeur;
+    setWindowTitle(Messages[91] + QStringLiteral("...  (") + Messages[0] + QStringLiteral(")"));
+
+    // The window's emblem, drawn large in the picture's place.
+    Image1 = new Image(this);
+    Image1->Stretch = true;
+    Image1->setGeometry(27, 40, 125, 125);
+    Image1->setPicture(ImageJeu(QStringLiteral("Icone"), QSize(32, 32)));
+    auto étiquette = [this](QRect g) {
+        auto *l = new QLabel(this);
+        l->setGeometry(g);
+        l->setWordWrap(true);
+        l->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        return l;
+    };
+    Commentaire = étiquette({184, 8, 289, 81});
+    Conseil = étiquette({184, 96, 289, 89});
+    Adresse = étiquette({8, 184, 473, 105});
+    Adresse->setStyleSheet(QStringLiteral("color: #0000ff;"));
+    Adresse->setText(Messages[95]);
+    move((LargeurEcran - width()) / 2, (HauteurEcran - height()) / 2);
+
+    Commentaire->setText(Messages[96] + QStringLiteral("%1x%2  [").arg(LargeurEcran).arg(HauteurEcran) +
+                         Profondeur(BitsParPixel));
+    const bool mieux = SondeModes();
+    const bool large = LargeurEcran >= 1024;
+    Conseil->setStyleSheet(large ? QStringLiteral("color: #000000;") : QStringLiteral("color: #ff0000;"));
+    const QString mode = Mode(Modes[0].Largeur, Modes[0].Hauteur, Modes[0].Bits);
+    if (!mieux)
+        Conseil->setText(large ? Messages[98] : Messages[99]);
+    else
+        Conseil->setText(Messages[100] + mode + (large ? QStringLiteral(" ; ") + Messages[101] : Messages[107]));
 }
 
 void AffichePatience()
 {
     if (patience)
         return;
-    patience = new QLabel();
-    patience->setObjectName(QStringLiteral("Patience"));
-    patience->setWindowFlags(Qt::SplashScreen);
-    patience->setText(Messages.size() > 91 ? Messages[91] : QString());
-    patience->setAlignment(Qt::AlignCenter);
-    patience->setMargin(24);
-    patience->adjustSize();
-    if (const QScreen *s = QGuiApplication::primaryScreen())
-        patience->move(s->geometry().center() - patience->rect().center());
+    patience = new Patience();
     patience->show();
     patience->repaint();
 }

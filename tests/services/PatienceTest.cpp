@@ -1,0 +1,50 @@
+// The loading form's report of the display and its advice on the resolution.
+#include "Fixtures.h"
+
+#include "platform/Ecran.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+#include "services/Patience.h"
+
+#include <QLabel>
+
+namespace {
+
+using Accueil = JeuTest;
+
+TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
+{
+    struct Cas {
+        int largeur;
+        std::vector<TMode> modes;
+        bool rouge;
+        QString conseil;
+    };
+    const std::vector<TMode> beaucoup = [] {
+        std::vector<TMode> m(50, TMode{1024, 768, 32});
+        m.push_back({1280, 1024, 16});
+        m.push_back({1280, 1024, 32});
+        m.push_back({1280, 1024, 24});
+        m.push_back({1600, 1200, 8}); // too few colours, however wide
+        return m;
+    }();
+    const Cas cas[] = {
+        {1024, {{1024, 768, 32}}, false, Messages[98]},
+        {800, {{800, 600, 32}}, true, Messages[99]},
+        {800, beaucoup, true, Messages[100] + "1280x1024  [" + Messages[97] + " 32 bits]" + Messages[107]},
+        {1024, beaucoup, false, Messages[100] + "1280x1024  [" + Messages[97] + " 32 bits] ; " + Messages[101]},
+    };
+    for (const Cas &c : cas) {
+        InstalleEcran(InfoEcran{c.largeur, 600, QRect(0, 0, c.largeur, 600), 24});
+        InstalleModesAffichage([&c] { return c.modes; });
+        Patience p;
+        EXPECT_EQ(p.Conseil->text(), c.conseil) << c.largeur;
+        EXPECT_EQ(p.Conseil->styleSheet().contains("ff0000"), c.rouge) << c.largeur;
+        EXPECT_TRUE(p.Commentaire->text().endsWith(QStringLiteral("%1x600  [").arg(c.largeur) + Messages[97] + " 24 bits]"));
+        if (c.largeur == 800 && c.modes.size() > 40)
+            EXPECT_EQ(CapacitéModes, 56) << "the list grows by ten past its first 36 places";
+    }
+    InstalleModesAffichage(nullptr);
+}
+
+} // namespace
