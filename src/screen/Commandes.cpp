@@ -9,6 +9,7 @@
 #include "screen/Palette.h"
 #include "screen/Parametrage.h"
 #include "services/Aide.h"
+#include "services/Edition.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Langues.h"
@@ -45,6 +46,7 @@ void RelieCommandes(EcranPrincipal &E)
     });
     relie(E.Menuson, [] { Menuson_Click(); });
     relie(E.MenuRévision, [] { LanceRévision(); });
+    relie(E.MenuFichInfo, [] { EditerFiches(); });
     relie(E.MenuCouleurCapitalesATrouver, [] { MenuCouleurCapitalesATrouver_Click(); });
     relie(E.MenuCouleurCapitalesTrouvées, [] { MenuCouleurCapitalesTrouvées_Click(); });
     relie(E.MenuFrançais, [] { ChangeLangue(1); });

@@ -10,6 +10,7 @@
 #include "screen/Parametrage.h"
 #include "services/Aide.h"
 #include "services/Chemins.h"
+#include "services/Fiches.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Patience.h"
@@ -17,6 +18,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QLayout>
 #include <QMenuBar>
 #include <QNetworkAccessManager>
@@ -409,8 +411,12 @@ void ChargeEcranPrincipal()
         if (Cantons[i].Région == 0)
             E.rond[i]->raise();
 
-    for (int i = 1; i <= NombreLangues; ++i)
+    // A missing card file is made anew; whatever fails here, the game starts without cards.
+    for (int i = 1; i <= NombreLangues; ++i) {
         CheminsInfo[i] = ComposeChemin(RépertoireInfo, NomsFichiersInfo[i]);
+        if (!QFileInfo::exists(CheminsInfo[i]))
+            CréeFichierInfo(i);
+    }
 
     Etape = 0;
     CacheZoneJeu();

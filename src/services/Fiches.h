@@ -1,5 +1,10 @@
 #pragma once
 // The information cards: one file of 650-byte records per language, a canton each.
+// A record holds the name and the text, each behind its length on two bytes, little-endian,
+// in Windows-1252; the rest of the record is not significant.
+#include "engine/communs.h"
+
+#include <QByteArray>
 #include <QString>
 
 struct TFiche {
@@ -8,7 +13,32 @@ struct TFiche {
 };
 
 constexpr int TailleFiche = 650;
+constexpr int NombreFiches = 26;
 
 // Reads record numéro (1..26) of an information file; false when the file or the
 // record can't be read, or the record's lengths run past its 650 bytes.
 bool LitFicheInfo(const QString &chemin, int numéro, TFiche &fiche);
+
+// The 650 bytes of a record, zero-filled behind its text; empty when name and text
+// with their two lengths run past 650 bytes.
+QByteArray OctetsFiche(const TFiche &fiche);
+
+// The record on screen in Edition, and the text last read there: a box that still
+// holds that text has nothing to write.
+extern i16 FicheEditée;
+extern QString TexteLu;
+// The information file that Edition works on, from its load to its closing.
+extern QString FichierFichesOuvert;
+
+// Record numéro of the open file; a record that can't be read gives two empty
+// strings. Its text becomes TexteLu.
+TFiche LireFiche(int numéro);
+// Writes the record in place in the open file, the file rewritten whole; a file that
+// is too short grows by empty records. A record that doesn't fit, or any failure
+// of the write, gets the player's message and leaves the file as it was.
+bool EcrireFiche(int numéro, const TFiche &fiche);
+
+// Makes the missing information file of a language: the cantons' names in the
+// language in use and the text that tells where the cards can be filled in.
+// Tells the player only about the file of the language in use.
+void CréeFichierInfo(int langue);
