@@ -17,8 +17,6 @@ i16 NombreScores[5] = {0, 0, 0, 0, 0};
 i16 NiveauAffiché = 0;
 
 namespace {
-const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
-
 // The step order of a file: kinds 1..4, each once, and nothing behind the first 0.
 bool OrdreValable(const i16 ordre[5])
 {
@@ -135,7 +133,7 @@ void ChargeScores()
         Boîte(FichierLancement + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
     }
     FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
-    EcritValeur(CléKelmor, QStringLiteral("fichier de lancement"), FichierLancement);
+    EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), FichierLancement);
     for (int i = 1; i <= 4; ++i)
         OrdreEtapes[i] = static_cast<i16>(i);
     for (int i = 1; i <= NombrePlaces; ++i)

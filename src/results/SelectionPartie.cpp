@@ -27,7 +27,6 @@ i16 TypeFichier = 4;
 i16 SortieParamétrage = False;
 
 namespace {
-const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
 const QString Parent = QStringLiteral("..");
 
 QString SansSéparateurFinal(QString d)
@@ -143,7 +142,7 @@ void SélectionPartie::ProposeRépertoire()
         return;
     if (Boîte(Messages[117] + chemin, StyleQuestion, Messages[118]) != RéponseOui)
         return;
-    EcritValeur(CléKelmor, QStringLiteral("répertoire"), chemin);
+    EcritValeur(CléJeu, QStringLiteral("répertoire"), chemin);
     QDir::setCurrent(chemin);
     RépertoireSauvegarde = chemin;
 }
@@ -177,7 +176,7 @@ void SélectionPartie::BoutonOK_Click()
             return;
         }
         if (Boîte(Messages[9], StyleQuestion, Messages[109]) == RéponseOui) {
-            EcritValeur(CléKelmor, QStringLiteral("fichier de lancement"), cheminFichier);
+            EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), cheminFichier);
             ProposeRépertoire();
         }
         FichierLancement = cheminFichier;
@@ -222,7 +221,7 @@ void SélectionPartie::BoutonOK_Click()
             RazScores();
         }
         if (LancementDemandé) {
-            EcritValeur(CléKelmor, QStringLiteral("fichier de lancement"), FichierLancement);
+            EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), FichierLancement);
             ProposeRépertoire();
         }
     }

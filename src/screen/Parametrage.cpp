@@ -20,7 +20,6 @@ i16 ParamétrageDeLancement = False;
 i16 LancementDemandé = False;
 
 namespace {
-const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");
 const QString ParamétrageNonSauvé = QStringLiteral("~tmp.~cf");
 
@@ -76,7 +75,7 @@ void ParamétrageDéfaut()
     if (!ConfirmeArrêt())
         return;
     FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
-    EcritValeur(CléKelmor, FichierDeLancement, FichierLancement);
+    EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
     ChargeScores();
     Etape = 6;
     SéquenceEntrée();
@@ -130,7 +129,7 @@ void AfficheParamétrage()
         E.LBLParam[13]->show();
         E.Bouton[18]->setEnabled(Etape != 6);
         QString lancement;
-        LitValeur(CléKelmor, FichierDeLancement, lancement);
+        LitValeur(CléJeu, FichierDeLancement, lancement);
         ParamétrageDeLancement = Booléen(lancement == FichierLancement);
         E.Bouton[18]->setChecked(ParamétrageDeLancement);
     }
@@ -269,7 +268,7 @@ void ValideParamétrage()
             TypeFichier = 5;
             MontreSélectionPartie();
         } else if (ParamétrageNommé && !ParamétrageDeLancement && LancementDemandé) {
-            EcritValeur(CléKelmor, FichierDeLancement, FichierLancement);
+            EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
         } else if (!ParamétrageNommé) {
             ModeRépertoires = 3;
             TypeFichier = 5;
