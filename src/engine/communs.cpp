@@ -467,6 +467,12 @@ void FinEtape()
         QuestionSuivante();
         return;
     }
+    TerminePartie();
+}
+
+// A game that is over, won or lost: its result dealt with, the map and the panel cleared.
+void TerminePartie()
+{
     Etape = 0;
     EnregistreScore();
     DébutEtape();
@@ -706,13 +712,7 @@ void PartiePerdue()
     AfficheScore();
     JoueSon(SonPerdu);
     Boîte(Messages[34], StyleCritique, Messages[35]);
-    Etape = 0;
-    EnregistreScore();
-    DébutEtape();
-    PartieVierge = True;
-    CacheMarques();
-    CacheZoneJeu();
-    PartieEnregistrée = True;
+    TerminePartie();
 }
 
 i32 SecondesDepuisMinuit() { return static_cast<i32>(std::lrint(Timer())); }

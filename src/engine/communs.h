@@ -86,6 +86,7 @@ void DébutEtape();
 void AffichePanneau();
 void QuestionSuivante();
 void FinEtape();
+void TerminePartie();
 void MontreCantons();
 void CacheMarques();
 void CacheZoneJeu();

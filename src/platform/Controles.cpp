@@ -1,6 +1,7 @@
 #include "platform/Controles.h"
 
 #include "platform/Ecran.h"
+#include "platform/Images.h"
 
 #include <QFont>
 #include <QMouseEvent>
@@ -84,6 +85,15 @@ void BoutonGraphique::setPicture(const QPixmap &p)
 {
     setIcon(QIcon(p));
     setIconSize(p.deviceIndependentSize().toSize());
+}
+
+BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, QRect géométrie, int marge)
+{
+    auto *b = new BoutonGraphique(parent);
+    b->setGeometry(géométrie);
+    b->setPicture(ImageJeu(image, géométrie.size()));
+    b->setIconSize(géométrie.size() - QSize(2 * marge, 2 * marge));
+    return b;
 }
 
 BarreDéfilement::BarreDéfilement(Qt::Orientation sens, QWidget *parent) : Contrôle<QScrollBar>(sens, parent)

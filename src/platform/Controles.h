@@ -77,6 +77,9 @@ public:
     void setPicture(const QPixmap &p);
 };
 
+// A square picture button whose picture fills it but for a margin that leaves its frame in view.
+BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, QRect géométrie, int marge = 3);
+
 class CaseACocher : public Contrôle<QCheckBox> {
 public:
     explicit CaseACocher(QWidget *parent) : Contrôle<QCheckBox>(parent) {}

@@ -62,15 +62,6 @@ void AjusteColonne(const std::array<::Etiquette *, 11> &colonne)
                   colonne[9], colonne[10]});
 }
 
-BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, int gauche, int haut)
-{
-    auto *b = new BoutonGraphique(parent);
-    b->setGeometry(gauche, haut, 40, 37);
-    b->setPicture(ImageJeu(image, QSize(40, 37)));
-    // The picture fills the button; the frame stays visible around it.
-    b->setIconSize(QSize(34, 31));
-    return b;
-}
 } // namespace
 
 AffichageScores::AffichageScores() : QDialog(FormePrincipale())
@@ -90,8 +81,8 @@ AffichageScores::AffichageScores() : QDialog(FormePrincipale())
         valeurscore[i] = EtiquetteJaune(this, 377, EnPixels(HautNoms[i]), 76, Qt::AlignHCenter);
         valeurdurée[i] = EtiquetteJaune(this, 456, EnPixels(HautDurées[i]), 100, Qt::AlignRight);
     }
-    Command1 = BoutonImage(this, QStringLiteral("AffichageScoresCommand1"), 560, 144);
-    BoutonStatistiques = BoutonImage(this, QStringLiteral("BoutonStatistiques"), 560, 224);
+    Command1 = BoutonImage(this, QStringLiteral("AffichageScoresCommand1"), QRect(560, 144, 40, 37));
+    BoutonStatistiques = BoutonImage(this, QStringLiteral("BoutonStatistiques"), QRect(560, 224, 40, 37));
     Command1->setToolTip(Messages[59]);
     BoutonStatistiques->setToolTip(Messages[152]);
     setTabOrder(Command1, BoutonStatistiques);

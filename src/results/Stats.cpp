@@ -42,14 +42,6 @@ Etiquette *EnTête(QWidget *parent, int gauche, const QString &texte)
     return e;
 }
 
-BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, int gauche, int haut)
-{
-    auto *b = new BoutonGraphique(parent);
-    b->setGeometry(gauche, haut, 41, 41);
-    b->setPicture(ImageJeu(image, QSize(41, 41)));
-    b->setIconSize(QSize(35, 35));
-    return b;
-}
 
 void Colore(Etiquette *e, const QColor &fond)
 {
@@ -162,9 +154,9 @@ Stats::Stats() : QDialog(FormePrincipale())
         }
     }
 
-    BoutonSauvegarde = BoutonImage(this, QStringLiteral("BoutonSauvegarde"), 240, 432);
+    BoutonSauvegarde = BoutonImage(this, QStringLiteral("BoutonSauvegarde"), QRect(240, 432, 41, 41));
     BoutonSauvegarde->setToolTip(NomFichierStats);
-    Command1 = BoutonImage(this, QStringLiteral("StatsCommand1"), 320, 432);
+    Command1 = BoutonImage(this, QStringLiteral("StatsCommand1"), QRect(320, 432, 41, 41));
     Command1->setToolTip(Messages[59]);
 
     connect(BarreVerticale, &QScrollBar::valueChanged, this, [this](int v) { RemplitStats(static_cast<i16>(v)); });
