@@ -1,170 +1,107 @@
+// The compiled-in string table: every message in both languages, the rows that the
+// rest of the program reads by id, the canton rows and the family's list.
 #include "services/TableChaines.h"
-
-#include <gtest/gtest.h>
 
 #include <QDate>
 #include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
+#include <gtest/gtest.h>
 
 namespace {
-
 QString T(int id) { return ChaîneTable(id); }
-QString U(const char *s) { return QString::fromUtf8(s); }
-
-// Rows made of blanks only: empty column heads in the statistics.
-const QSet<int> RangéesBlanches{1164, 1167, 1414, 1416, 1417};
-// German rows that must read exactly like the French row.
-const int CommeFrançais[] = {1126, 1127, 1128, 1155, 1156, 1164, 1167};
-
-int Entier(const QString &champ)
-{
-    bool ok = false;
-    const int v = champ.toInt(&ok);
-    EXPECT_TRUE(ok) << champ.toStdString();
-    return v;
-}
-
 } // namespace
 
-TEST(TableChaines, MessagesOfBothLanguagesArePresent)
+TEST(TableChaines, EveryMessageOfBothLanguagesIsThereAndNothingAroundThem)
 {
-    EXPECT_EQ(T(1), "169");
-    EXPECT_EQ(T(2), "2");
-    const int dernier = T(1).toInt();
-    for (int langue = 0; langue < T(2).toInt(); ++langue)
-        for (int i = 0; i <= dernier; ++i) {
-            const int id = 1000 + i + 250 * langue;
+    // Rows made of blanks only: empty column heads in the statistics.
+    const QSet<int> blanches{1164, 1167, 1414, 1416, 1417};
+    for (int premier : {1000, 1250})
+        for (int id = premier; id <= premier + 169; ++id) {
             ASSERT_TRUE(ChaîneExiste(id)) << id;
-            if (RangéesBlanches.contains(id))
-                EXPECT_EQ(T(id), "  ") << id;
-            else
-                EXPECT_FALSE(T(id).trimmed().isEmpty()) << id;
+            EXPECT_EQ(T(id).trimmed().isEmpty(), blanches.contains(id)) << id;
         }
+    for (int id : blanches)
+        EXPECT_EQ(T(id), "  ") << id;
     for (int id : {0, 999, 1170, 1249, 1420, 2000, 2027, 4027, 6025})
-        EXPECT_FALSE(ChaîneExiste(id)) << id;
-    EXPECT_TRUE(T(1170).isNull());
-    EXPECT_EQ(T(11), "KELMOR.HLP");
-    EXPECT_EQ(T(12), "DRAVELN.HLP");
-    EXPECT_EQ(T(21), "KELMOR.INF");
-    EXPECT_EQ(T(22), "DRAVELN.INF");
+        EXPECT_TRUE(!ChaîneExiste(id) && T(id).isEmpty()) << id;
 }
 
-TEST(TableChaines, RowsOtherCodeDependsOn)
+TEST(TableChaines, RowsReadByIdAreExactAndSomeGermanRowsReadLikeTheFrench)
 {
-    EXPECT_EQ(T(1000), "Version 6.07 du 30/07/2008");
-    EXPECT_EQ(T(1250), "Version 6.07 vom 04/01/2008");
-    EXPECT_EQ(T(1027), U("Le fichier sélectionné n'est pas interprétable !"));
-    EXPECT_EQ(T(1132), U("Le fichier PTS est absent du répertoire de l'application ; "
-                         "il est impossible de jouer avec cette version du jeu !"));
-    EXPECT_EQ(T(1021), U("Après les cantons nous allons passer "));
-    EXPECT_EQ(T(1096), U("Bienvenue\nLe jeu est en cours de chargement ; selon les performances de "
-                         "votre machine, cette opération peut être longue ; ne perdez surtout pas "
-                         "patience !\nVotre écran est réglé dans la résolution suivante : \n"));
-    EXPECT_EQ(T(1097), " Couleurs");
-    EXPECT_EQ(T(1113), "Trouvez moi...");
-    EXPECT_EQ(T(1354), U("Eine mit der Vorgängerversion abgespeicherte Partie kann mit der"));
-    EXPECT_EQ(T(1355), " nicht wieder aufgenommen werden.");
-    EXPECT_EQ(T(1339), "Speichern des laufenden Spieles");
-    EXPECT_EQ(T(1366), U("Jouer en Français"));
-    EXPECT_EQ(T(1374), "Monatliche Gratis-Werbung...");
-    EXPECT_EQ(T(1384), "Das Programm konnte Ihr Ergebnis nicht in die Datei schreiben");
-    // Decoded as UTF-8, not byte by byte.
-    EXPECT_EQ(T(2005).section('#', 0, 0).size(), 10);
-    for (int id : CommeFrançais)
+    const std::pair<int, const char *> lignes[] = {
+        {1, "169"}, {2, "2"}, {11, "KELMOR.HLP"}, {12, "DRAVELN.HLP"}, {21, "KELMOR.INF"}, {22, "DRAVELN.INF"}, {6000, "12"},
+        {1000, "Version 6.07 du 30/07/2008"}, {1250, "Version 6.07 vom 04/01/2008"},
+        {1027, "Le fichier sélectionné n'est pas interprétable !"},
+        {1132, "Le fichier PTS est absent du répertoire de l'application ; il est impossible de jouer avec cette version du jeu !"},
+        {1021, "Après les cantons nous allons passer "},
+        {1096, "Bienvenue\nLe jeu est en cours de chargement ; selon les performances de votre machine, cette opération "
+               "peut être longue ; ne perdez surtout pas patience !\nVotre écran est réglé dans la résolution suivante : \n"},
+        {1097, " Couleurs"}, {1113, "Trouvez moi..."},
+        {1354, "Eine mit der Vorgängerversion abgespeicherte Partie kann mit der"},
+        {1355, " nicht wieder aufgenommen werden."}, {1339, "Speichern des laufenden Spieles"},
+        {1366, "Jouer en Français"}, {1374, "Monatliche Gratis-Werbung..."},
+        {1384, "Das Programm konnte Ihr Ergebnis nicht in die Datei schreiben"},
+        {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"}, {2025, "Zoug#0#341#143#ZG"}, {4025, "Zoug#352#152"},
+        {2225, "Zug"}, {4210, "Chur"}, {6009, "Kelmor#6.07#01/01/2008#Les cantons kelmors"}};
+    for (const auto &[id, texte] : lignes)
+        EXPECT_EQ(T(id), QString::fromUtf8(texte)) << id;
+    for (int id : {1126, 1127, 1128, 1155, 1156, 1164, 1167})
         EXPECT_EQ(T(id + 250), T(id)) << id;
 }
 
 TEST(TableChaines, GermanKeepsTheJoinsOfTheFrench)
 {
-    // Callers glue these rows to other text: a lost trailing blank or line
-    // break runs words together on screen.
-    // Rows where the German is built otherwise: 1069 and 1123 drop a line,
-    // 1166 is left blank, 1104 has no blank before the version it is joined to.
-    const QSet<int> Différentes{1069, 1104, 1123, 1166};
-    for (int id = 1000; id <= 1169; ++id) {
-        if (Différentes.contains(id))
-            continue;
-        const QString fr = T(id), de = T(id + 250);
-        EXPECT_EQ(fr.endsWith(' '), de.endsWith(' ')) << id;
-        EXPECT_EQ(fr.count('\n'), de.count('\n')) << id;
-    }
-    EXPECT_EQ(T(1069).count('\n'), 1);
-    EXPECT_EQ(T(1319).count('\n'), 0);
-    EXPECT_TRUE(T(1373).endsWith('\n'));
-    EXPECT_LT(T(1373).count('\n'), T(1123).count('\n'));
+    // Callers glue these rows to other text: a lost trailing blank or line break runs
+    // words together on screen. The German is built otherwise in 1069 and 1123 (a line
+    // less), 1166 (left blank) and 1104 (no blank before the version joined to it).
+    const QSet<int> autrement{1069, 1104, 1123, 1166};
+    for (int id = 1000; id <= 1169; ++id)
+        if (!autrement.contains(id)) {
+            EXPECT_EQ(T(id).endsWith(' '), T(id + 250).endsWith(' ')) << id;
+            EXPECT_EQ(T(id).count('\n'), T(id + 250).count('\n')) << id;
+        }
 }
 
-TEST(TableChaines, CantonAndTownRowsParse)
+TEST(TableChaines, CantonAndTownRowsParseWithPlacesOnTheMap)
 {
+    const QRegularExpression canton("^[^#]+#0#(\\d+)#(\\d+)#([A-Z]{2})$"), ville("^[^#]+#(\\d+)#(\\d+)$");
     QSet<QString> plaques;
     for (int k = 1; k <= 26; ++k) {
-        const QStringList c = T(2000 + k).split('#');
-        ASSERT_EQ(c.size(), 5) << k;
-        EXPECT_FALSE(c[0].isEmpty());
-        EXPECT_EQ(c[1], "0") << k;
-        EXPECT_GE(Entier(c[2]), 0);
-        EXPECT_LT(Entier(c[2]), 652) << k;
-        EXPECT_LT(Entier(c[3]), 456) << k;
-        EXPECT_TRUE(QRegularExpression("^[A-Z]{2}$").match(c[4]).hasMatch()) << k;
-        plaques.insert(c[4]);
-
-        const QStringList v = T(4000 + k).split('#');
-        ASSERT_EQ(v.size(), 3) << k;
-        EXPECT_LT(Entier(v[1]), 652) << k;
-        EXPECT_LT(Entier(v[2]), 456) << k;
-
-        for (int id : {2200 + k, 4200 + k}) {
-            EXPECT_FALSE(T(id).isEmpty()) << id;
-            EXPECT_FALSE(T(id).contains('#')) << id;
-        }
+        const auto c = canton.match(T(2000 + k)), v = ville.match(T(4000 + k));
+        ASSERT_TRUE(c.hasMatch() && v.hasMatch()) << k;
+        for (const auto &m : {c, v})
+            EXPECT_TRUE(m.captured(1).toInt() < 652 && m.captured(2).toInt() < 456) << k;
+        plaques.insert(c.captured(3));
+        for (int id : {2200 + k, 4200 + k})
+            EXPECT_TRUE(!T(id).isEmpty() && !T(id).contains('#')) << id;
     }
     EXPECT_EQ(plaques.size(), 26);
-    EXPECT_EQ(T(2025), "Zoug#0#341#143#ZG");
-    EXPECT_EQ(T(4025), "Zoug#352#152");
-    EXPECT_EQ(T(2225), "Zug");
-    EXPECT_EQ(T(4210), "Chur");
-    EXPECT_EQ(T(2001), U("Appenzell Rhodes Extérieures#0#440#99#AR"));
 }
 
-TEST(TableChaines, FamilyOfGames)
+// The family's list: the welcome screen names every other game of it.
+TEST(TableChaines, TheFamilysTwelveGamesAreWellFormed)
 {
-    ASSERT_EQ(T(6000), "12");
-    QSet<QString> noms;
-    for (int i = 1; i <= 12; ++i) {
-        const int id = 6001 + 2 * (i - 1);
+    QStringList autres;
+    for (int id = 6001; id <= 6023; id += 2) {
         const QStringList f = T(id).split('#');
         ASSERT_EQ(f.size(), 4) << id;
-        EXPECT_FALSE(f[0].isEmpty());
-        EXPECT_FALSE(f[3].trimmed().isEmpty()) << id;
-        EXPECT_EQ(f[1], T(id + 1)) << id;
-        EXPECT_TRUE(QRegularExpression("^\\d+\\.\\d\\d$").match(f[1]).hasMatch()) << id;
-        EXPECT_TRUE(QDate::fromString(f[2], "dd/MM/yyyy").isValid()) << id;
-        noms.insert(f[0]);
+        EXPECT_TRUE(QRegularExpression("^\\d+\\.\\d\\d$").match(f[1]).hasMatch() && f[1] == T(id + 1)) << id;
+        EXPECT_TRUE(QDate::fromString(f[2], "dd/MM/yyyy").isValid() && !f[3].trimmed().isEmpty()) << id;
+        if (f[0] != "Kelmor")
+            autres << f[0];
     }
-    EXPECT_EQ(noms.size(), 12);
-    ASSERT_TRUE(noms.contains("Kelmor"));
-    for (int id = 6001; id <= 6023; id += 2) {
-        if (T(id).startsWith("Kelmor#")) {
-            EXPECT_EQ(T(id), "Kelmor#6.07#01/01/2008#Les cantons kelmors");
-            EXPECT_EQ(T(id + 1), "6.07");
-        }
-    }
-    // The welcome screen names the other games of the family, and only those.
-    for (const QString &nom : noms) {
-        if (nom == "Kelmor")
-            continue;
+    EXPECT_EQ(autres.removeDuplicates(), 0);
+    ASSERT_EQ(autres.size(), 11);
+    for (const QString &nom : autres)
         for (int id : {1095, 1345})
-            EXPECT_TRUE(T(id).contains(nom)) << id << " " << nom.toStdString();
-    }
+            EXPECT_TRUE(!nom.isEmpty() && T(id).contains(nom)) << id << " " << nom.toStdString();
 }
 
 TEST(TableChaines, OnlyPlaceholderAddresses)
 {
     const QRegularExpression url("https?://([^/\\s]+)"), mail("[\\w.+-]+@([\\w-]+(?:\\.[\\w-]+)*)");
     for (int id = 0; id <= 7000; ++id) {
-        if (!ChaîneExiste(id))
-            continue;
         const QString t = T(id);
         EXPECT_FALSE(t.contains("www.", Qt::CaseInsensitive)) << id;
         for (const QRegularExpression &re : {url, mail})
@@ -173,10 +110,10 @@ TEST(TableChaines, OnlyPlaceholderAddresses)
                 EXPECT_TRUE(hôte == "kelmor.example.org" || hôte == "example.org") << id;
             }
     }
+    // The maker's addresses stand where the rows promise them.
     for (int id : {1001, 1016, 1095, 1126, 1251, 1266, 1345, 1376})
         EXPECT_TRUE(T(id).contains("kelmor@example.org")) << id;
     for (int id : {1016, 1095, 1123, 1266, 1345, 1373})
         EXPECT_TRUE(T(id).contains("https://kelmor.example.org/")) << id;
-    EXPECT_TRUE(T(1126).contains("https://kelmor.example.org/traduzione/kelmor-testi.zip"));
-    EXPECT_FALSE(T(1126).contains('\n'));
+    EXPECT_TRUE(T(1126).contains("https://kelmor.example.org/traduzione/kelmor-testi.zip") && !T(1126).contains('\n'));
 }
