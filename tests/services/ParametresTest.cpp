@@ -3,11 +3,9 @@
 #include "Fixtures.h"
 
 #include "engine/communs.h"
-#include "platform/Formes.h"
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
-#include "services/MisesAJour.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
@@ -15,7 +13,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QPushButton>
 #include <optional>
 
 namespace {
@@ -46,21 +43,14 @@ protected:
         NouveauMagasin();
         InstalleBoîtes(&boîtes);
         InstalleMaintenant([this] { return maintenant; });
-        // In the folder form the player goes to each folder in turn and presses OK; past them, the close box.
-        InstalleFormesModales([this](QDialog &forme) {
-            auto *f = dynamic_cast<ParamétrageRépertoires *>(&forme);
-            while (f && f->result() != QDialog::Accepted && choix < dossiersChoisis.size()) {
-                f->ChangeRépertoire(dossiersChoisis[choix++]);
-                f->BoutonOK->click();
-            }
-            return forme.result();
-        });
+        // The folders a player picks in turn; past them, a cancel.
+        InstalleChoixDossier([this] { return ++choix <= dossiersChoisis.size() ? dossiersChoisis[choix - 1] : QString(); });
         RépertoireApplication = programme;
     }
     void TearDown() override
     {
         QDir::setCurrent(dossierCourant);
-        InstalleFormesModales(nullptr);
+        InstalleChoixDossier(nullptr);
         InstalleMaintenant(nullptr);
         InstalleBoîtes(nullptr);
         InstalleFichierRegistre(QString());
@@ -97,17 +87,15 @@ protected:
         QFile f(fichier);
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
-    // The boxes shown, by message: 123 the reminder (followed by the games to fetch),
-    // 122 the folder asked for, 119 a folder refused, each with its own title and the
-    // information style; −1 for anything else.
+    // The boxes shown, by message: 123 the reminder, 122 the folder asked for, 119 a folder
+    // refused, each with its own title and the information style; −1 for anything else.
     Boîtes Vues() const
     {
         Boîtes vues;
         for (const auto &b : boîtes.journal) {
             vues.push_back(-1);
             for (const auto &[texte, titre] : {std::pair{123, 124}, {122, 118}, {119, 46}})
-                if ((texte == 123 ? b.texte.startsWith(Messages[texte]) : b.texte == Messages[texte]) &&
-                    b.titre == Messages[titre] && b.style == StyleInformation)
+                if (b.texte == Messages[texte] && b.titre == Messages[titre] && b.style == StyleInformation)
                     vues.back() = texte;
         }
         return vues;
@@ -210,9 +198,9 @@ TEST_F(Paramètres, TheStoredLanguageIsReadAsANumberAndLeftAsItIs)
 TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
 {
     InstallationExistante();
-    const QString disparu = dossier.filePath(QStringLiteral("disparu")), bloqué = dossier.filePath(QStringLiteral("bloqué"));
+    const QString disparu = dossier.filePath(QStringLiteral("disparu")), unFichier = dossier.filePath(QStringLiteral("un-fichier"));
     Pose("répertoire", disparu);
-    ASSERT_TRUE(QDir().mkpath(bloqué + "/~zut.tmp")); // the write test's file can't be deleted there
+    ASSERT_TRUE(QFile(unFichier).open(QIODevice::WriteOnly));
     ModeRépertoires = 0;
     LitParamètres(); // given up: the start goes on with what it had
     EXPECT_EQ(Vues(), Boîtes{122});
@@ -222,13 +210,13 @@ TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsG
     EXPECT_EQ(FichierLancement, choisi + "/MES.SCS");
 
     boîtes.journal.clear();
-    dossiersChoisis = {bloqué, choisi}; // a folder the write test refuses; then a good folder
+    dossiersChoisis = {unFichier, choisi}; // a file where a folder should be, refused; then a good folder
     choix = 0;
     LitParamètres();
     EXPECT_EQ(Vues(), (Boîtes{122, 119}));
     EXPECT_EQ(choix, 2);
     EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), RépertoireSauvegarde, FichierLancement, QDir::currentPath()}),
-              QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi + "/KELMOR.SCS", choisi}));
+              QStringList({choisi + '/', choisi + "/KELMOR.SCS", choisi + '/', choisi + "/KELMOR.SCS", choisi}));
 }
 
 TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheReminder)
@@ -240,7 +228,7 @@ TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheRemin
     EXPECT_EQ(Vues(), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
     EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), Lit("répertoire information"), FichierLancement,
                            QDir::currentPath()}),
-              QStringList({choisi, choisi + "/KELMOR.SCS", dossier.filePath(QStringLiteral("programme.bin/")),
+              QStringList({choisi + '/', choisi + "/KELMOR.SCS", dossier.filePath(QStringLiteral("programme.bin/")),
                            "KELMOR.SCS", choisi}));
 }
 
@@ -250,11 +238,8 @@ TEST_F(Paramètres, InstalledGamesAreTheFamilysOtherKeysOneLevelDown)
     ASSERT_EQ(CréeClé(CléFamille + S("\\Brisolie\\Cartes")), 0);
     Pose("Kelmor", S("6.07"), CléFamille + S("\\Updates"));
     LitParamètres();
-    QStringList installés;
-    for (i16 i = 1; i <= NombreJeux; ++i)
-        if (!JeuxFamille[i].VersionInstallée.isEmpty())
-            installés << JeuxFamille[i].Nom + '=' + JeuxFamille[i].VersionInstallée;
-    EXPECT_EQ(installés, QStringList({"Arvenne=5.12", "Brisolie=0.00", "Kelmor=6.07"}));
+    const QMap<QString, QString> jeux{{"Arvenne", "Version 5.12 du 14/03/2007"}, {"Brisolie", ""}, {"Kelmor", VersionJeu}};
+    EXPECT_EQ(JeuxInstallés(), jeux);
 }
 
 TEST_F(Paramètres, AStoreThatCantBeCreatedEndsTheStartInOrder)
