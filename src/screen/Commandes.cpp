@@ -13,6 +13,7 @@
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Langues.h"
+#include "services/MisesAJour.h"
 #include "services/Sons.h"
 
 #include <QAction>

@@ -3,6 +3,7 @@
 #include "platform/Boites.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
+#include "services/MisesAJour.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Registre.h"
 #include "services/Sons.h"
@@ -29,7 +30,6 @@ const QString LangueValeur = QStringLiteral("langue");
 const QString Répertoire = QStringLiteral("répertoire");
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");
 const QString RépertoireInformation = QStringLiteral("répertoire information");
-const QString Updates = QStringLiteral("Updates");
 const QString FichierScoresParDéfaut = QStringLiteral("KELMOR.SCS");
 
 QString TexteMaintenant() { return Maintenant().toString(FormatDate); }
@@ -63,17 +63,19 @@ void VaDansRépertoireSauvegarde()
         QDir::setCurrent(RépertoireSauvegarde);
 }
 
-// The reminder comes when at least 60 calendar days separate the stored date from
-// today, whatever the hours. A date that can't be read is renewed without one.
+// The installed games are looked at on every ordinary run. The reminder comes when
+// at least 60 calendar days separate the stored date from today, whatever the hours.
+// A date that can't be read is renewed without one.
 void RappelSiLeTempsEstVenu()
 {
     QString texte;
     LitValeur(CléFamille, Date, texte);
+    ExploreJeux();
     const QDateTime dernier = QDateTime::fromString(texte.trimmed(), FormatDate);
     if (dernier.isValid()) {
         if (dernier.date().daysTo(Maintenant().date()) < JoursEntreRappels)
             return;
-        RappelVersions();
+        AfficheRappel();
     }
     EcritValeur(CléFamille, Date, TexteMaintenant());
 }
@@ -103,28 +105,6 @@ QDateTime Maintenant() { return maintenantScripté ? maintenantScripté() : QDat
 
 void InstalleMaintenant(std::function<QDateTime()> maintenant) { maintenantScripté = std::move(maintenant); }
 
-QMap<QString, QString> JeuxInstallés()
-{
-    QMap<QString, QString> jeux;
-    const i32 racine = OuvreClé(CléFamille);
-    if (racine == -1)
-        return jeux;
-    QString nom;
-    for (i32 i = 0; EnumèreSousClés(racine, i, nom) == 0; ++i) {
-        if (nom == Updates)
-            continue;
-        QString version;
-        LitValeur(CléFamille + QLatin1Char('\\') + nom, Version, version);
-        jeux.insert(nom, version);
-    }
-    FermeClé(racine);
-    return jeux;
-}
-
-void RappelVersions() { Boîte(Messages[123], StyleInformation, Messages[124]); }
-
-void ChercheVersions() { RappelVersions(); }
-
 void DossiersParDéfaut()
 {
     if (RépertoireAccessible(RépertoireApplication)) {
@@ -149,7 +129,8 @@ void PremierLancement()
     ChargeChaînes();
     DossiersParDéfaut();
     // The very first run always reminds.
-    RappelVersions();
+    ExploreJeux();
+    AfficheRappel();
 }
 
 void MiseAJourVersion()
@@ -163,6 +144,7 @@ void LitParamètres()
 {
     ParamètresLus = true;
     VersionJeu = ChaîneTable(1000);
+    ChargeListeJeux();
 
     QString version;
     const i32 lu = LitValeur(CléJeu, Version, version);

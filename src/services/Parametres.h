@@ -4,7 +4,6 @@
 #include "engine/communs.h"
 
 #include <QDateTime>
-#include <QMap>
 #include <QString>
 #include <functional>
 
@@ -41,11 +40,3 @@ void PremierLancement();
 // Another version ran last: the folders and the score file back to their defaults.
 void MiseAJourVersion();
 void DossiersParDéfaut();
-
-// The games of the family found on this machine: the name of each subkey of the
-// family's key but the list of versions, with its `version` text ("" when it has none).
-QMap<QString, QString> JeuxInstallés();
-// The reminder to look for new versions of the family's games.
-void RappelVersions();
-// The command that looks for new versions: the reminder of what is known, nothing fetched yet.
-void ChercheVersions();

@@ -6,6 +6,7 @@
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
+#include "services/MisesAJour.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
@@ -81,21 +82,24 @@ protected:
         for (const auto &[nom, texte] : {std::pair{"joueur", S("Zoé")}, {"langue", S(langue)}, {"répertoire", choisi + '/'},
                                          {"fichier de lancement", choisi + "/MES.SCS"}, {"répertoire information", choisi}})
             Pose(nom, texte);
+        ChargeListeJeux(); // the family's versions known, under Updates
     }
     QByteArray Contenu() const
     {
         QFile f(fichier);
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
-    // The boxes shown, by message: 123 the reminder, 122 the folder asked for, 119 a folder
-    // refused, each with its own title and the information style; −1 for anything else.
+    // The boxes shown, by message: 123 the reminder (followed by the games to fetch),
+    // 122 the folder asked for, 119 a folder refused, each with its own title and the
+    // information style; −1 for anything else.
     Boîtes Vues() const
     {
         Boîtes vues;
         for (const auto &b : boîtes.journal) {
             vues.push_back(-1);
             for (const auto &[texte, titre] : {std::pair{123, 124}, {122, 118}, {119, 46}})
-                if (b.texte == Messages[texte] && b.titre == Messages[titre] && b.style == StyleInformation)
+                if ((texte == 123 ? b.texte.startsWith(Messages[texte]) : b.texte == Messages[texte]) &&
+                    b.titre == Messages[titre] && b.style == StyleInformation)
                     vues.back() = texte;
         }
         return vues;
@@ -238,8 +242,11 @@ TEST_F(Paramètres, InstalledGamesAreTheFamilysOtherKeysOneLevelDown)
     ASSERT_EQ(CréeClé(CléFamille + S("\\Brisolie\\Cartes")), 0);
     Pose("Kelmor", S("6.07"), CléFamille + S("\\Updates"));
     LitParamètres();
-    const QMap<QString, QString> jeux{{"Arvenne", "Version 5.12 du 14/03/2007"}, {"Brisolie", ""}, {"Kelmor", VersionJeu}};
-    EXPECT_EQ(JeuxInstallés(), jeux);
+    QStringList installés;
+    for (i16 i = 1; i <= NombreJeux; ++i)
+        if (!JeuxFamille[i].VersionInstallée.isEmpty())
+            installés << JeuxFamille[i].Nom + '=' + JeuxFamille[i].VersionInstallée;
+    EXPECT_EQ(installés, QStringList({"Arvenne=5.12", "Brisolie=0.00", "Kelmor=6.07"}));
 }
 
 TEST_F(Paramètres, AStoreThatCantBeCreatedEndsTheStartInOrder)
