@@ -275,8 +275,6 @@ void LitListePage(const QString &page)
 QUrl AdressePage()
 {
     QUrl site = siteInstallé;
-    if (site.isEmpty())
-        site = QUrl(qEnvironmentVariable("KELMOR_SITE"));
     if (site.isEmpty() || !site.isValid())
         site = QUrl(SiteJeux);
     if (!site.path().endsWith(QLatin1Char('/')))

@@ -59,9 +59,7 @@ void LitListePage(const QString &page);
 constexpr qsizetype LongueurMaxPage = 32767;
 // The site's root, as message 1123 shows it; the list is the page jeux/listejeux.htm.
 inline const QString SiteJeux = QStringLiteral("https://kelmor.example.org/");
-// The list's address. The root comes from InstalleAdressePage, else from the
-// environment variable KELMOR_SITE (to try a list before it is published), else
-// the site above.
+// The list's address: the site above, or the root installed for tests.
 QUrl AdressePage();
 // Another root for the site; an empty one puts the usual one back.
 void InstalleAdressePage(const QUrl &site);
