@@ -115,6 +115,8 @@ protected:
         RépertoireApplication = dossier.path(); // a first run keeps its files there
         Langue = 1;
         ChargeChaînes();
+        // Nothing leaves this machine: a port where no server listens, unless a test serves a page.
+        InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/")));
         // The dates of the reminder in the short form of a French desktop.
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     }
@@ -378,18 +380,11 @@ TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
 
 TEST_F(MisesAJour, TheListsAddressIsOnTheSiteUnlessAnotherRootIsGiven)
 {
-    const QByteArray avant = qgetenv("KELMOR_SITE");
-    qunsetenv("KELMOR_SITE");
+    InstalleAdressePage(QUrl());
     EXPECT_EQ(AdressePage(), QUrl(S("https://kelmor.example.org/jeux/listejeux.htm")));
     EXPECT_TRUE(Messages[123].contains(SiteJeux)) << "the reminder names the same site";
-    qputenv("KELMOR_SITE", "http://127.0.0.1:8080/essai");
-    EXPECT_EQ(AdressePage(), QUrl(S("http://127.0.0.1:8080/essai/jeux/listejeux.htm")));
-    InstalleAdressePage(QUrl(S("http://127.0.0.1:9/")));
-    EXPECT_EQ(AdressePage(), QUrl(S("http://127.0.0.1:9/jeux/listejeux.htm")));
-    if (avant.isNull())
-        qunsetenv("KELMOR_SITE");
-    else
-        qputenv("KELMOR_SITE", avant);
+    InstalleAdressePage(QUrl(S("http://127.0.0.1:9/essai")));
+    EXPECT_EQ(AdressePage(), QUrl(S("http://127.0.0.1:9/essai/jeux/listejeux.htm")));
 }
 
 // From the menu of the running game, through the main form's own transfer control.
