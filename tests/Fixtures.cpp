@@ -7,7 +7,6 @@
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
-#include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
 
@@ -60,11 +59,9 @@ void JeuTest::SetUp()
         return t;
     });
     InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 1024), 24});
-    // Modal forms close at once unless a test scripts them.
+    // Modal forms close at once, as by their close box, unless a test scripts them.
     InstalleFormesModales([](QDialog &) { return 0; });
     FormesMontrées().clear();
-    // The desktop's folder chooser is answered with a cancel unless a test picks a folder.
-    InstalleChoixDossier([] { return QString(); });
 
     Langue = 1;
     NomJoueur.clear();
@@ -86,7 +83,6 @@ void JeuTest::TearDown()
     }
     InstalleDialogueNouvellePartie(nullptr);
     InstalleFormesModales(nullptr);
-    InstalleChoixDossier(nullptr);
     InstalleBoîtes(nullptr);
     InstalleSons(nullptr);
     InstalleHorloge(nullptr);

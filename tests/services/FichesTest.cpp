@@ -482,16 +482,17 @@ TEST_F(Fiches, InGermanTheFrenchFileGetsGermanNamesWithoutAWord)
 
 TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
 {
-    // The folder dialog's stand-in: first a cancel, then a folder that can be written.
-    std::deque<QString> choix{QString(), dossier.filePath("cartes")};
+    // The folder form: first closed by its close box, then a folder that can be written taken.
     ASSERT_TRUE(QDir(dossier.path()).mkdir("cartes"));
-    InstalleChoixDossier([&] {
-        const QString c = choix.empty() ? QString() : choix.front();
-        if (!choix.empty())
-            choix.pop_front();
-        return c;
+    int ouvertures = 0;
+    InstalleFormesModales([&](QDialog &d) {
+        auto *f = dynamic_cast<ParamétrageRépertoires *>(&d);
+        if (!f || ++ouvertures == 1)
+            return 0;
+        f->ChangeRépertoire(dossier.filePath("cartes"));
+        f->BoutonOK->click();
+        return f->result();
     });
-    const std::unique_ptr<void, void (*)(void *)> remet(&choix, [](void *) { InstalleChoixDossier([] { return QString(); }); });
     const QString disparu = dossier.filePath("parti");
     RépertoireInfo = disparu;
     CheminsInfo[1] = dossier.filePath("parti/KELMOR.INF");

@@ -3,6 +3,7 @@
 #include "Fixtures.h"
 
 #include "engine/communs.h"
+#include "platform/Formes.h"
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
@@ -14,6 +15,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <optional>
 
 namespace {
@@ -44,14 +46,21 @@ protected:
         NouveauMagasin();
         InstalleBoîtes(&boîtes);
         InstalleMaintenant([this] { return maintenant; });
-        // The folders a player picks in turn; past them, a cancel.
-        InstalleChoixDossier([this] { return ++choix <= dossiersChoisis.size() ? dossiersChoisis[choix - 1] : QString(); });
+        // In the folder form the player goes to each folder in turn and presses OK; past them, the close box.
+        InstalleFormesModales([this](QDialog &forme) {
+            auto *f = dynamic_cast<ParamétrageRépertoires *>(&forme);
+            while (f && f->result() != QDialog::Accepted && choix < dossiersChoisis.size()) {
+                f->ChangeRépertoire(dossiersChoisis[choix++]);
+                f->BoutonOK->click();
+            }
+            return forme.result();
+        });
         RépertoireApplication = programme;
     }
     void TearDown() override
     {
         QDir::setCurrent(dossierCourant);
-        InstalleChoixDossier(nullptr);
+        InstalleFormesModales(nullptr);
         InstalleMaintenant(nullptr);
         InstalleBoîtes(nullptr);
         InstalleFichierRegistre(QString());
@@ -202,9 +211,9 @@ TEST_F(Paramètres, TheStoredLanguageIsReadAsANumberAndLeftAsItIs)
 TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
 {
     InstallationExistante();
-    const QString disparu = dossier.filePath(QStringLiteral("disparu")), unFichier = dossier.filePath(QStringLiteral("un-fichier"));
+    const QString disparu = dossier.filePath(QStringLiteral("disparu")), bloqué = dossier.filePath(QStringLiteral("bloqué"));
     Pose("répertoire", disparu);
-    ASSERT_TRUE(QFile(unFichier).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QDir().mkpath(bloqué + "/~zut.tmp")); // the write test's file can't be deleted there
     ModeRépertoires = 0;
     LitParamètres(); // given up: the start goes on with what it had
     EXPECT_EQ(Vues(), Boîtes{122});
@@ -214,13 +223,13 @@ TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsG
     EXPECT_EQ(FichierLancement, choisi + "/MES.SCS");
 
     boîtes.journal.clear();
-    dossiersChoisis = {unFichier, choisi}; // a file where a folder should be, refused; then a good folder
+    dossiersChoisis = {bloqué, choisi}; // a folder the write test refuses; then a good folder
     choix = 0;
     LitParamètres();
     EXPECT_EQ(Vues(), (Boîtes{122, 119}));
     EXPECT_EQ(choix, 2);
     EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), RépertoireSauvegarde, FichierLancement, QDir::currentPath()}),
-              QStringList({choisi + '/', choisi + "/KELMOR.SCS", choisi + '/', choisi + "/KELMOR.SCS", choisi}));
+              QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi + "/KELMOR.SCS", choisi}));
 }
 
 TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheReminder)
@@ -232,7 +241,7 @@ TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheRemin
     EXPECT_EQ(Vues(), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
     EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), Lit("répertoire information"), FichierLancement,
                            QDir::currentPath()}),
-              QStringList({choisi + '/', choisi + "/KELMOR.SCS", dossier.filePath(QStringLiteral("programme.bin/")),
+              QStringList({choisi, choisi + "/KELMOR.SCS", dossier.filePath(QStringLiteral("programme.bin/")),
                            "KELMOR.SCS", choisi}));
 }
 
