@@ -7,6 +7,7 @@
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
+#include "services/MisesAJour.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
 
@@ -62,6 +63,8 @@ void JeuTest::SetUp()
     // Modal forms close at once, as by their close box, unless a test scripts them.
     InstalleFormesModales([](QDialog &) { return 0; });
     FormesMontrées().clear();
+    // The look for new versions never leaves this machine: no server listens on that port.
+    InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/")));
 
     Langue = 1;
     NomJoueur.clear();
@@ -83,6 +86,7 @@ void JeuTest::TearDown()
     }
     InstalleDialogueNouvellePartie(nullptr);
     InstalleFormesModales(nullptr);
+    InstalleAdressePage(QUrl());
     InstalleBoîtes(nullptr);
     InstalleSons(nullptr);
     InstalleHorloge(nullptr);
