@@ -18,16 +18,16 @@
 
 namespace {
 
-qint32 Long(const QByteArray &o, int record)
-{
-    const auto *p = reinterpret_cast<const unsigned char *>(o.constData()) + (record - 1) * 128;
-    return qint32(quint32(p[0]) | quint32(p[1]) << 8 | quint32(p[2]) << 16 | quint32(p[3]) << 24);
-}
-int Entier(const QByteArray &o, int record, int décalage = 0)
+// Numbers of a record read by hand, little-endian, independently of the game's reader.
+qint32 Long(const QByteArray &o, int record, int décalage = 0, int n = 4)
 {
     const auto *p = reinterpret_cast<const unsigned char *>(o.constData()) + (record - 1) * 128 + décalage;
-    return qint16(quint16(p[0] | p[1] << 8));
+    quint32 v = 0;
+    for (int i = n - 1; i >= 0; --i)
+        v = v << 8 | p[i];
+    return n == 2 ? qint16(v) : qint32(v);
 }
+int Entier(const QByteArray &o, int record, int décalage = 0) { return Long(o, record, décalage, 2); }
 QByteArray Chaîne(const QByteArray &o, int record)
 {
     return o.mid((record - 1) * 128 + 2, quint8(o[(record - 1) * 128]));
@@ -56,6 +56,25 @@ protected:
         RépondFaux();
         RépondFaux();
     }
+    void Ecrit(const char *nom, const QByteArray &o = {})
+    {
+        QFile f(dossier.filePath(nom));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(o);
+    }
+    // The dialog opens on its first file and OK is clicked; `nom` typed first when given.
+    void Choisit(const char *nom = nullptr)
+    {
+        InstalleFormesModales([nom](QDialog &d) {
+            auto &s = static_cast<SélectionPartie &>(d);
+            if (nom)
+                s.NomFichier->setText(nom);
+            else
+                s.Fichier->setCurrentRow(0);
+            s.BoutonOK->click();
+            return s.result();
+        });
+    }
 };
 
 TEST_F(Sauvegarde, WrittenRecordByRecord)
@@ -65,14 +84,10 @@ TEST_F(Sauvegarde, WrittenRecordByRecord)
     DuréePartie = 3725;
     const QByteArray o = ContenuPartie();
     ASSERT_EQ(o.size(), 37760);
-    EXPECT_EQ(Chaîne(o, 1), "Version 6.07 du 30/07/2008");
-    EXPECT_EQ(Entier(o, 2), 1);
-    EXPECT_EQ(Chaîne(o, 3), QFile::encodeName(FichierLancement));
-    EXPECT_EQ(Entier(o, 4), 3);
-    EXPECT_EQ(Chaîne(o, 5), "Zo\xE9");
-    EXPECT_EQ(Entier(o, 6), 3);
-    EXPECT_EQ(Entier(o, 7), 0);
-    EXPECT_EQ(Long(o, 8), Score);
+    EXPECT_EQ(QList<QByteArray>({Chaîne(o, 1), Chaîne(o, 3), Chaîne(o, 5)}),
+              QList<QByteArray>({"Version 6.07 du 30/07/2008", QFile::encodeName(FichierLancement), "Zo\xE9"}));
+    EXPECT_EQ(std::vector<int>({Entier(o, 2), Entier(o, 4), Entier(o, 6), Entier(o, 7), Long(o, 8), Long(o, 295)}),
+              std::vector<int>({1, 3, 3, 0, Score, 3725}));
     for (int i = 1; i <= 26; ++i) {
         EXPECT_EQ(Entier(o, 8 + i), i);
         EXPECT_EQ(Entier(o, 8 + i, 2), Cantons[i].Trouvé);
@@ -81,7 +96,6 @@ TEST_F(Sauvegarde, WrittenRecordByRecord)
             EXPECT_EQ(Long(o, 36 + 10 * (i - 1) + 2 * j), Cantons[i].Pertes[j]);
         }
     }
-    EXPECT_EQ(Long(o, 295), 3725);
 }
 
 TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
@@ -97,11 +111,9 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
     MeilleursScores[4][1] = {"C", 3, 3};
     const QByteArray o = ContenuPartie();
     EXPECT_EQ(o.size(), (295 + 5 + 3) * 128);
-    EXPECT_EQ(Entier(o, 4), 1);
-    EXPECT_EQ(Entier(o, 5), 4);
-    EXPECT_EQ(Entier(o, 8), 3);
+    EXPECT_EQ(std::vector<int>({Entier(o, 4), Entier(o, 5), Entier(o, 8), Entier(o, 12)}), std::vector<int>({1, 4, 3, 1}))
+        << "the order, the number of lines, then Etape behind the block";
     EXPECT_EQ(Chaîne(o, 9).left(1), "A");
-    EXPECT_EQ(Entier(o, 12), 1) << "Etape stands behind the block";
 
     RazScores();
     ASSERT_TRUE(RestaurePartie(o));
@@ -121,17 +133,11 @@ TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
 
     // Saving charges what is left of the question that drew errors.
     horloge = 36000 + 600;
-    InstalleFormesModales([&](QDialog &d) {
-        auto &s = static_cast<SélectionPartie &>(d);
-        s.NomFichier->setText("essai.txt");
-        s.BoutonOK->click();
-        EXPECT_EQ(s.NomFichier->text(), "essai.CAS");
-        return s.result();
-    });
+    Choisit("essai.txt");
     EnregistrePartie();
     const i32 solde = 16 + 64 + 256 + 1024 + 4096 + 16384 + 65536; // errors 3 to 9 of the question
     EXPECT_EQ(Score, scoreAvant - solde);
-    EXPECT_TRUE(QFile::exists(dossier.filePath("essai.CAS")));
+    EXPECT_TRUE(QFile::exists(dossier.filePath("essai.CAS"))) << "the extension is the game's own";
     EXPECT_EQ(Etape, 0);
     EXPECT_EQ(PartieVierge, True);
     boîtes.journal.clear();
@@ -140,16 +146,10 @@ TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
 
     // Taken up later: the clock goes on from where it stood.
     horloge = 50000;
-    InstalleFormesModales([&](QDialog &d) {
-        auto &s = static_cast<SélectionPartie &>(d);
-        s.Fichier->setCurrentRow(0);
-        s.BoutonOK->click();
-        return s.result();
-    });
+    Choisit();
     FichierLire_Click();
-    EXPECT_EQ(Etape, 3);
-    EXPECT_EQ(Score, scoreAvant - solde);
-    EXPECT_EQ(RestantsEtape, restants);
+    EXPECT_EQ(std::vector<int>({Etape, Score, RestantsEtape, DuréePartie, HeureDépart}),
+              std::vector<int>({3, scoreAvant - solde, restants, 600, 50000 - 600}));
     for (int i = 1; i <= 26; ++i) {
         EXPECT_EQ(Cantons[i].Trouvé, avant[i].Trouvé) << i;
         for (int j = 0; j <= 4; ++j) {
@@ -158,8 +158,6 @@ TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
                 EXPECT_GE(Cantons[i].Pertes[j], avant[i].Pertes[j]);
         }
     }
-    EXPECT_EQ(DuréePartie, 600);
-    EXPECT_EQ(HeureDépart, 50000 - 600);
     EXPECT_FALSE(QFile::exists(dossier.filePath("essai.CAS"))) << "a saved game is taken up once";
     EXPECT_FALSE(Cantons[CantonRecherché].Trouvé);
     // The resumed game asks before it is left, even before its first click.
@@ -178,35 +176,25 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
 
     QByteArray horsTable = bon;
     horsTable[(9 - 1) * 128] = char(200); // the first pair names canton 200
+    QByteArray autre = bon;
+    autre.replace(2 + 8, 4, "6.08");
     const QByteArray mauvais[] = {
         bon.left(200 * 128),  // cut short
         bon.left(100),        // cut in its first records
-        QByteArray(),
+        QByteArray(), autre,  // another version
     };
     for (const QByteArray &o : mauvais) {
         EXPECT_FALSE(RestaurePartie(o));
-        EXPECT_EQ(Score, score);
-        EXPECT_EQ(Etape, étape);
-        EXPECT_EQ(RestantsEtape, restants);
+        EXPECT_EQ(std::vector<int>({Score, Etape, RestantsEtape}), std::vector<int>({score, étape, restants}));
     }
     // A number outside 0..26 in a pair is never used as an index.
     EXPECT_TRUE(RestaurePartie(horsTable));
 
-    // Another version: its message, then the dialog's own.
-    QByteArray autre = bon;
-    autre.replace(2 + 8, 4, "6.08");
-    QFile f(dossier.filePath("vieux.CAS"));
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(autre);
-    f.close();
+    // Another version chosen in the dialog: its message, then the dialog's own.
+    Ecrit("vieux.CAS", autre);
     boîtes.journal.clear();
     PartieVierge = True;
-    InstalleFormesModales([&](QDialog &d) {
-        auto &s = static_cast<SélectionPartie &>(d);
-        s.Fichier->setCurrentRow(0);
-        s.BoutonOK->click();
-        return 0;
-    });
+    Choisit();
     FichierLire_Click();
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[0].texte, Messages[104] + Messages[0] + Messages[105]);
@@ -215,12 +203,12 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     EXPECT_TRUE(QFile::exists(dossier.filePath("vieux.CAS")));
 }
 
-TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNames)
+TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesAndAnUnwritableFolderIsTold)
 {
+    EnregistrePartie();
+    EXPECT_TRUE(FormesMontrées().empty()) << "nothing to save without a game";
     PartieEntamée();
-    QFile existant(dossier.filePath("pris.CAS"));
-    ASSERT_TRUE(existant.open(QIODevice::WriteOnly));
-    existant.close();
+    Ecrit("pris.CAS");
     ModeRépertoires = 1;
     TypeFichier = 4;
     {
@@ -245,6 +233,8 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNames)
         EXPECT_EQ(boîtes.journal.back().texte, Messages[7]);
         EXPECT_EQ(boîtes.journal.back().titre, "M'enffffin");
     }
+    EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
+    EXPECT_EQ(boîtes.journal.back().texte, Messages[119]);
     EXPECT_EQ(Etape, 3);
 }
 
@@ -264,16 +254,6 @@ TEST_F(Sauvegarde, AnotherFolderIsOfferedOnceAsTheDefault)
     EXPECT_EQ(boîtes.journal[0].texte, Messages[117] + dossier.filePath("autre"));
     EXPECT_EQ(RépertoireSauvegarde, dossier.filePath("autre"));
     EXPECT_EQ(QDir::currentPath(), dossier.filePath("autre"));
-}
-
-TEST_F(Sauvegarde, NothingToSaveWithoutAGameAndAnUnwritableFolderIsTold)
-{
-    EnregistrePartie();
-    EXPECT_TRUE(FormesMontrées().empty());
-    PartieEntamée();
-    EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[119]);
-    EXPECT_EQ(Etape, 3);
 }
 
 } // namespace
