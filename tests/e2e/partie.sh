@@ -129,6 +129,12 @@ rm -f "$image" "${image%.png}-echec.png"
 # Everything the game and the tools keep goes into a folder of ours.
 tmp=$(mktemp -d "${TMPDIR:-/tmp}/kelmor-e2e.XXXXXX") || echec "no temporary folder"
 mkdir -p "$tmp/home" "$tmp/run" && chmod 700 "$tmp/run"
+# The game writes its scores beside itself at a first run: it runs from a copy of its
+# folder, so every run starts alike and the build's folder is left as it was.
+mkdir -p "$tmp/jeu" &&
+  cp "$jeu" "$dossier_jeu"/KELMOR.pts "$dossier_jeu"/*.wav "$dossier_jeu"/*.INF "$tmp/jeu/" &&
+  cp -r "$dossier_jeu/aide" "$tmp/jeu/" || echec "the program's folder could not be copied"
+jeu="$tmp/jeu/$(basename "$jeu")"
 export HOME=$tmp/home
 export XDG_RUNTIME_DIR=$tmp/run
 export XDG_CONFIG_HOME=$tmp/home/.config XDG_DATA_HOME=$tmp/home/.local/share
