@@ -470,6 +470,16 @@ void FinEtape()
     TerminePartie();
 }
 
+// Back to the bare map with no game: what a saved game or a validated parameter set leaves.
+void RetourAuRepos()
+{
+    Etape = 0;
+    DébutEtape();
+    PartieVierge = True;
+    CacheMarques();
+    CacheZoneJeu();
+}
+
 // A game that is over, won or lost: its result dealt with, the map and the panel cleared.
 void TerminePartie()
 {

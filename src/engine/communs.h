@@ -87,6 +87,7 @@ void AffichePanneau();
 void QuestionSuivante();
 void FinEtape();
 void TerminePartie();
+void RetourAuRepos();
 void MontreCantons();
 void CacheMarques();
 void CacheZoneJeu();

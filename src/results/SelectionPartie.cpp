@@ -225,11 +225,7 @@ void SélectionPartie::BoutonOK_Click()
             ProposeRépertoire();
         }
     }
-    Etape = 0;
-    DébutEtape();
-    PartieVierge = True;
-    CacheMarques();
-    CacheZoneJeu();
+    RetourAuRepos();
     SortieParamétrage = True;
     accept();
 }

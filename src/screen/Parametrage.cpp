@@ -277,11 +277,7 @@ void ValideParamétrage()
     }
     if (SortieParamétrage) {
         CacheParamétrage();
-        Etape = 0;
-        DébutEtape();
-        PartieVierge = True;
-        CacheMarques();
-        CacheZoneJeu();
+        RetourAuRepos();
     }
 }
 

@@ -37,8 +37,9 @@ TEST_P(Ajustement, MapWindowBarsAndPanel)
     EXPECT_EQ(E.BarreV->Visible(), e.barreV);
     EXPECT_EQ(E.Carte->Top(), 5);
     EXPECT_LE(E.Carte->Height(), 456);
-    if (!e.barreV)
+    if (!e.barreV) {
         EXPECT_EQ(E.Carte->Height(), 456);
+    }
     if (e.barreH) {
         EXPECT_EQ(E.BarreH->Max(), 652 - E.Carte->Width() + 4);
         EXPECT_EQ(E.BarreH->Width(), E.Carte->Width());

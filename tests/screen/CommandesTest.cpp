@@ -125,11 +125,13 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             // The panel shows only in a game, the map's markers follow the step.
             const bool jeu = Etape >= 1 && Etape <= 4;
             EXPECT_EQ(E.QueFaire->Visible(), jeu) << entrée->text().toStdString() << " in state " << état;
-            if (Etape == 0)
+            if (Etape == 0) {
                 for (int i = 1; i <= 26; ++i)
                     EXPECT_FALSE(E.rond[i]->Visible()) << entrée->text().toStdString();
-            if (état == 1 && entrée != E.MenuRévision && entrée != E.FichierNouveau && entrée != E.FichierLire)
+            }
+            if (état == 1 && entrée != E.MenuRévision && entrée != E.FichierNouveau && entrée != E.FichierLire) {
                 EXPECT_EQ(Etape, étapeAvant) << entrée->text().toStdString() << " left the game";
+            }
             if (Langue != 1)
                 ChangeLangue(1);
         }

@@ -51,8 +51,9 @@ TEST_F(Chargement, DotsLieOverEveryBorderAndLaterBordersOverEarlierOnes)
         EXPECT_GT(rang(E.Pays[i]), rang(E.ImageRégion[0]));
         EXPECT_GT(rang(E.inv[i]), rang(E.Pays[i]));
         EXPECT_GT(rang(E.rond[i]), rang(E.inv[26]));
-        if (i > 1)
+        if (i > 1) {
             EXPECT_GT(rang(E.Pays[i]), rang(E.inv[i - 1]));
+        }
     }
     // A dot stays clickable where borders overlap.
     NouvellePartieAuNiveau(3);
