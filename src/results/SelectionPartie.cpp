@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -91,7 +92,6 @@ SélectionPartie::SélectionPartie() : QDialog(FormePrincipale())
                                                 : ComposeChemin(chemin, item->text()));
     });
     connect(Fichier, &QListWidget::itemDoubleClicked, this, [this] { Fichier_DblClick(); });
-    connect(NomFichier, &QLineEdit::returnPressed, this, [this] { BoutonOK_Click(); });
     connect(BoutonOK, &QPushButton::clicked, this, [this] { BoutonOK_Click(); });
     connect(BoutonAnnuler, &QPushButton::clicked, this, [this] { reject(); });
 }
@@ -101,6 +101,22 @@ void SélectionPartie::showEvent(QShowEvent *e)
     QDialog::showEvent(e);
     if (ModeRépertoires == 1)
         NomFichier->setFocus();
+}
+
+void SélectionPartie::keyPressEvent(QKeyEvent *e)
+{
+    // Enter does one thing, that of the control it was typed in: OK from the name, the
+    // file's own action from the file list. A folder list has opened its folder already
+    // and a button has pressed itself; nothing may press OK on top of that.
+    if (e->key() != Qt::Key_Return && e->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(e);
+        return;
+    }
+    e->accept();
+    if (focusWidget() == NomFichier)
+        BoutonOK_Click();
+    else if (focusWidget() == Fichier && Fichier->currentItem())
+        Fichier_DblClick();
 }
 
 void SélectionPartie::ChangeRépertoire(const QString &dossier)

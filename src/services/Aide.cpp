@@ -25,9 +25,12 @@ protected:
         if (e->type() != QEvent::KeyPress)
             return false;
         auto *touche = static_cast<QKeyEvent *>(e);
-        if (touche->key() != Qt::Key_F1 || touche->isAutoRepeat())
+        // The key reaches the window's system object before the control that has the
+        // focus: wait for the control, whose context is the one the player asks for.
+        if (touche->key() != Qt::Key_F1 || !objet->isWidgetType())
             return false;
-        OuvreAide(ContexteDe(objet->isWidgetType() ? static_cast<QWidget *>(objet) : nullptr));
+        if (!touche->isAutoRepeat())
+            OuvreAide(ContexteDe(static_cast<QWidget *>(objet)));
         return true;
     }
 };
@@ -39,11 +42,6 @@ QString PageAide(int contexte)
     const QString langue = FichierAide.endsWith(QLatin1String("DRAVELN.HLP"), Qt::CaseInsensitive) ? QStringLiteral("de")
                                                                                                     : QStringLiteral("fr");
     return RépertoireApplication + QStringLiteral("/aide/") + langue + QStringLiteral("/aide_%1.html").arg(contexte);
-}
-
-int ContexteActif()
-{
-    return ContexteDe(QApplication::focusWidget() ? QApplication::focusWidget() : QApplication::activeWindow());
 }
 
 int ContexteDe(QWidget *contrôle)

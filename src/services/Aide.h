@@ -7,8 +7,8 @@
 void OuvreAide(int contexte);
 // The page that a context opens, beside the program.
 QString PageAide(int contexte);
-// The context that F1 would open now, or in a given control.
-int ContexteActif();
+// The context that F1 opens in a control: its own, or that of the first form or
+// control above it that has one.
 class QWidget;
 int ContexteDe(QWidget *contrôle);
 // Listens for F1 in every form of the program.

@@ -10,7 +10,15 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTest>
+#include "results/AffichageScores.h"
 #include "results/NouvellePartie.h"
+#include "results/Scores.h"
+#include "results/SelectionPartie.h"
+#include "services/ParametrageRepertoires.h"
+#include "services/Pompe.h"
+#include <QDir>
+#include <QFile>
+#include <QListWidget>
 #include "services/Aide.h"
 
 namespace {
@@ -109,27 +117,69 @@ TEST_F(Chargement, AScrollKeepsMarkersAndHitsInLine)
 
 namespace {
 
-TEST_F(Chargement, F1OpensTheContextOfTheFormAndMenuAideAlwaysTheGeneralTopic)
+// Keys reach the program as a player types them: through the active window, to its focus.
+void Tape(QWidget &forme, QWidget *focus, Qt::Key touche)
+{
+    forme.show();
+    forme.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&forme));
+    if (focus)
+        focus->setFocus();
+    QTest::keyClick(forme.windowHandle(), touche);
+}
+
+TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
 {
     std::vector<int> ouverts;
     InstalleAide([&](int c) { ouverts.push_back(c); });
     auto &E = Principal();
-    QTest::keyClick(&E, Qt::Key_F1);
+    Tape(E, nullptr, Qt::Key_F1);
     E.HelpContextID = 65; // as after a parameterisation command
-    QTest::keyClick(E.Bouton[3], Qt::Key_F1);
-    QTest::keyClick(E.Bouton[11], Qt::Key_F1);
+    for (int b : {3, 11})
+        E.Bouton[b]->show(), Tape(E, E.Bouton[b], Qt::Key_F1);
     E.MenuAide->trigger();
-    QTest::keyClick(&E, Qt::Key_F1);
-    {
-        NouvellePartie dialogue;
-        QTest::keyClick(dialogue.BoîteNomJoueur, Qt::Key_F1);
+    Tape(E, E.Bouton[3], Qt::Key_F1);
+    NiveauAffiché = 1;
+    CantonFiche = 6;
+    ModeRépertoires = 7;
+    const std::vector<std::pair<std::function<QDialog *()>, int>> formes = {
+        {[] { return new NouvellePartie; }, 20},
+        {[] { return new AffichageScores; }, 90},
+        {[] { return new Pompe; }, 160},
+        {[] { return new ParamétrageRépertoires; }, 180},
+        {[] { ModeRépertoires = 1; return new SélectionPartie; }, 10},
+    };
+    std::vector<int> attendus = {10, 65, 65, 10, 10};
+    for (const auto &[crée, contexte] : formes) {
+        std::unique_ptr<QDialog> d(crée());
+        Tape(*d, nullptr, Qt::Key_F1);
+        attendus.push_back(contexte);
     }
     InstalleAide(nullptr);
-    EXPECT_EQ(ouverts, (std::vector<int>{10, 65, 65, 10, 10, 20}));
+    EXPECT_EQ(ouverts, attendus);
     EXPECT_TRUE(PageAide(20).endsWith("/aide/fr/aide_20.html"));
     ChangeLangue(2);
     EXPECT_TRUE(PageAide(160).endsWith("/aide/de/aide_160.html"));
     ChangeLangue(1);
+}
+
+TEST_F(Chargement, EnterInTheFileDialogDoesOneThingOnly)
+{
+    QDir::setCurrent(dossier.path());
+    QDir(dossier.path()).mkdir("autre");
+    QFile(dossier.filePath("pris.CAS")).open(QIODevice::WriteOnly);
+    ModeRépertoires = 1;
+    TypeFichier = 4;
+    SélectionPartie s;
+    s.NomFichier->setText("pris");
+    Tape(s, s.NomFichier, Qt::Key_Return);
+    ASSERT_EQ(boîtes.journal.size(), 1u) << "OK was pressed twice";
+    EXPECT_EQ(boîtes.journal[0].texte, Messages[5]);
+    s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
+    Tape(s, s.Répertoire, Qt::Key_Return);
+    EXPECT_EQ(s.Chemin(), dossier.filePath("autre")) << "Enter opens the folder";
+    EXPECT_EQ(boîtes.journal.size(), 1u) << "and presses nothing else";
+    EXPECT_TRUE(s.isVisible());
 }
 
 } // namespace
