@@ -1,10 +1,15 @@
 #pragma once
 // Modal forms: shown and waited for, or handled by a script in tests.
 #include <QString>
+#include <qnamespace.h>
 #include <functional>
 #include <vector>
 
 class QDialog;
+
+// A fixed dialog's frame: its title and close box, no minimise, maximise or help button.
+inline constexpr Qt::WindowFlags CadreDialogueFixe =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
 
 // Shows the form modally and returns its result, as QDialog::exec does.
 int ExécuteModal(QDialog &forme);

@@ -35,6 +35,21 @@ QPixmap DepuisSvg(const QString &chemin, qreal ratio)
 }
 } // namespace
 
+QPixmap ImageJeuAgrandie(const QString &nom, QSize taille, int côté)
+{
+    const qreal ratio = RatioPixels();
+    QPixmap image(QSize(int(std::ceil(taille.width() * ratio)), int(std::ceil(taille.height() * ratio))));
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QSvgRenderer rendu(Chemin(nom, ".svg"));
+    if (rendu.isValid()) {
+        QPainter peintre(&image);
+        peintre.setRenderHint(QPainter::Antialiasing);
+        rendu.render(&peintre, QRectF((taille.width() - côté) / 2.0, (taille.height() - côté) / 2.0, côté, côté));
+    }
+    return image;
+}
+
 qreal RatioPixels()
 {
     if (ratioInstallé > 0)

@@ -10,6 +10,10 @@
 // of the picture at 100 %. A missing picture gives an empty one of `secours`.
 QPixmap ImageJeu(const QString &nom, QSize secours = {});
 
+// A vector picture drawn larger than its own size, centred on a transparent
+// ground of `taille` (logical pixels), at the pixel ratio.
+QPixmap ImageJeuAgrandie(const QString &nom, QSize taille, int côté);
+
 // The pixel ratio pictures are made for (the screen's, or the one installed).
 qreal RatioPixels();
 void InstalleRatioPixels(qreal ratio); // 0 puts the screen's back

@@ -64,7 +64,7 @@ void AjusteColonne(const std::array<::Etiquette *, 11> &colonne)
 
 } // namespace
 
-AffichageScores::AffichageScores() : QDialog(FormePrincipale())
+AffichageScores::AffichageScores() : QDialog(FormePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("AffichageScores"));
     setFixedSize(9075 / TwipsPerPixelX, 5595 / TwipsPerPixelY);

@@ -1,6 +1,7 @@
 #include "results/NouvellePartie.h"
 
 #include "engine/communs.h"
+#include "platform/Formes.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
 #include "results/Resultats.h"
@@ -13,7 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-NouvellePartie::NouvellePartie() : QDialog(FormePrincipale())
+NouvellePartie::NouvellePartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("NouvellePartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4545 / TwipsPerPixelY);

@@ -39,7 +39,7 @@ QString SansSéparateurFinal(QString d)
 }
 } // namespace
 
-SélectionPartie::SélectionPartie() : QDialog(FormePrincipale())
+SélectionPartie::SélectionPartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("SélectionPartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);

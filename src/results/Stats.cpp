@@ -94,7 +94,7 @@ QColor CouleurAbsence(i16 k)
     return CouleurNeutre();
 }
 
-Stats::Stats() : QDialog(FormePrincipale())
+Stats::Stats() : QDialog(FormePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("Stats"));
     setFixedSize(8250 / TwipsPerPixelX, 7125 / TwipsPerPixelY);

@@ -99,7 +99,9 @@ EcranPrincipal::EcranPrincipal()
     forme = this;
     setObjectName(QStringLiteral("EcranPrincipal"));
     setWindowTitle(QStringLiteral("Les cantons kelmors"));
-    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    // A fixed window: its close box, and neither minimise nor maximise.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
     setWindowIcon(QIcon(ImageJeu(QStringLiteral("Icone"), QSize(32, 32))));
     setAttribute(Qt::WA_DeleteOnClose);
 
@@ -107,7 +109,7 @@ EcranPrincipal::EcranPrincipal()
     surface->setObjectName(QStringLiteral("surface"));
     setCentralWidget(surface);
     ConstruitMenus();
-    resize(1013, 736 + menuBar()->sizeHint().height());
+    setFixedSize(1013, 736 + menuBar()->sizeHint().height());
 
     // The map and what lies on it.
     Carte = new BoîteImage(surface);
@@ -297,23 +299,18 @@ void EcranPrincipal::Relie()
     RelieCommandes(*this);
 }
 
-// The window's geometry in twips, frame included.
-int EcranPrincipal::Left() const { return frameGeometry().x() * TwipsPerPixelX; }
-int EcranPrincipal::Top() const { return frameGeometry().y() * TwipsPerPixelY; }
-int EcranPrincipal::Width() const { return frameGeometry().width() * TwipsPerPixelX; }
-int EcranPrincipal::Height() const { return frameGeometry().height() * TwipsPerPixelY; }
-void EcranPrincipal::setLeft(int twips) { move(twips / TwipsPerPixelX, frameGeometry().y()); }
-void EcranPrincipal::setTop(int twips) { move(frameGeometry().x(), twips / TwipsPerPixelY); }
-void EcranPrincipal::setWidth(int twips)
-{
-    const int cadre = frameGeometry().width() - geometry().width();
-    resize(std::max(1, twips / TwipsPerPixelX - cadre), height());
-}
-void EcranPrincipal::setHeight(int twips)
-{
-    const int cadre = frameGeometry().height() - geometry().height();
-    resize(width(), std::max(1, twips / TwipsPerPixelY - cadre));
-}
+// The window's geometry in twips. The frame is the window manager's and unknown until
+// the window is shown, so it never counts: the window is its menu bar and client area,
+// and the sizes the screen fit computes hold with or without a frame.
+int EcranPrincipal::Left() const { return geometry().x() * TwipsPerPixelX; }
+int EcranPrincipal::Top() const { return geometry().y() * TwipsPerPixelY; }
+int EcranPrincipal::Width() const { return geometry().width() * TwipsPerPixelX; }
+int EcranPrincipal::Height() const { return geometry().height() * TwipsPerPixelY; }
+void EcranPrincipal::setLeft(int twips) { move(twips / TwipsPerPixelX, pos().y()); }
+void EcranPrincipal::setTop(int twips) { move(pos().x(), twips / TwipsPerPixelY); }
+// Only the screen fit sizes the window: the player can't drag its edges.
+void EcranPrincipal::setWidth(int twips) { setFixedSize(std::max(1, twips / TwipsPerPixelX), height()); }
+void EcranPrincipal::setHeight(int twips) { setFixedSize(width(), std::max(1, twips / TwipsPerPixelY)); }
 // The client area, from the window's own size: the layout may not have run yet.
 int EcranPrincipal::ScaleWidth() const { return width(); }
 int EcranPrincipal::ScaleHeight() const { return height() - menuBar()->sizeHint().height(); }

@@ -43,11 +43,9 @@ bool Listable(const QString &dossier)
 }
 } // namespace
 
-ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FormePrincipale())
+ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FormePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("ParamétrageRépertoires"));
-    // A title and a close box, nothing else: no Cancel, no help button in the frame.
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setFixedSize(284, 345);
 
     Entête = new QLabel(this);
@@ -88,7 +86,9 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FormePrincipale()
     setProperty("HelpContextID", 180);
 
     const InfoEcran écran = MesureEcran();
-    move((écran.largeur - width()) / 2, (écran.hauteur - height()) / 2);
+    LargeurEcran = écran.largeur;
+    HauteurEcran = écran.hauteur;
+    move((LargeurEcran - width()) / 2, (HauteurEcran - height()) / 2);
     setWindowTitle(Messages[145]);
     if (ModeRépertoires == 7) {
         motif = QStringLiteral("*.SCS");

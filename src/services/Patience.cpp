@@ -6,6 +6,7 @@
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QPointer>
 
@@ -65,7 +66,7 @@ bool SondeModes()
     return meilleur;
 }
 
-Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::WindowTitleHint)
+Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
 {
     setObjectName(QStringLiteral("Patience"));
     setFixedSize(500, 296);
@@ -77,9 +78,8 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::WindowTitleHint)
 
     // The window's emblem, drawn large in the picture's place.
     Image1 = new Image(this);
-    Image1->Stretch = true;
-    Image1->setGeometry(27, 40, 125, 125);
-    Image1->setPicture(ImageJeu(QStringLiteral("Icone"), QSize(32, 32)));
+    Image1->setGeometry(0, 40, 179, 125);
+    Image1->setPicture(ImageJeuAgrandie(QStringLiteral("Icone"), QSize(179, 125), 125));
     auto étiquette = [this](QRect g) {
         auto *l = new QLabel(this);
         l->setGeometry(g);
@@ -105,6 +105,8 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::WindowTitleHint)
     else
         Conseil->setText(Messages[100] + mode + (large ? QStringLiteral(" ; ") + Messages[101] : Messages[107]));
 }
+
+void Patience::closeEvent(QCloseEvent *e) { e->ignore(); }
 
 void AffichePatience()
 {

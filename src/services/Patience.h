@@ -23,6 +23,12 @@ public:
     Patience();
     Image *Image1;
     QLabel *Commentaire, *Conseil, *Adresse;
+
+    // The player can't dismiss the form: only the main window's first showing ends it.
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent *e) override;
 };
 
 // True when the screen offers a mode wider than the present one, then in Modes[0].

@@ -8,6 +8,7 @@
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
+#include "screen/EcranPrincipal.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -43,6 +44,7 @@ protected:
         ASSERT_EQ(CréeClé(CléJeu), 0);
         InstalleBoîtes(&boîtes);
         InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 984), 24});
+        LargeurEcran = HauteurEcran = 0;
         Langue = langue;
         ChargeChaînes();
         CheminsInfo[1] = "avant/KELMOR.INF";
@@ -117,6 +119,7 @@ TEST_F(Dossiers, EachUseStartsWhereItShouldAndItsOKWritesItsOwnValuesOnly)
         EXPECT_EQ(Ouvre(mode,
                         [&](ParamétrageRépertoires &f) {
                             EXPECT_EQ(f.Chemin(), sauvegarde ? courant : infos);
+                            EXPECT_EQ(QSize(LargeurEcran, HauteurEcran), QSize(1280, 1024)) << "the screen measured";
                             // The files of the use's pattern, in any case of letters, and nothing else.
                             EXPECT_TRUE(f.ChangeRépertoire(choisi));
                             EXPECT_EQ(Liste(f.Fichier), sauvegarde ? QStringList({"KELMOR.SCS", "vieux.scs"}) : QStringList{"KELMOR.INF"});
