@@ -65,14 +65,23 @@ void OuvreAide(int contexte)
     QString page = PageAide(contexte);
     if (!QFileInfo::exists(page))
         page = PageAide(10);
+    // Over a modal form the help window belongs to it, so the player can still scroll
+    // and close it while the form waits.
+    QWidget *propriétaire = QApplication::activeModalWidget();
+    if (fenêtre && fenêtre->parentWidget() != propriétaire)
+        fenêtre->setParent(propriétaire, Qt::Window);
     if (!fenêtre) {
-        fenêtre = new QTextBrowser();
+        fenêtre = new QTextBrowser(propriétaire);
+        fenêtre->setWindowFlag(Qt::Window);
         fenêtre->setAttribute(Qt::WA_DeleteOnClose);
         fenêtre->setOpenExternalLinks(false);
         fenêtre->resize(640, 560);
     }
-    fenêtre->setWindowTitle(Messages.size() > 67 ? Messages[67] : QStringLiteral("Aide"));
     fenêtre->setSource(QUrl::fromLocalFile(page));
+    // The topic stands in the title, as in the desktop's own help viewers.
+    const QString aide = Messages.size() > 67 ? Messages[67] : QStringLiteral("Aide");
+    const QString sujet = fenêtre->documentTitle();
+    fenêtre->setWindowTitle(sujet.isEmpty() ? aide : aide + QStringLiteral(" - ") + sujet);
     fenêtre->show();
     fenêtre->raise();
     fenêtre->activateWindow();

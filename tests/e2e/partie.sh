@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
 # One game played end to end: the real program in a real X window under its own
-# Xvfb, driven with the mouse and the keyboard as a player would, then closed by
-# the close box's message and the abandon confirmed.
+# Xvfb and a real window manager (openbox), driven with the mouse and the keyboard
+# as a player would, then closed by the close box's message and the abandon confirmed.
+# On the way: the window keeps its size, frame or not, through Révision, a new game
+# and a change of language; a request to resize it is refused; F1 in the new-game
+# dialog opens the help at that dialog's page.
 #
 #     partie.sh KELMOR CAPTURE FERME_FENETRE IMAGE.png
 #
 # KELMOR is the built program with its data beside it, CAPTURE saves the X screen,
 # FERME_FENETRE sends WM_DELETE_WINDOW, IMAGE.png receives the screen of the game
-# in progress (and IMAGE-echec.png the screen at a failure).
+# in progress (IMAGE-de.png the same in German, IMAGE-echec.png the screen at a failure).
 set -uo pipefail
 
 if [ $# -ne 4 ]; then
@@ -21,15 +24,20 @@ image=$4
 
 titre_jeu='Les cantons kelmors'
 titre_dialogue='Nouvelle partie'
-titre_abandon='Partie en cours...'
-titre_verdict='Meilleur score'
 titre_rappel='Publicité bimestrielle gratuite...'
-titre_scores='Meilleurs scores'
+titre_astuce='A propos...'
+titre_aide_partie='Aide - Nouvelle partie'
+# The game is closed in German, after the change of language.
+titre_jeu_de='Die kelmorischen Kantone'
+titre_abandon='Laufendes Spiel...'
+titre_verdict='Bestes Ergebnis'
+titre_scores='Bestenliste'
 
 debut=$(date +%s%N)
 etape="checking what the run needs"
 tmp=""
 xvfb_pid=""
+wm_pid=""
 jeu_pid=""
 
 say() { echo "e2e: $*"; }
@@ -68,10 +76,13 @@ nettoie() {
     sleep 0.5
     kill -KILL "$jeu_pid" 2>/dev/null
   fi
-  if [ -n "$xvfb_pid" ] && kill -0 "$xvfb_pid" 2>/dev/null; then
-    kill "$xvfb_pid" 2>/dev/null
-    wait "$xvfb_pid" 2>/dev/null
-  fi
+  local p
+  for p in "$wm_pid" "$xvfb_pid"; do
+    if [ -n "$p" ] && kill -0 "$p" 2>/dev/null; then
+      kill "$p" 2>/dev/null
+      wait "$p" 2>/dev/null
+    fi
+  done
   [ -n "$tmp" ] && rm -rf "$tmp"
 }
 trap nettoie EXIT
@@ -105,8 +116,39 @@ geometrie() {
   eval "$(xdotool getwindowgeometry --shell "$1")" || echec "no geometry for window $1"
 }
 
-# Keystrokes go where the X focus is: without a window manager, the program itself
-# gives it to its new windows, and we check that rather than hope.
+# Sets IX, IY, IW, IH to the window's inside (menu bar and client area, on the
+# screen) and CADRE to the window manager's frame extents "left right top bottom".
+interieur() {
+  local info
+  info=$(xwininfo -id "$1" 2>/dev/null) || echec "no window $1"
+  IX=$(sed -n 's/^ *Absolute upper-left X: *//p' <<<"$info")
+  IY=$(sed -n 's/^ *Absolute upper-left Y: *//p' <<<"$info")
+  IW=$(sed -n 's/^ *Width: *//p' <<<"$info")
+  IH=$(sed -n 's/^ *Height: *//p' <<<"$info")
+  CADRE=$(xprop -id "$1" _NET_FRAME_EXTENTS 2>/dev/null | sed -n 's/.*= *//p' | tr -d ,)
+}
+
+# The main window keeps the size it had at start, whatever was just done ($1).
+meme_taille() {
+  interieur "$principale"
+  say "after $1: inside ${IW}x${IH}, frame ${CADRE:-none}"
+  [ "${IW}x${IH}" = "$taille0" ] || echec "the window's inside is ${IW}x${IH} after $1, ${taille0} at start"
+  [ "$CADRE" = "$cadre0" ] || echec "the window's frame is \"$CADRE\" after $1, \"$cadre0\" at start"
+}
+
+# Opens the menu whose title stands at x = $1 in the menu bar and chooses its entry
+# number $2 from the keyboard (0: the title is itself a command).
+menu() {
+  interieur "$principale"
+  xdotool mousemove "$((IX + $1))" "$((IY + 9))" click 1
+  [ "$2" -eq 0 ] && return 0
+  sleep 0.3
+  local i
+  for ((i = 0; i < $2; i++)); do xdotool key Down; done
+  xdotool key Return
+}
+
+# Keystrokes go where the X focus is, and we check that rather than hope.
 focus_sur() {
   attend 5 test "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ||
     echec "the keyboard focus is not on window $1 (it is on $(xdotool getwindowfocus 2>/dev/null))"
@@ -114,7 +156,7 @@ focus_sur() {
 
 # ---------------------------------------------------------------- what the run needs
 
-for outil in Xvfb xdotool; do
+for outil in Xvfb openbox xdotool xwininfo xprop; do
   command -v "$outil" >/dev/null || echec "$outil is not installed (scripts/install-deps installs it)"
 done
 [ -x "$jeu" ] || echec "no program at $jeu"
@@ -157,6 +199,13 @@ attend 10 grep -q '^[0-9][0-9]*$' "$tmp/affichage" ||
 export DISPLAY=:$(head -n 1 "$tmp/affichage")
 say "Xvfb on display $DISPLAY"
 
+etape="starting the window manager"
+openbox --sm-disable >"$tmp/openbox.log" 2>&1 &
+wm_pid=$!
+# The manager is up when it names itself on the root window.
+gestionnaire_pret() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+attend 10 gestionnaire_pret || echec "openbox did not start: $(tail -n 5 "$tmp/openbox.log")"
+
 # ---------------------------------------------------------------- the game
 
 etape="starting the game"
@@ -172,45 +221,64 @@ etape="waiting for the window \"$titre_jeu\""
 attend 20 fenetre_ou_fin "$titre_jeu" || echec "no window \"$titre_jeu\" after 20 s"
 jeu_vivant || echec "the game ended before showing its window"
 principale=$(fenetre "$titre_jeu")
-geometrie "$principale"
-fx=$X fy=$Y fw=$WIDTH fh=$HEIGHT
-say "main window $principale at ${fx},${fy}, ${fw}x${fh}"
-[ "$fw" -ge 652 ] && [ "$fh" -ge 456 ] || echec "the window (${fw}x${fh}) can't hold the map"
+# The frame comes a moment after the window: wait for the manager's extents.
+attend 5 test -n "$(xprop -id "$principale" _NET_FRAME_EXTENTS 2>/dev/null | grep =)" ||
+  echec "the window manager put no frame round the main window"
+interieur "$principale"
+taille0="${IW}x${IH}" cadre0=$CADRE
+say "main window $principale at ${IX},${IY}, inside ${taille0}, frame ${cadre0}"
+[ "$IW" -ge 652 ] && [ "$IH" -ge 456 ] || echec "the window (${taille0}) can't hold the map"
+
+# ---------------------------------------------------------------- a fixed window
+
+etape="asking the window manager to resize the main window"
+actions=$(xprop -id "$principale" _NET_WM_ALLOWED_ACTIONS)
+for a in RESIZE MAXIMIZE_HORZ MAXIMIZE_VERT; do
+  ! grep -q "_NET_WM_ACTION_$a" <<<"$actions" || echec "the window manager offers $a on a fixed window: $actions"
+done
+xdotool windowsize "$principale" 500 300
+sleep 0.5
+meme_taille "a request to resize it"
+
+# ---------------------------------------------------------------- Révision
+
+etape="choosing Révision"
+menu 219 0
+attend 10 fenetre_ouverte "$titre_astuce" || echec "no hint \"$titre_astuce\" after a click on Révision"
+focus_sur "$(fenetre "$titre_astuce")"
+xdotool key Return
+attend 10 fenetre_fermee "$titre_astuce" || echec "the hint did not close on Enter"
+meme_taille "Révision"
 
 # ---------------------------------------------------------------- Fichier > Nouvelle partie
 
-etape="opening the menu Fichier"
-avant=$(xdotool search --onlyvisible --pid "$jeu_pid" | sort)
-# "Fichier" is the first title of the menu bar, at its left end.
-xdotool mousemove "$((fx + 25))" "$((fy + 9))" click 1
-menu_ouvert() {
-  menu=$(comm -13 <(echo "$avant") <(xdotool search --onlyvisible --pid "$jeu_pid" | sort) | head -n 1)
-  [ -n "$menu" ]
-}
-attend 5 menu_ouvert || echec "no menu opened after a click on Fichier"
-geometrie "$menu"
-# The menu opens right under the bar: that gives the bar's height, hence where the map is.
-barre=$((Y - fy))
-[ "$barre" -ge 10 ] && [ "$barre" -le 60 ] || echec "menu at ${X},${Y}: not under the menu bar"
-
-etape="choosing Nouvelle partie"
-# First entry of the menu.
-xdotool mousemove "$((X + 40))" "$((Y + 10))" click 1
-attend 10 fenetre_ouverte "$titre_dialogue" || echec "no dialog \"$titre_dialogue\" after choosing the first entry of Fichier"
+etape="choosing Fichier > Nouvelle partie"
+menu 30 1
+attend 10 fenetre_ouverte "$titre_dialogue" || echec "no dialog \"$titre_dialogue\" from the first entry of Fichier"
 dialogue=$(fenetre "$titre_dialogue")
+focus_sur "$dialogue"
+
+etape="pressing F1 in the dialog \"$titre_dialogue\""
+xdotool key F1
+attend 10 fenetre_ouverte "$titre_aide_partie" || echec "F1 did not open \"$titre_aide_partie\""
+"$ferme" "$(fenetre "$titre_aide_partie")" || echec "the help window could not be sent its close message"
+attend 10 fenetre_fermee "$titre_aide_partie" || echec "the help window did not close by its close box"
 
 etape="filling in the dialog \"$titre_dialogue\""
+xdotool windowactivate --sync "$dialogue" 2>/dev/null
 focus_sur "$dialogue"
 xdotool type --delay 20 'Essai'
 xdotool key Return
 attend 10 fenetre_fermee "$titre_dialogue" || echec "the dialog did not close on Enter"
+meme_taille "a new game"
 
 # ---------------------------------------------------------------- clicks on the map
 
 etape="clicking on the map"
-# The map lies 5 px under the menu bar at the left of the client area, 652 x 456.
-cx=$((fx + 652 / 2))
-cy=$((fy + barre + 5 + 456 / 2))
+# The map lies 5 px under the menu bar (about 20 px) at the left of the client area.
+interieur "$principale"
+cx=$((IX + 652 / 2))
+cy=$((IY + 25 + 456 / 2))
 for d in "0 0" "-40 -20" "40 20"; do
   set -- $d
   xdotool mousemove "$((cx + $1))" "$((cy + $2))" click 1
@@ -230,6 +298,12 @@ etape="saving the screen of the game in progress"
 "$capture" "$image" >"$tmp/capture.log" 2>&1 && [ -s "$image" ] ||
   echec "no screenshot: $(cat "$tmp/capture.log")"
 say "game in progress: $image"
+
+etape="choosing Langue / Sprache > Auf deutsch spielen"
+menu 311 2
+attend 10 fenetre_ouverte "$titre_jeu_de" || echec "the window's title is not \"$titre_jeu_de\" after the change of language"
+meme_taille "a change of language"
+"$capture" "${image%.png}-de.png" >"$tmp/capture.log" 2>&1 || echec "no screenshot: $(cat "$tmp/capture.log")"
 
 # ---------------------------------------------------------------- closing
 
