@@ -1,5 +1,7 @@
 #include "platform/Controles.h"
 
+#include <QFontMetrics>
+
 #include "platform/Ecran.h"
 #include "platform/Images.h"
 
@@ -62,6 +64,54 @@ void Etiquette::setTailleFonte(qreal points)
     QFont f = font();
     f.setPointSizeF(points);
     setFont(f);
+}
+
+void Etiquette::setText(const QString &texte)
+{
+    QLabel::setText(texte);
+    AjustePolice();
+}
+
+void Etiquette::resizeEvent(QResizeEvent *e)
+{
+    QLabel::resizeEvent(e);
+    AjustePolice();
+}
+
+void Etiquette::changeEvent(QEvent *e)
+{
+    QLabel::changeEvent(e);
+    // A font set from outside is the new design size.
+    if (e->type() == QEvent::FontChange && !enAjustement) {
+        pointsPrévus = font().pointSizeF();
+        AjustePolice();
+    }
+}
+
+bool Etiquette::TexteTientDans() const
+{
+    const QRect boîte = contentsRect();
+    const QFontMetrics m(font());
+    const int drapeaux = int(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0);
+    const QRect besoin = m.boundingRect(QRect(0, 0, boîte.width(), 100000), drapeaux, text());
+    return besoin.width() <= boîte.width() && besoin.height() <= boîte.height();
+}
+
+void Etiquette::AjustePolice()
+{
+    if (pointsPrévus <= 0)
+        pointsPrévus = font().pointSizeF();
+    if (text().isEmpty() || pointsPrévus <= 0 || width() <= 0 || height() <= 0 || enAjustement)
+        return;
+    enAjustement = true;
+    QFont f = font();
+    for (qreal points = pointsPrévus; points >= 6.0; points -= 0.25) {
+        f.setPointSizeF(points);
+        setFont(f);
+        if (TexteTientDans())
+            break;
+    }
+    enAjustement = false;
 }
 
 CaseChiffre::CaseChiffre(QWidget *parent) : Contrôle<QLabel>(parent)

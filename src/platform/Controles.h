@@ -54,10 +54,25 @@ public:
     explicit BoîteImage(QWidget *parent) : Contrôle<QWidget>(parent) {}
 };
 
+// A label whose text always fits its box: where a translation or the desktop's font
+// runs longer than the design's, the font steps down (to 6 points at the least)
+// rather than cut the text; it comes back up when the text is shorter again.
 class Etiquette : public Contrôle<QLabel> {
 public:
     explicit Etiquette(QWidget *parent) : Contrôle<QLabel>(parent) {}
     void setTailleFonte(qreal points);
+    void setText(const QString &texte);
+    // True when the text is drawn whole in the box at the present font.
+    bool TexteTientDans() const;
+
+protected:
+    void resizeEvent(QResizeEvent *e) override;
+    void changeEvent(QEvent *e) override;
+
+private:
+    void AjustePolice();
+    qreal pointsPrévus = 0;
+    bool enAjustement = false;
 };
 
 // A read-only text box of one digit, as in the score and count boxes.

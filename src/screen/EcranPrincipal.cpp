@@ -187,16 +187,18 @@ EcranPrincipal::EcranPrincipal()
     LBLParam[3]->setText(QStringLiteral("Nom du fichier paramétrage :"));
     for (int r = 0; r < 4; ++r)
         LBLParam[4 + r] = NouvelleEtiquette(surface, {752, 274 + 20 * r, 89, 17}, 8, false, false, false);
-    const int gaucheTête[4] = {848, 877, 915, 944};
-    const int largeurTête[4] = {17, 33, 33, 33};
+    // Each heading centred over its column of boxes: at the design's places, the last
+    // two touched and "1er" was cut.
+    const int gaucheColonne[4] = {848, 882, 915, 949};
     const char *têtes[4] = {"1er", "2ème", "3ème", "4ème"};
     for (int k = 0; k < 4; ++k) {
-        LBLParam[8 + k] = NouvelleEtiquette(surface, {gaucheTête[k], 252, largeurTête[k], 17}, 8, false, false, false);
+        LBLParam[8 + k] = NouvelleEtiquette(surface, {gaucheColonne[k] + 8 - 16, 252, 33, 17}, 8, false, true, false);
         LBLParam[8 + k]->setText(QString::fromUtf8(têtes[k]));
     }
-    LBLParam[12] = NouvelleEtiquette(surface, {784, 356, 193, 25}, 8, false, false, false);
-    LBLParam[13] = NouvelleEtiquette(surface, {784, 388, 193, 33}, 8, false, false, false);
-    const int gaucheColonne[4] = {848, 882, 915, 949};
+    // The two sentences beside their boxes take the width of the panel and the height
+    // between the boxes: the German ones need three lines.
+    LBLParam[12] = NouvelleEtiquette(surface, {784, 352, 209, 34}, 8, false, false, false);
+    LBLParam[13] = NouvelleEtiquette(surface, {784, 386, 209, 36}, 8, false, false, false);
     for (int colonne = 1; colonne <= 4; ++colonne)
         for (int ligne = 1; ligne <= 4; ++ligne) {
             auto *b = new CaseACocher(surface);

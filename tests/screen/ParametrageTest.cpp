@@ -196,4 +196,17 @@ TEST_F(Parametrage, TheDefaultSetComesBackAndBecomesTheStartUpSet)
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());
 }
 
+TEST_F(Parametrage, EveryTextOfThePanelFitsItsBoxInBothLanguages)
+{
+    auto &E = Principal();
+    DéfinitParamétrage();
+    for (int langue : {2, 1}) {
+        ChangeLangue(langue);
+        for (int i = 1; i <= 13; ++i)
+            EXPECT_TRUE(E.LBLParam[i]->TexteTientDans()) << "language " << langue << ", LBLParam(" << i << ")";
+        for (int i = 8; i <= 10; ++i)
+            EXPECT_FALSE(E.LBLParam[i]->geometry().intersects(E.LBLParam[i + 1]->geometry())) << i;
+    }
+}
+
 } // namespace
