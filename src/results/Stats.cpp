@@ -53,15 +53,6 @@ void Colore(Etiquette *e, const QColor &fond)
 // Blanks or, on every fourth line, hyphens, that lead the eye along the table.
 QString Bourrage(int n, QChar c) { return n > 0 ? QString(n, c) : QString(); }
 
-// Why the file couldn't be written; the table itself stays on the screen.
-QString ExplicationEchec()
-{
-    if (Langue == 2)
-        return QString::fromUtf8("Der Programmordner ist nicht beschreibbar (vielleicht schreibgeschützt oder nicht "
-                                 "mehr vorhanden). Die Tabelle bleibt angezeigt.");
-    return QString::fromUtf8("Le dossier du programme n'accepte pas l'écriture (il est peut-être protégé, ou n'existe "
-                             "plus). Le tableau reste affiché : vous pouvez continuer à le consulter.");
-}
 } // namespace
 
 void TriePertes()
@@ -234,7 +225,7 @@ void Stats::BoutonSauvegarde_Click()
         }
     }
     if (!écrit) {
-        Boîte(Messages[134] + QLatin1Char(' ') + Chemin + FinDeLigne + ExplicationEchec(), StyleExclamation,
+        Boîte(Messages[134] + QLatin1Char(' ') + Chemin + FinDeLigne + Messages[MessageStatsNonEcrites], StyleExclamation,
               Messages[152]);
         return;
     }

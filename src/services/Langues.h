@@ -5,6 +5,8 @@
 
 extern std::vector<QString> Messages;      // index i is the message of French id 1000 + i
 extern short NombreMessages;
+// The program's own messages follow the table's 170, under the same rule of ids.
+constexpr int MessageStatsNonEcrites = 170; // why KELM_STA.TXT couldn't be written
 extern unsigned char NombreLangues;
 extern short Langue;                       // 1 French, 2 German
 extern std::vector<QString> NomsFichiersAide;

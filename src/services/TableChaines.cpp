@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "169"},
+    {1, "170"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -197,6 +197,8 @@ constexpr Ligne Table[] = {
     {1167, "  "},
     {1168, "Editer les fiches d'information"},
     {1169, "Modification de la description des cantons"},
+    // The program's own messages.
+    {1170, "Le dossier du programme n'accepte pas l'écriture (il est peut-être protégé, ou n'existe plus). Le tableau reste affiché : vous pouvez continuer à le consulter."},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -369,6 +371,7 @@ constexpr Ligne Table[] = {
     {1417, "  "},
     {1418, "Steckbriefe bearbeiten"},
     {1419, "Beschreibung der Kantone ändern"},
+    {1420, "Der Programmordner ist nicht beschreibbar (vielleicht schreibgeschützt oder nicht mehr vorhanden). Die Tabelle bleibt angezeigt."},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

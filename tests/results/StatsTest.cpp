@@ -176,6 +176,7 @@ TEST_F(Statistiques, AnUnwritableProgramFolderIsToldAndTheTableStaysUsable)
         ASSERT_EQ(boîtes.journal.size(), 1u) << d.toStdString();
         EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
         EXPECT_TRUE(boîtes.journal[0].texte.startsWith(QStringLiteral("Impossible d'écrire le fichier ") + d));
+        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Messages[MessageStatsNonEcrites]));
         EXPECT_EQ(résultat, QDialog::Accepted) << "Command1 still closes the form";
     }
     EXPECT_FALSE(QFile::exists(dossier.filePath(QStringLiteral("absent"))));
