@@ -7,6 +7,7 @@
 #include "services/Fiches.h"
 #include "services/Langues.h"
 
+#include <algorithm>
 #include <QTextDocument>
 
 namespace {
@@ -70,6 +71,21 @@ void HabilleFormeFiche(QWidget &forme)
 
 // ---------------------------------------------------------------- the card
 
+TPlaceFiche PlaceFiche(int x, int w, int s, int h, int W, int bas, int cadre, int hauteurMinimale)
+{
+    // Right of the canton if there is room, else left, else 10 pixels from the screen's edge.
+    TPlaceFiche p{10, 0, h};
+    if (x + 10 + w + s < W)
+        p.gauche = x + 10 + w;
+    else if (x - 10 - s > 0)
+        p.gauche = x - 10 - s;
+    // On a low work area the card takes its whole height, frame included.
+    if (h + cadre > bas)
+        p.hauteur = std::max(hauteurMinimale, bas - cadre);
+    p.haut = std::max(0, Moitié(bas - p.hauteur - cadre));
+    return p;
+}
+
 Pompe::Pompe() : QDialog(FormePrincipale())
 {
     setObjectName(QStringLiteral("Pompe"));
@@ -104,23 +120,18 @@ Pompe::Pompe() : QDialog(FormePrincipale())
     setWindowTitle(Messages[114]);
     E.rond[i]->show();
 
-    // Beside the canton, right if there is room, else left, else at the screen's edge.
-    const int x = E.inv[i]->Left() + E.Carte->Left();
-    const int w = E.inv[i]->Width();
-    const int s = width();
-    int gauche = 10;
-    if (x + 10 + w + s < LargeurEcran)
-        gauche = x + 10 + w;
-    else if (x - 10 - s > 0)
-        gauche = x - 10 - s;
-
-    // On a low work area the card takes its whole height and the OK button moves up.
-    if (height() > BasZoneTravail) {
-        const int cadre = frameGeometry().height() - geometry().height();
-        setFixedSize(width(), qMax(BTNOK->Height() + 15, BasZoneTravail - cadre));
+    // The frame isn't known before the card is shown: the main window's, from the same
+    // window manager, stands for it, so that the whole card stays above the task bar.
+    int cadre = frameGeometry().height() - geometry().height();
+    if (cadre <= 0)
+        cadre = E.frameGeometry().height() - E.geometry().height();
+    const TPlaceFiche place = PlaceFiche(E.inv[i]->Left() + E.Carte->Left(), E.inv[i]->Width(), width(), height(),
+                                         LargeurEcran, BasZoneTravail, cadre, BTNOK->Height() + 15);
+    if (place.hauteur != height()) {
+        setFixedSize(width(), place.hauteur);
         BTNOK->setTop(height() - 15 - BTNOK->Height());
     }
-    move(gauche, Moitié(BasZoneTravail - height()));
+    move(place.gauche, place.haut);
 
     LBLPays->setText(Cantons[i].Nom + QStringLiteral(" (") + Plaques[i] + QLatin1Char(')'));
     IMGDrapeau->setPicture(E.drapeau[i]->Picture());

@@ -33,5 +33,13 @@ public:
     void BTNOK_Click();
 };
 
+// Where a card of inner size s × h stands: beside the canton's box (left x, width w
+// on the screen) on a screen W wide, within a work area whose bottom is `bas`, under a
+// window frame `cadre` pixels high. A card too high for the work area is cut to it.
+struct TPlaceFiche {
+    int gauche, haut, hauteur;
+};
+TPlaceFiche PlaceFiche(int x, int w, int s, int h, int W, int bas, int cadre, int hauteurMinimale);
+
 // The card of canton CantonFiche, shown modally; its dot is put back at rest afterwards.
 void MontrePompe();

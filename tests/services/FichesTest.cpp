@@ -97,7 +97,8 @@ TEST_F(Fiches, ACardShowsFlagNameWithPlateChiefTownAndTheRecordsTextBesideItsCan
                   QStringList({"Vaud (VD)", "Chef-lieu : Lausanne", QString::fromUtf8("Capitale olympique.\r\nLéman\u00A0: 582 km²")}));
         EXPECT_EQ(p.IMGDrapeau->Picture().cacheKey(), E.drapeau[24]->Picture().cacheKey());
         // Right of the canton on a wide screen, halfway down the work area; the target on its town.
-        EXPECT_EQ(p.pos(), QPoint(E.inv[24]->Left() + E.Carte->Left() + E.inv[24]->Width() + 10, (1024 - 493) / 2));
+        const int cadre = E.frameGeometry().height() - E.geometry().height();
+        EXPECT_EQ(p.pos(), QPoint(E.inv[24]->Left() + E.Carte->Left() + E.inv[24]->Width() + 10, (1024 - 493 - cadre) / 2));
         EXPECT_TRUE(E.rond[24]->Visible());
         EXPECT_NE(E.rond[24]->size(), E.RondVille->size());
     });
@@ -108,23 +109,40 @@ TEST_F(Fiches, ACardShowsFlagNameWithPlateChiefTownAndTheRecordsTextBesideItsCan
     // Narrow screen: no room right of Appenzell, so left; Geneva right; Graubünden neither, 10 px from the edge.
     Relance(InfoEcran{800, 600, QRect(0, 0, 800, 570), 24});
     auto x = [this](int c) { return Principal().inv[c]->Left() + Principal().Carte->Left(); };
-    OuvreFiche(2, [&](Pompe &p) { EXPECT_EQ(p.pos(), QPoint(x(2) - 10 - p.width(), (570 - 493) / 2)); });
+    const int cadre = Principal().frameGeometry().height() - Principal().geometry().height();
+    OuvreFiche(2, [&](Pompe &p) { EXPECT_EQ(p.pos(), QPoint(x(2) - 10 - p.width(), (570 - 493 - cadre) / 2)); });
     OuvreFiche(8, [&](Pompe &p) { EXPECT_EQ(p.x(), x(8) + Principal().inv[8]->Width() + 10); });
     OuvreFiche(10, [&](Pompe &p) { EXPECT_EQ(p.x(), 10); });
 }
 
 TEST_F(Fiches, ALowWorkAreaShrinksTheCardAndMovesItsButtonUp)
 {
-    struct Cas {
-        int basTravail, hauteur, hautOK, hauteurTexte;
-    };
-    for (Cas c : {Cas{400, 400, 360, 163}, Cas{493, 493, 464, 267}, Cas{494, 493, 464, 267}}) {
-        Relance(InfoEcran{1024, 768, QRect(0, 0, 1024, c.basTravail), 24});
+    for (int bas : {400, 493, 530}) {
+        Relance(InfoEcran{1024, 768, QRect(0, 0, 1024, bas), 24});
+        // The main window's frame stands for the card's own, unknown before it shows.
+        const int cadre = Principal().frameGeometry().height() - Principal().geometry().height();
+        const int hauteur = std::min(493, bas - cadre);
+        const int hautOK = hauteur == 493 ? 464 : hauteur - 40; // the button moves up with a cut card only
         OuvreFiche(7, [&](Pompe &p) {
             EXPECT_EQ(QList<int>({p.height(), p.y(), p.BTNOK->Top(), p.TXTInfos->Top(), p.TXTInfos->Height()}),
-                      QList<int>({c.hauteur, 0, c.hautOK, 192, c.hauteurTexte}))
-                << c.basTravail;
+                      QList<int>({hauteur, (bas - hauteur - cadre) / 2, hautOK, 192, hautOK - 197}))
+                << bas;
         });
+    }
+}
+
+TEST(PlaceFiche, TheWholeCardFrameIncludedStaysInTheWorkArea)
+{
+    struct Cas {
+        int x, w, bas, cadre, gauche, haut, hauteur;
+    };
+    // Card 383 x 493 beside a canton 100 wide, on a screen 1024 wide; OK 25 high.
+    for (Cas c : {Cas{100, 100, 984, 0, 210, 245, 493}, Cas{700, 100, 984, 25, 307, 233, 493},
+                  Cas{400, 100, 518, 25, 510, 0, 493}, Cas{400, 100, 500, 25, 510, 0, 475},
+                  Cas{600, 100, 400, 0, 207, 0, 400}, Cas{380, 300, 20, 25, 10, 0, 40}}) {
+        const TPlaceFiche p = PlaceFiche(c.x, c.w, 383, 493, 1024, c.bas, c.cadre, 40);
+        EXPECT_EQ(QList<int>({p.gauche, p.haut, p.hauteur}), QList<int>({c.gauche, c.haut, c.hauteur}))
+            << c.x << " " << c.bas << " " << c.cadre;
     }
 }
 
