@@ -129,9 +129,10 @@ bool ChargeCarteZones()
     };
 
     QFile fichier(CheminFichierZones);
-    // Any valid file fits in a header, the row marks and the runs of the tables.
-    constexpr qint64 TailleMax = 4LL * (1 + MaxLignes + MaxSegments);
-    if (!fichier.open(QIODevice::ReadOnly) || fichier.size() > TailleMax || fichier.size() % 4 != 0)
+    // Any valid file fits in a header, the row marks and the runs of the tables; a
+    // cut last record is left unread.
+    constexpr qint64 RecordsMax = 1 + MaxLignes + MaxSegments;
+    if (!fichier.open(QIODevice::ReadOnly) || fichier.size() / 4 > RecordsMax)
         return refuse();
     const QByteArray octets = fichier.readAll();
     fichier.close();
@@ -185,6 +186,21 @@ bool ChargeCarteZones()
             compte = compte + 1;
         }
     }
+    // A file that stops before the last row is closed, or leaves a canton without a
+    // pixel, would start a game in which some click never finds its canton.
+    if (carte != 0 || ligne < HauteurCarte)
+        return refuse();
+    bool couvert[NombrePlaces + 1] = {};
+    for (int y = 0; y < HauteurCarte; ++y)
+        for (int s = débuts[0][y]; s < débuts[0][y + 1]; ++s) {
+            const int fin = s + 1 < débuts[0][y + 1] ? segments[0][s + 1].X : LargeurCarte - 1;
+            const int zone = segments[0][s].Zone;
+            if (zone <= NombrePlaces && std::max(segments[0][s].X + 1, 0) <= std::min(fin, LargeurCarte - 1))
+                couvert[zone] = true;
+        }
+    for (int c = 1; c <= NombrePlaces; ++c)
+        if (!couvert[c])
+            return refuse();
     std::memcpy(PointsSegments, segments, sizeof segments);
     std::memcpy(DébutsLignes, débuts, sizeof débuts);
     return true;

@@ -70,6 +70,9 @@ struct TPointSegment {
 constexpr int NombreCartes = 1;
 constexpr int MaxSegments = 3920;
 constexpr int MaxLignes = 458;
+// The map picture, in pixels: the raster must give every row of it.
+constexpr int LargeurCarte = 652;
+constexpr int HauteurCarte = 456;
 extern TPointSegment PointsSegments[NombreCartes][MaxSegments];
 extern i16 DébutsLignes[NombreCartes][MaxLignes];
 extern QString CheminFichierZones;
