@@ -26,6 +26,7 @@ i16 Niveau = 0;
 i16 ModeApprentissage = False;
 i16 ScoreGelé = False;
 i16 OrdreEtapes[5] = {0, 1, 2, 3, 4};
+i16 RangEtape = 1;
 i16 NombreCantons = 0;
 i16 RestantsEtape = 0;
 i16 CantonRecherché = 0;
@@ -274,6 +275,7 @@ void LanceNouvellePartie()
         return;
     Principal().HelpContextID = 10;
     MontreNouvellePartie();
+    RangEtape = 1;
     DébutEtape();
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int k = 0; k <= 4; ++k) {
@@ -463,13 +465,14 @@ void QuestionSuivante()
 
 void FinEtape()
 {
-    int pos = 0;
-    for (int i = 1; i <= 4; ++i)
-        if (OrdreEtapes[i] == Etape) {
+    // A set made by hand may name a kind twice: the rank under way, not the first one
+    // that holds the kind, leads on, so that the game still ends.
+    int pos = RangEtape >= 1 && RangEtape <= 4 && OrdreEtapes[RangEtape] == Etape ? RangEtape : 0;
+    for (int i = 1; i <= 4 && pos == 0; ++i)
+        if (OrdreEtapes[i] == Etape)
             pos = i;
-            break;
-        }
     const i16 suivante = (pos == 0 || pos == 4) ? i16(0) : OrdreEtapes[pos + 1];
+    RangEtape = static_cast<i16>(pos + 1);
     const QString annonce = MessageTransition(Etape, suivante);
 
     if (suivante != 0) {

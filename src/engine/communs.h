@@ -36,6 +36,7 @@ extern i16 Niveau;
 extern i16 ModeApprentissage;
 extern i16 ScoreGelé;
 extern i16 OrdreEtapes[5]; // 1..4
+extern i16 RangEtape;      // the rank of OrdreEtapes under way; a saved game takes up the first that fits
 extern i16 NombreCantons;
 extern i16 RestantsEtape;
 extern i16 CantonRecherché;

@@ -153,6 +153,7 @@ bool RestaurePartie(const QByteArray &contenu)
         ChargeScores();
     }
     Etape = étape;
+    RangEtape = 1;
     NomJoueur = nom.left(20);
     Niveau = niveau;
     ModeApprentissage = Booléen(apprentissage != 0);

@@ -17,18 +17,13 @@ i16 NombreScores[5] = {0, 0, 0, 0, 0};
 i16 NiveauAffiché = 0;
 
 namespace {
-// The step order of a file: kinds 1..4, each once, and nothing behind the first 0.
+// A step order may be made by hand: a kind twice, or kinds behind a 0, are the file's
+// to say. Only a kind the game hasn't is refused.
 bool OrdreValable(const i16 ordre[5])
 {
-    bool vus[5] = {};
-    bool fini = false;
-    for (int i = 1; i <= 4; ++i) {
-        const i16 k = ordre[i];
-        if (k < 0 || k > 4 || (fini && k != 0) || (k != 0 && vus[k]))
+    for (int i = 1; i <= 4; ++i)
+        if (ordre[i] < 0 || ordre[i] > 4)
             return false;
-        fini = fini || k == 0;
-        vus[k] = true;
-    }
     return true;
 }
 } // namespace

@@ -81,6 +81,19 @@ TEST_F(Partie, OrderOfTwoStepsEndsWithoutAnnouncementAfterFlags)
         OrdreEtapes[k] = static_cast<i16>(k);
 }
 
+TEST_F(Partie, AKindTwiceInAHandMadeOrderIsPlayedTwiceAndTheGameEnds)
+{
+    OrdreEtapes[1] = OrdreEtapes[2] = 2;
+    OrdreEtapes[3] = OrdreEtapes[4] = 0;
+    NouvellePartieAuNiveau(2);
+    for (int n = 0; n < 52 && Etape == 2; ++n)
+        RépondJuste();
+    EXPECT_EQ(Etape, 0);
+    EXPECT_TRUE(boîtes.ADit(Messages[39]));
+    for (int k = 1; k <= 4; ++k)
+        OrdreEtapes[k] = static_cast<i16>(k);
+}
+
 TEST_F(Partie, TheDrawTakesTheRthCantonLeftAndNeverRepeatsAQuestion)
 {
     TiragesScriptés({0.0f});

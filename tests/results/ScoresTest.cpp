@@ -108,6 +108,14 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
               std::vector<int>({4, 1, 0, True, True, False, 2, 70, 1}));
     EXPECT_EQ(MeilleursScores[1][2].Nom, "Ben");
     EXPECT_EQ(FichierLancement, dossier.filePath("KELMOR.SCS"));
+
+    // Orders made by hand: a kind twice, a kind behind a 0.
+    for (auto [a, b, c] : {std::array{1, 1, 0}, std::array{2, 0, 3}}) {
+        Ecrit(Octets{}.Tête(a, b, c, 0).o);
+        ChargeScores();
+        EXPECT_EQ(std::vector<int>({OrdreEtapes[1], OrdreEtapes[2], OrdreEtapes[3]}), std::vector<int>({a, b, c}));
+    }
+    EXPECT_TRUE(boîtes.journal.empty());
 }
 
 TEST_F(Store, AnotherMinorVersionIsReadAnotherMajorRefused)
@@ -138,7 +146,7 @@ TEST_F(Store, DamagedFilesFallBackToTheDefaultSet)
         onzeLignes.Ligne("X", 100 - i, 1, 1);
     const QByteArray mauvais[] = {
         avec(3, 5), avec(4, 25),               // places, cantons
-        avec(5, 9), avec(6, 1),                // a step kind the game hasn't, the same kind twice
+        avec(5, 9),                            // a step kind the game hasn't
         bon.left(20 * 128),                    // cut inside the set
         bon + Octets{}.Ligne("Y", 1, 1, 7).o,  // a level that doesn't exist
         onzeLignes.o,                          // an eleventh line for one level
