@@ -11,6 +11,7 @@
 #include "services/Sons.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 TLigneScore MeilleursScores[5][11];
 i16 NombreScores[5] = {0, 0, 0, 0, 0};
@@ -110,25 +111,45 @@ bool LitFichierScores()
     return LitFichierEntier(FichierLancement, contenu) && LitScores(contenu);
 }
 
+namespace {
+// A score file of this major number ("Version 6." whatever the minor number and the
+// date) whose content reads whole.
+bool ChargeFichierScores(const QString &chemin)
+{
+    QByteArray contenu;
+    if (!LitFichierEntier(chemin, contenu))
+        return false;
+    LectureEnregistrements f(contenu);
+    QString version;
+    return f.Chaîne(version) && version.left(7) == QLatin1String("Version") && version.size() >= 10 &&
+           version.mid(8, 2) == VersionJeu.mid(8, 2) && LitScores(contenu);
+}
+
+void SignaleFichierScoresAbîmé(const QString &chemin)
+{
+    Boîte(chemin + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
+}
+} // namespace
+
 void ChargeScores()
 {
     RazScores();
+    const QFileInfo abandonné(FichierLancement);
     if (QFile::exists(FichierLancement)) {
-        QByteArray contenu;
-        bool accepté = LitFichierEntier(FichierLancement, contenu);
-        if (accepté) {
-            // Same major number: "Version 6." whatever the minor number and the date.
-            LectureEnregistrements f(contenu);
-            QString version;
-            accepté = f.Chaîne(version) && version.left(7) == QLatin1String("Version") && version.size() >= 10 &&
-                      version.mid(8, 2) == VersionJeu.mid(8, 2);
-        }
-        if (accepté && LitScores(contenu))
+        if (ChargeFichierScores(FichierLancement))
             return;
-        Boîte(FichierLancement + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
+        SignaleFichierScoresAbîmé(FichierLancement);
     }
     FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
     EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), FichierLancement);
+    // The default file keeps its own set and lists: the next best score is added to them
+    // rather than written over them.
+    if (QFileInfo(FichierLancement) != abandonné && QFile::exists(FichierLancement)) {
+        RazScores();
+        if (ChargeFichierScores(FichierLancement))
+            return;
+        SignaleFichierScoresAbîmé(FichierLancement);
+    }
     for (int i = 1; i <= 4; ++i)
         OrdreEtapes[i] = static_cast<i16>(i);
     for (int i = 1; i <= NombrePlaces; ++i)

@@ -151,6 +151,9 @@ TEST_F(Store, DamagedFilesFallBackToTheDefaultSet)
         bon + Octets{}.Ligne("Y", 1, 1, 7).o,  // a level that doesn't exist
         onzeLignes.o,                          // an eleventh line for one level
     };
+    // The default file's lists are taken in place of the bad file's, not written over later.
+    FichierLancement = ComposeChemin(RépertoireSauvegarde, "KELMOR.SCS");
+    Ecrit(Octets{}.Tête(1, 2, 3, 4).Ligne("Def", 77, 7, 3).o);
     for (const QByteArray &o : mauvais) {
         FichierLancement = dossier.filePath("abime.SCS");
         Ecrit(o);
@@ -161,14 +164,14 @@ TEST_F(Store, DamagedFilesFallBackToTheDefaultSet)
         EXPECT_EQ(OrdreEtapes[4], 4);
         for (int i = 1; i <= 26; ++i)
             EXPECT_EQ(Cantons[i].Inhibé, False);
-        for (int n = 1; n <= 4; ++n)
-            EXPECT_LE(NombreScores[n], 10);
+        EXPECT_EQ(NombreScores[3], 1);
     }
     // No file at all: no message, nothing created.
     FichierLancement = dossier.filePath("absent.SCS");
     boîtes.journal.clear();
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
+    EXPECT_EQ(MeilleursScores[3][1].Nom, "Def");
     EXPECT_FALSE(QFile::exists(dossier.filePath("absent.SCS")));
 }
 
