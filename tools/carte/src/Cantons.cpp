@@ -5,6 +5,8 @@
 namespace {
 
 // Chief towns in LV95, from the national map (town centre, to about 200 m).
+// A soft hyphen (U+00AD) in a name marks where the map may hyphenate it when
+// the canton has no room for it on one line.
 const std::array<FicheCanton, NombreCantons> table{{
     {1, 15, "AR", "Appenzell Rhodes Extérieures", "Appenzell Ausserrhoden", 440, 99, 210, 46, 170, 448, 113, {2738600, 1250400}},
     {2, 16, "AI", "Appenzell Rhodes Intérieures", "Appenzell Innerrhoden", 454, 105, 195, 42, 195, 462, 120, {2749000, 1244100}},
@@ -19,7 +21,7 @@ const std::array<FicheCanton, NombreCantons> table{{
     {11, 26, "JU", "Jura", "Jura", 151, 95, 88, 65, 88, 213, 119, {2593400, 1245600}},
     {12, 3, "LU", "Lucerne", "Luzern", 270, 134, 88, 98, 88, 328, 176, {2666200, 1211500}},
     {13, 24, "NE", "Neuchâtel", "Neuenburg", 95, 156, 86, 60, 86, 152, 186, {2561300, 1204700}},
-    {14, 7, "NW", "Nidwald", "Nidwalden", 312, 185, 60, 47, 60, 336, 190, {2670600, 1201300}},
+    {14, 7, "NW", "Nid\u00ADwald", "Nid\u00ADwal\u00ADden", 312, 185, 60, 47, 60, 336, 190, {2670600, 1201300}},
     {15, 6, "OW", "Obwald", "Obwalden", 296, 192, 61, 44, 61, 321, 202, {2661200, 1194300}},
     {16, 17, "SG", "Saint-Gall", "St Gallen", 390, 89, 111, 124, 111, 456, 103, {2746000, 1254300}},
     {17, 14, "SH", "Schaffhouse", "Schaffhausen", 339, 28, 75, 61, 75, 368, 56, {2689600, 1283600}},

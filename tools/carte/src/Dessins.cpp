@@ -43,22 +43,26 @@ Dessinateur::Dessinateur(const Géographie &géographie, const Trame &t) : g(gé
         throw std::runtime_error(std::string("font missing: ") + FichierPolice + " (Debian package fonts-dejavu-core)");
     famille = QFontDatabase::applicationFontFamilies(id).value(0);
 
-    QVector<int> ordre;
+    // The smallest cantons first: they have the least room for a name.
+    QVector<int> ordre, pixels(NombreCantons + 1, 0);
     for (const FicheCanton &c : Cantons())
         ordre << c.numéro;
-    std::stable_sort(ordre.begin(), ordre.end(), [](int a, int b) {
-        return Canton(a).largeur * Canton(a).hauteur < Canton(b).largeur * Canton(b).hauteur;
-    });
+    for (quint8 z : trame.zones)
+        ++pixels[z];
+    std::stable_sort(ordre.begin(), ordre.end(), [&](int a, int b) { return pixels[a] < pixels[b]; });
     for (Langue langue : {Langue::Français, Langue::Allemand}) {
         auto &liste = placements[int(langue)];
         liste.resize(NombreCantons);
-        QVector<double> occupé(LargeurCarte * HauteurCarte, 0.0);
-        auto marque = [&](int n, double signe) {
-            const QRect r = liste[n - 1].bloc.translated(Canton(n).rectPays().topLeft()).adjusted(-2, -2, 2, 2).toAlignedRect()
-                                .intersected(QRect(0, 0, LargeurCarte, HauteurCarte));
-            for (int y = r.top(); y <= r.bottom(); ++y)
-                for (int x = r.left(); x <= r.right(); ++x)
-                    occupé[y * LargeurCarte + x] += signe;
+        // each name placed so far, with a pixel around it that no other name takes
+        QVector<int> occupé(LargeurCarte * HauteurCarte, 0);
+        auto marque = [&](int n, int signe) {
+            for (const QRect &e : liste[n - 1].étendues) {
+                const QRect r = e.translated(Canton(n).rectPays().topLeft()).adjusted(-1, -1, 1, 1)
+                                    .intersected(QRect(0, 0, LargeurCarte, HauteurCarte));
+                for (int y = r.top(); y <= r.bottom(); ++y)
+                    for (int x = r.left(); x <= r.right(); ++x)
+                        occupé[y * LargeurCarte + x] += signe;
+            }
         };
         for (int n : ordre) {
             liste[n - 1] = place(n, langue, occupé);
@@ -79,6 +83,12 @@ Dessinateur::Dessinateur(const Géographie &géographie, const Trame &t) : g(gé
                 break;
         }
     }
+}
+
+QRect RectPoint(int numéro)
+{
+    const FicheCanton &c = Canton(numéro);
+    return QRect(c.villeGauche, c.villeHaut, 7, 8);
 }
 
 const PlacementNom &Dessinateur::placement(int numéro, Langue langue) const
@@ -199,50 +209,63 @@ QImage Dessinateur::inv(int n, int k) const
     return image;
 }
 
-PlacementNom Dessinateur::place(int n, Langue langue, const QVector<double> &occupé) const
+PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occupé) const
 {
     const FicheCanton &c = Canton(n);
     const QString nom = QString::fromUtf8(langue == Langue::Français ? c.nomFr : c.nomDe);
     const QRect r = c.rectPays();
+    const int l = r.width(), h = r.height();
 
     // What each pixel of the picture is worth under the name: its own canton
-    // best, then the land outside, then a neighbour; never a town's dot.
-    const int l = r.width(), h = r.height();
-    QVector<double> valeur(l * h);
+    // best, then the land outside, then a neighbour drawn earlier. Pictures
+    // of higher numbers lie above this one on the map: their tint fades the
+    // name and their border would cut through it.
+    QVector<double> valeur(l * h), bordDessus(l * h, 0.0), dessous(l * h, 0.0), pris(l * h, 0.0), interdit(l * h, 0.0);
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < l; ++x) {
             const int z = trame.sûr(r.left() + x, r.top() + y);
-            // Pictures of higher numbers lie above this one on the map: their
-            // tint and border would cover the name, those below would not.
-            bool bordDessus = false, bordDessous = false;
+            bool bordPlusHaut = false, bordPlusBas = false;
             for (auto [dx, dy] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
                 const int v = trame.sûr(r.left() + x + dx, r.top() + y + dy);
                 if (v == z)
                     continue;
                 for (int w : {v, z})
                     if (w != n && w != 0)
-                        (w > n ? bordDessus : bordDessous) = true;
+                        (w > n ? bordPlusHaut : bordPlusBas) = true;
             }
-            const double fond = z == n ? 3.0 : z == 0 ? 1.5 : z < n ? -1.0 : -4.0;
-            valeur[y * l + x] = fond - (bordDessus ? 5.0 : bordDessous ? 1.5 : 0.0)
-                                - 12.0 * std::min(1.0, occupé.value((r.top() + y) * LargeurCarte + r.left() + x));
+            const int i = y * l + x;
+            valeur[i] = (z == n ? 3.0 : z == 0 ? 1.5 : z < n ? -3.0 : -8.0) - (bordPlusBas && !bordPlusHaut ? 1.5 : 0.0);
+            bordDessus[i] = bordPlusHaut;
+            dessous[i] = z > n;
+            // another name, already placed, with a pixel between them
+            pris[i] = occupé[(r.top() + y) * LargeurCarte + r.left() + x] > 0;
         }
-    // the town dots, which stay clickable: a name never covers one
-    QVector<double> point(l * h, 0.0);
+    // The town dots stay clickable and readable: a pixel clear around each.
+    // A name close beside another canton's town would seem to name it, and
+    // the larger marks of the parameter sets spread a few pixels further.
+    QVector<double> prèsAutreVille(l * h, 0.0);
     for (const FicheCanton &autre : Cantons()) {
-        const QRect p = QRect(autre.villeGauche - 1, autre.villeHaut - 1, 9, 10).translated(-r.topLeft());
-        for (int y = std::max(0, p.top()); y <= std::min(h - 1, p.bottom()); ++y)
-            for (int x = std::max(0, p.left()); x <= std::min(l - 1, p.right()); ++x)
-                point[y * l + x] = 1.0;
+        const QRect p = RectPoint(autre.numéro).translated(-r.topLeft());
+        for (int y = std::max(0, p.top() - 5); y <= std::min(h - 1, p.bottom() + 5); ++y)
+            for (int x = std::max(0, p.left() - 5); x <= std::min(l - 1, p.right() + 5); ++x) {
+                if (p.adjusted(-1, -1, 1, 1).contains(x, y))
+                    interdit[y * l + x] = 1.0;
+                else if (autre.numéro != n)
+                    prèsAutreVille[y * l + x] = 1.0;
+            }
     }
-    QVector<double> sommePoints((l + 1) * (h + 1), 0.0);
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < l; ++x)
-            sommePoints[(y + 1) * (l + 1) + x + 1] = point[y * l + x] + sommePoints[y * (l + 1) + x + 1]
-                                                      + sommePoints[(y + 1) * (l + 1) + x] - sommePoints[y * (l + 1) + x];
-    auto couvrePoint = [&](int x0, int y0, int x1, int y1) {
-        return sommePoints[y1 * (l + 1) + x1] - sommePoints[y0 * (l + 1) + x1] - sommePoints[y1 * (l + 1) + x0]
-                   + sommePoints[y0 * (l + 1) + x0] > 0;
+    // summed-area tables: the total of each over any box
+    auto table = [&](const QVector<double> &v) {
+        QVector<double> t((l + 1) * (h + 1), 0.0);
+        for (int y = 0; y < h; ++y)
+            for (int x = 0; x < l; ++x)
+                t[(y + 1) * (l + 1) + x + 1] = v[y * l + x] + t[y * (l + 1) + x + 1] + t[(y + 1) * (l + 1) + x] - t[y * (l + 1) + x];
+        return t;
+    };
+    const QVector<double> tValeur = table(valeur), tBord = table(bordDessus), tDessous = table(dessous), tPris = table(pris),
+                         tInterdit = table(interdit), tPrès = table(prèsAutreVille);
+    auto total = [&](const QVector<double> &t, int x0, int y0, int x1, int y1) { // [x0, x1) x [y0, y1)
+        return t[y1 * (l + 1) + x1] - t[y0 * (l + 1) + x1] - t[y1 * (l + 1) + x0] + t[y0 * (l + 1) + x0];
     };
     // the canton's middle, where a name reads best when there is room
     QPointF milieu;
@@ -254,64 +277,112 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<double> &occ
                 ++nPixels;
             }
     milieu /= std::max(1, nPixels);
-    // summed-area table for the mean under any box
-    QVector<double> somme((l + 1) * (h + 1), 0.0);
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < l; ++x)
-            somme[(y + 1) * (l + 1) + x + 1] = valeur[y * l + x] + somme[y * (l + 1) + x + 1]
-                                                + somme[(y + 1) * (l + 1) + x] - somme[y * (l + 1) + x];
-    auto moyenne = [&](int x0, int y0, int x1, int y1) { // [x0, x1) x [y0, y1)
-        const double s = somme[y1 * (l + 1) + x1] - somme[y0 * (l + 1) + x1] - somme[y1 * (l + 1) + x0] + somme[y0 * (l + 1) + x0];
-        return s / ((x1 - x0) * (y1 - y0));
-    };
 
-    // Ways to break the name into lines: whole, or after a space or a hyphen.
-    QList<QStringList> coupes{{nom}};
-    QList<int> coupures;
+    // Ways to break the name into lines: whole, or after a space or a hyphen,
+    // or where the table allows a word to be hyphenated (a soft hyphen).
+    const QChar tiretConditionnel(0x00AD);
+    QList<int> coupures; // where a new line may begin
     for (int i = 1; i < nom.size(); ++i)
-        if (nom[i - 1] == ' ' || nom[i - 1] == '-')
+        if (nom[i - 1] == ' ' || nom[i - 1] == '-' || nom[i] == tiretConditionnel)
             coupures << i;
-    for (int a : coupures)
-        coupes << QStringList{nom.left(a).trimmed(), nom.mid(a).trimmed()};
-    for (int a : coupures)
+    auto coupe = [&](const QList<int> &où) {
+        QStringList lignesNom;
+        int début = 0;
+        for (int i : où + QList<int>{int(nom.size())}) {
+            QString li = nom.mid(début, i - début);
+            if (i < nom.size() && nom[i] == tiretConditionnel)
+                li += '-';
+            lignesNom << li.remove(tiretConditionnel).trimmed();
+            début = i;
+        }
+        return lignesNom;
+    };
+    QList<QList<int>> façons{{}};
+    for (int a : coupures) {
+        façons << QList<int>{a};
         for (int b : coupures)
             if (b > a)
-                coupes << QStringList{nom.left(a).trimmed(), nom.mid(a, b - a).trimmed(), nom.mid(b).trimmed()};
-
+                façons << QList<int>{a, b};
+    }
     PlacementNom meilleur;
     meilleur.note = -1e300;
-    const double marge = 1.5; // room for the halo
     // large cantons get a larger type
     const double plusGrande = c.largeur * c.hauteur > 15000 ? 11.0 : 10.0;
     for (double taille : {11.0, 10.0, 9.0, 8.0}) {
         if (taille > plusGrande)
             continue;
         for (int étirement : {100, 92, 85}) {
-            const QFont f = police(taille, étirement);
-            const QFontMetricsF m(f);
-            for (const QStringList &lignes : coupes) {
+            const QFontMetricsF m(police(taille, étirement));
+            for (const QList<int> &où : façons) {
+                const QStringList lignesNom = coupe(où);
+                // a word cut in two reads worse than a name broken where it parts
+                int motsCoupés = 0;
+                for (int i : où)
+                    motsCoupés += nom[i] == tiretConditionnel;
+                PlacementNom essai;
+                essai.lignes = lignesNom;
+                essai.taille = taille;
+                essai.étirement = étirement;
                 double largeur = 0;
-                for (const QString &li : lignes)
+                for (const QString &li : lignesNom)
                     largeur = std::max(largeur, m.horizontalAdvance(li));
                 const double interligne = std::round(taille * 1.05);
-                const double hauteurBloc = (lignes.size() - 1) * interligne + m.ascent() + m.descent() * 0.4;
-                const int bl = int(std::ceil(largeur + 2 * marge)), bh = int(std::ceil(hauteurBloc + 2 * marge));
-                if (bl > l || bh > h)
+                essai.bloc = QRectF(0, 0, largeur, (lignesNom.size() - 1) * interligne + m.ascent() + m.descent() * 0.4);
+                // Where the letters and their halo reach from the box, at
+                // either scale. The box moves by whole pixels, so each line
+                // rounds to the pixel grid alike wherever it goes.
+                QVector<QRect> parLigne; // whole pixels, from the box's top-left
+                QRect union_;
+                for (int i = 0; i < lignesNom.size(); ++i) {
+                    QRectF e;
+                    for (int k : {1, 2}) {
+                        const QRectF f = lignes(essai, k)[i].étendue;
+                        e |= QRectF(f.topLeft() / k, f.size() / k);
+                    }
+                    const QPoint coin(int(std::floor(e.left())), int(std::floor(e.top())));
+                    parLigne << QRect(coin, QPoint(int(std::ceil(e.right())) - 1, int(std::ceil(e.bottom())) - 1));
+                    union_ |= parLigne.last();
+                }
+                if (union_.width() > l || union_.height() > h)
                     continue;
-                for (int y = 0; y + bh <= h; ++y)
-                    for (int x = 0; x + bl <= l; ++x) {
-                        // the box with its halo margin may touch a dot's ring, the letters not
-                        if (couvrePoint(x + 1, y + 1, x + bl - 1, y + bh - 1))
+                int aire = 0, hauteurs = 0;
+                for (const QRect &q : parLigne) {
+                    aire += q.width() * q.height();
+                    hauteurs += q.height();
+                }
+                auto sous = [&](const QVector<double> &t, int bx, int by) {
+                    double s = 0;
+                    for (const QRect &q : parLigne)
+                        s += total(t, bx + q.left(), by + q.top(), bx + q.right() + 1, by + q.bottom() + 1);
+                    return s;
+                };
+                for (int by = -union_.top(); by + union_.bottom() < h; ++by)
+                    for (int bx = -union_.left(); bx + union_.right() < l; ++bx) {
+                        if (sous(tInterdit, bx, by) > 0)
                             continue;
-                        const double note = moyenne(x, y, x + bl, y + bh) + 0.5 * (taille - 9) - 0.3 * (lignes.size() - 1)
+                        // Touching another name is worse than anything else; it
+                        // is only let by when there is no other room, until the
+                        // other name moves on a later round.
+                        const double surAutreNom = sous(tPris, bx, by);
+                        const QPointF centre = QRectF(union_).center() + QPointF(bx, by);
+                        // a border line through the letters costs about as much
+                        // as a fifth of the name over a neighbour drawn later
+                        const double note = sous(tValeur, bx, by) / aire
+                                            - (surAutreNom > 0 ? 100.0 + surAutreNom / aire : 0.0)
+                                            - 1.0 * sous(tBord, bx, by) / hauteurs * lignesNom.size()
+                                            - (sous(tPrès, bx, by) > 0 ? 1.5 : 0.0)
+                                            + 0.5 * (taille - 9) - 0.3 * (lignesNom.size() - 1) - 0.8 * motsCoupés
                                             - 0.03 * (100 - étirement) - (taille < 9 ? 1.5 : 0.0)
-                                            - 0.012 * std::hypot(x + bl / 2.0 - milieu.x(), y + bh / 2.0 - milieu.y());
+                                            - 0.012 * std::hypot(centre.x() - milieu.x(), centre.y() - milieu.y());
                         if (note > meilleur.note) {
+                            meilleur = essai;
                             meilleur.note = note;
-                            meilleur.lignes = lignes;
-                            meilleur.taille = taille;
-                            meilleur.étirement = étirement;
-                            meilleur.bloc = QRectF(x + marge, y + marge, bl - 2 * marge, bh - 2 * marge);
+                            meilleur.bloc.moveTopLeft(QPointF(bx, by));
+                            meilleur.étendues.clear();
+                            for (const QRect &q : parLigne)
+                                meilleur.étendues << q.translated(bx, by);
+                            meilleur.sousAutres = sous(tDessous, bx, by) / aire;
+                            meilleur.pixelsBordDessus = int(sous(tBord, bx, by));
                         }
                     }
             }
@@ -320,6 +391,25 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<double> &occ
     if (meilleur.lignes.isEmpty())
         throw std::runtime_error(std::string("no room for the name of ") + c.sigle);
     return meilleur;
+}
+
+QVector<Dessinateur::Ligne> Dessinateur::lignes(const PlacementNom &pl, int k) const
+{
+    const QFont f = police(pl.taille * k, pl.étirement);
+    const QFontMetricsF m(f);
+    const double interligne = std::round(pl.taille * 1.05) * k;
+    QVector<Ligne> r;
+    for (int i = 0; i < pl.lignes.size(); ++i) {
+        Ligne li;
+        li.texte = pl.lignes[i];
+        // whole pixels, so that every line sits alike on the pixel grid
+        li.origine = QPointF(std::round(pl.bloc.center().x() * k - m.horizontalAdvance(li.texte) / 2),
+                             std::round(pl.bloc.top() * k + m.ascent() + i * interligne));
+        li.contour.addText(li.origine, f, li.texte);
+        li.étendue = li.contour.boundingRect().adjusted(-DemiHalo * k, -DemiHalo * k, DemiHalo * k, DemiHalo * k);
+        r << li;
+    }
+    return r;
 }
 
 QImage Dessinateur::pays(int n, Langue langue, int k) const
@@ -335,33 +425,21 @@ QImage Dessinateur::pays(int n, Langue langue, int k) const
     }
     bordIntérieur(image, forme, 1.3 * k, Couleurs::bordTrouvé);
 
-    const PlacementNom pl = placement(n, langue);
-    const QFont f = police(pl.taille * k, pl.étirement);
-    const QFontMetricsF m(f);
-    const double interligne = std::round(pl.taille * 1.05) * k;
-    QPainterPath texte;
-    for (int i = 0; i < pl.lignes.size(); ++i) {
-        const double largeur = m.horizontalAdvance(pl.lignes[i]);
-        const double x = pl.bloc.center().x() * k - largeur / 2;
-        const double y = pl.bloc.top() * k + m.ascent() + i * interligne;
-        texte.addText(QPointF(std::round(x), std::round(y)), f, pl.lignes[i]);
-    }
+    const PlacementNom &pl = placement(n, langue);
+    const QVector<Ligne> texte = lignes(pl, k);
     // The name with its halo stays whole inside the picture, at every scale.
-    const QRectF étendue = texte.boundingRect().adjusted(-1.3 * k, -1.3 * k, 1.3 * k, 1.3 * k);
-    if (!QRectF(image.rect()).adjusted(-0.5, -0.5, 0.5, 0.5).contains(étendue))
-        throw std::runtime_error(std::string("the name of ") + c.sigle + " spills out of its picture at " + std::to_string(k) + "x");
+    for (const Ligne &li : texte)
+        if (!QRectF(image.rect()).adjusted(-0.5, -0.5, 0.5, 0.5).contains(li.étendue))
+            throw std::runtime_error(std::string("the name of ") + c.sigle + " spills out of its picture at " + std::to_string(k) + "x");
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
-    p.strokePath(texte, QPen(Couleurs::halo, 2.6 * k, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p.setFont(f);
+    for (const Ligne &li : texte)
+        p.strokePath(li.contour, QPen(Couleurs::halo, 2 * DemiHalo * k, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setFont(police(pl.taille * k, pl.étirement));
     p.setPen(Couleurs::texte);
-    for (int i = 0; i < pl.lignes.size(); ++i) {
-        const double largeur = m.horizontalAdvance(pl.lignes[i]);
-        const double x = pl.bloc.center().x() * k - largeur / 2;
-        const double y = pl.bloc.top() * k + m.ascent() + i * interligne;
-        p.drawText(QPointF(std::round(x), std::round(y)), pl.lignes[i]);
-    }
+    for (const Ligne &li : texte)
+        p.drawText(li.origine, li.texte);
     return image;
 }
 

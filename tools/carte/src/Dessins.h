@@ -18,9 +18,15 @@ struct PlacementNom {
     QStringList lignes;
     double taille = 0;   // font pixel size
     int étirement = 100; // horizontal stretch, percent
-    QRectF bloc;         // the lines' box
+    QRectF bloc;         // the lines' box: their advances, from the first ascent
+    QVector<QRect> étendues; // what each line's letters and halo may cover, at 1x or 2x
     double note = 0;
+    double sousAutres = 0;    // share of it under the shape of a canton drawn later
+    int pixelsBordDessus = 0; // pixels of it on a border of a canton drawn later
 };
+
+// The chief-town dot as the game lays it, 7 x 8, on the map.
+QRect RectPoint(int numéro);
 
 class Dessinateur {
 public:
@@ -35,10 +41,19 @@ public:
     // tightest pictures first, each name kept clear of those placed before.
     const PlacementNom &placement(int numéro, Langue langue) const;
     QFont police(double taillePixels, int étirement) const;
+    // Each line of the name as drawn at scale k, in picture pixels at that
+    // scale, with where its letters and halo reach.
+    struct Ligne {
+        QString texte;
+        QPointF origine; // baseline start
+        QPainterPath contour;
+        QRectF étendue;
+    };
+    QVector<Ligne> lignes(const PlacementNom &placement, int échelle) const;
 
 private:
     QPainterPath chemin(const Polygone &p, double échelle, QPointF décalage = {}) const;
-    PlacementNom place(int numéro, Langue langue, const QVector<double> &occupé) const;
+    PlacementNom place(int numéro, Langue langue, const QVector<int> &occupé) const;
     void bordIntérieur(QImage &image, const QPainterPath &forme, double largeur, QColor couleur) const;
 
     const Géographie &g;
@@ -55,3 +70,6 @@ inline const QColor teinteTrouvé(255, 214, 92, 84);
 inline const QColor texte(34, 30, 34);
 inline const QColor halo(255, 255, 255, 225);
 } // namespace Couleurs
+
+// The halo's reach beyond the letters, in 1x pixels.
+constexpr double DemiHalo = 1.3;

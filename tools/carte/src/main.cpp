@@ -160,6 +160,32 @@ Trame FaisTrame(const Géographie &g, QStringList &échecs)
     return t;
 }
 
+// Every name, as drawn at 1x and at 2x with its halo, keeps clear of the
+// other names of its language and of every town dot.
+void VérifieNoms(const Dessinateur &d, QStringList &échecs)
+{
+    for (Langue langue : {Langue::Français, Langue::Allemand})
+        for (int k : {1, 2}) {
+            const QString où = QString("(%1, %2x)").arg(langue == Langue::Français ? "fr" : "de").arg(k);
+            // each line's reach on the map, in 1x pixels
+            QVector<QVector<QRectF>> étendues(NombreCantons + 1);
+            for (const FicheCanton &c : Cantons())
+                for (const Dessinateur::Ligne &li : d.lignes(d.placement(c.numéro, langue), k))
+                    étendues[c.numéro] << QRectF(li.étendue.topLeft() / k, li.étendue.size() / k).translated(c.paysGauche, c.paysHaut);
+            for (int a = 1; a <= NombreCantons; ++a) {
+                for (const QRectF &e : étendues[a]) {
+                    for (int b = a + 1; b <= NombreCantons; ++b)
+                        for (const QRectF &f : étendues[b])
+                            if (e.intersects(f))
+                                échecs << QString("the names of %1 and %2 overlap %3").arg(Canton(a).sigle).arg(Canton(b).sigle).arg(où);
+                    for (const FicheCanton &c : Cantons())
+                        if (e.intersects(QRectF(RectPoint(c.numéro))))
+                            échecs << QString("the name of %1 touches the dot of %2 %3").arg(Canton(a).sigle).arg(c.sigle).arg(où);
+                }
+            }
+        }
+}
+
 void Écris(const QString &chemin, const QByteArray &contenu)
 {
     QSaveFile f(chemin);
@@ -180,11 +206,20 @@ QImage Aperçu(const QImage &carte, const QVector<QImage> &calques, int k, bool 
         p.drawImage(QPoint(c.paysGauche, c.paysHaut) * k, calques[i]);
     }
     if (points) {
+        // the game's dot: a red octagon ringed in black, 7 x 8
         p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(Qt::NoPen);
+        const QPolygonF anneau{{2, 0}, {5, 0}, {7, 2}, {7, 6}, {5, 8}, {2, 8}, {0, 6}, {0, 2}};
+        const QPolygonF dedans{{2.5, 1}, {4.5, 1}, {6, 2.5}, {6, 5.5}, {4.5, 7}, {2.5, 7}, {1, 5.5}, {1, 2.5}};
         for (const FicheCanton &c : Cantons()) {
-            p.setPen(QPen(Qt::white, 1.0 * k));
-            p.setBrush(QColor(20, 20, 20));
-            p.drawEllipse(QRectF((c.villeGauche + 0.5) * k, (c.villeHaut + 0.5) * k, 6.0 * k, 7.0 * k));
+            p.save();
+            p.translate(QPointF(c.villeGauche, c.villeHaut) * k);
+            p.scale(k, k);
+            p.setBrush(Qt::black);
+            p.drawPolygon(anneau);
+            p.setBrush(QColor(255, 0, 0));
+            p.drawPolygon(dedans);
+            p.restore();
         }
     }
     p.end();
@@ -192,10 +227,9 @@ QImage Aperçu(const QImage &carte, const QVector<QImage> &calques, int k, bool 
 }
 
 // Draws and writes every picture; returns the bytes written.
-qint64 FaisImages(const Géographie &g, const Trame &t, const QString &dossier, const QString &aperçu)
+qint64 FaisImages(const Géographie &g, const Dessinateur &d, const QString &dossier, const QString &aperçu)
 {
     QDir().mkpath(dossier);
-    const Dessinateur d(g, t);
     const Relief relief(g.projection);
     qint64 total = 0;
     QVector<QImage> cartes(3);
@@ -242,9 +276,11 @@ qint64 FaisImages(const Géographie &g, const Trame &t, const QString &dossier, 
     for (const FicheCanton &c : Cantons())
         for (Langue l : {Langue::Français, Langue::Allemand}) {
             const PlacementNom pl = d.placement(c.numéro, l);
-            Dit(QString("  name of %1 (%2): %3 px%4, %5 line(s)").arg(c.sigle).arg(l == Langue::Français ? "fr" : "de")
+            Dit(QString("  name of %1 (%2): %3 px%4, %5 line(s)%6%7").arg(c.sigle).arg(l == Langue::Français ? "fr" : "de")
                     .arg(pl.taille).arg(pl.étirement != 100 ? QString(" at %1 %").arg(pl.étirement) : QString())
-                    .arg(pl.lignes.size()));
+                    .arg(pl.lignes.size())
+                    .arg(pl.sousAutres > 0 ? QString(", %1 % under a later canton").arg(100 * pl.sousAutres, 0, 'f', 0) : QString())
+                    .arg(pl.pixelsBordDessus > 0 ? QString(", %1 px of its border").arg(pl.pixelsBordDessus) : QString()));
         }
     if (!aperçu.isEmpty()) {
         QDir().mkpath(aperçu);
@@ -348,6 +384,8 @@ int main(int argc, char **argv)
             échecs << "KELMOR.pts read back differs from the raster";
         if (pts.size() != 4 * (1 + HauteurCarte + 1 + CompteRuns(t)))
             échecs << "KELMOR.pts has the wrong size";
+        const Dessinateur d(g, t);
+        VérifieNoms(d, échecs);
         if (!échecs.isEmpty()) {
             for (const QString &e : échecs)
                 std::fprintf(stderr, "FAILED: %s\n", qPrintable(e));
@@ -357,7 +395,7 @@ int main(int argc, char **argv)
         Écris(p.value("sortie") + "/KELMOR.pts", pts);
         Dit(QString("Wrote KELMOR.pts: %1 runs, %2 bytes").arg(CompteRuns(t)).arg(pts.size()));
         Dit("Pictures:");
-        const qint64 octets = FaisImages(g, t, p.value("sortie") + "/images", p.value("apercu"));
+        const qint64 octets = FaisImages(g, d, p.value("sortie") + "/images", p.value("apercu"));
         Dit(QString("Wrote %1 kB of pictures").arg(octets / 1024));
     } catch (const std::exception &e) {
         std::fprintf(stderr, "FAILED: %s\n", e.what());
