@@ -69,23 +69,30 @@ void EcritureEnregistrements::Paire(i16 a, i16 b)
     PoseEntier(p + 2, b);
 }
 
-LectureEnregistrements::LectureEnregistrements(QByteArray contenu) : octets(std::move(contenu))
+LectureEnregistrements::LectureEnregistrements(QByteArray contenu) : octets(std::move(contenu)), taille(octets.size())
 {
-    // A record cut by the end of the file reads as if filled with zeros.
+    // The last record may stop behind its value, where its filler would begin; a value
+    // that the end of the file cuts is a damaged file.
     nombre = int((octets.size() + TailleEnregistrement - 1) / TailleEnregistrement);
     octets.append(qsizetype(nombre) * TailleEnregistrement - octets.size(), '\0');
 }
 
-const unsigned char *LectureEnregistrements::Prochain()
+bool LectureEnregistrements::Présents(const unsigned char *p, int utiles) const
+{
+    return p - reinterpret_cast<const unsigned char *>(octets.constData()) + utiles <= taille;
+}
+
+const unsigned char *LectureEnregistrements::Prochain(int utiles)
 {
     if (suivant >= nombre)
         return nullptr;
-    return reinterpret_cast<const unsigned char *>(octets.constData()) + qsizetype(suivant++) * TailleEnregistrement;
+    const auto *p = reinterpret_cast<const unsigned char *>(octets.constData()) + qsizetype(suivant++) * TailleEnregistrement;
+    return Présents(p, utiles) ? p : nullptr;
 }
 
 bool LectureEnregistrements::Entier(i16 &v)
 {
-    const unsigned char *p = Prochain();
+    const unsigned char *p = Prochain(2);
     if (!p)
         return false;
     v = PrendEntier(p);
@@ -94,7 +101,7 @@ bool LectureEnregistrements::Entier(i16 &v)
 
 bool LectureEnregistrements::Paire(i16 &a, i16 &b)
 {
-    const unsigned char *p = Prochain();
+    const unsigned char *p = Prochain(4);
     if (!p)
         return false;
     a = PrendEntier(p);
@@ -104,7 +111,7 @@ bool LectureEnregistrements::Paire(i16 &a, i16 &b)
 
 bool LectureEnregistrements::Long(i32 &v)
 {
-    const unsigned char *p = Prochain();
+    const unsigned char *p = Prochain(4);
     if (!p)
         return false;
     v = PrendLong(p);
@@ -113,11 +120,11 @@ bool LectureEnregistrements::Long(i32 &v)
 
 bool LectureEnregistrements::Chaîne(QString &texte)
 {
-    const unsigned char *p = Prochain();
+    const unsigned char *p = Prochain(2);
     if (!p)
         return false;
     const int l = std::uint16_t(p[0] | (p[1] << 8));
-    if (l > LongueurChaîneMax)
+    if (l > LongueurChaîneMax || !Présents(p, 2 + l))
         return false;
     texte = DepuisAnsi(reinterpret_cast<const char *>(p + 2), l);
     return true;
@@ -125,11 +132,11 @@ bool LectureEnregistrements::Chaîne(QString &texte)
 
 bool LectureEnregistrements::LigneScore(TLigneScore &ligne, i16 &niveau)
 {
-    const unsigned char *p = Prochain();
+    const unsigned char *p = Prochain(2);
     if (!p)
         return false;
     const int l = std::uint16_t(p[0] | (p[1] << 8));
-    if (2 + l + 10 > TailleEnregistrement)
+    if (2 + l + 10 > TailleEnregistrement || !Présents(p, 2 + l + 10))
         return false;
     ligne.Nom = DepuisAnsi(reinterpret_cast<const char *>(p + 2), l);
     const unsigned char *q = p + 2 + l;

@@ -40,8 +40,11 @@ public:
     bool Paire(i16 &a, i16 &b);
 
 private:
-    const unsigned char *Prochain();
+    // The next record, when its first `utiles` bytes are in the file.
+    const unsigned char *Prochain(int utiles);
+    bool Présents(const unsigned char *p, int utiles) const;
     QByteArray octets;
+    qsizetype taille = 0;
     int nombre = 0;
     int suivant = 0;
 };

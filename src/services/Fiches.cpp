@@ -15,26 +15,49 @@ i16 FicheEditée = 1;
 QString TexteLu;
 QString FichierFichesOuvert;
 
-bool LitFicheInfo(const QString &chemin, int numéro, TFiche &fiche)
+namespace {
+enum class Lecture { Lue, Absente, Abîmée };
+
+// A file or a record that isn't there is no fault: the card is empty. A record whose
+// lengths run past its 650 bytes, or past the end of the file, is damaged.
+Lecture LitFiche(const QString &chemin, int numéro, TFiche &fiche)
 {
     if (numéro < 1)
-        return false;
+        return Lecture::Absente;
     QFile f(chemin);
     if (!f.open(QIODevice::ReadOnly) || !f.seek(qint64(numéro - 1) * TailleFiche))
-        return false;
+        return Lecture::Absente;
     const QByteArray r = f.read(TailleFiche);
-    if (r.size() < 4)
-        return false;
+    if (r.isEmpty())
+        return Lecture::Absente;
     auto longueur = [&r](int i) { return int(quint8(r[i]) | quint8(r[i + 1]) << 8); };
+    if (r.size() < 4)
+        return Lecture::Abîmée;
     const int n1 = longueur(0);
     if (4 + n1 > r.size())
-        return false;
+        return Lecture::Abîmée;
     const int n2 = longueur(2 + n1);
     if (4 + n1 + n2 > r.size())
-        return false;
+        return Lecture::Abîmée;
     fiche.Nom = DepuisAnsi(r.constData() + 2, n1);
     fiche.Texte = DepuisAnsi(r.constData() + 4 + n1, n2);
-    return true;
+    return Lecture::Lue;
+}
+} // namespace
+
+bool LitFicheInfo(const QString &chemin, int numéro, TFiche &fiche)
+{
+    return LitFiche(chemin, numéro, fiche) == Lecture::Lue;
+}
+
+TFiche FicheMontrée(const QString &chemin, int numéro)
+{
+    TFiche fiche;
+    if (LitFiche(chemin, numéro, fiche) == Lecture::Abîmée) {
+        Boîte(chemin + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
+        fiche = TFiche{};
+    }
+    return fiche;
 }
 
 QByteArray OctetsFiche(const TFiche &fiche)
@@ -53,10 +76,7 @@ QByteArray OctetsFiche(const TFiche &fiche)
 
 TFiche LireFiche(int numéro)
 {
-    // Past the end of the file, or in a damaged record, the card is simply empty.
-    TFiche fiche;
-    if (!LitFicheInfo(FichierFichesOuvert, numéro, fiche))
-        fiche = TFiche{};
+    const TFiche fiche = FicheMontrée(FichierFichesOuvert, numéro);
     TexteLu = fiche.Texte;
     return fiche;
 }

@@ -19,6 +19,10 @@ constexpr int NombreFiches = 26;
 // record can't be read, or the record's lengths run past its 650 bytes.
 bool LitFicheInfo(const QString &chemin, int numéro, TFiche &fiche);
 
+// Record numéro as a card shows it: empty past the end of the file or without a file;
+// a damaged record is told to the player as a file that can't be read, and shows empty.
+TFiche FicheMontrée(const QString &chemin, int numéro);
+
 // The 650 bytes of a record, zero-filled behind its text; empty when name and text
 // with their two lengths run past 650 bytes.
 QByteArray OctetsFiche(const TFiche &fiche);
@@ -30,8 +34,7 @@ extern QString TexteLu;
 // The information file that Edition works on, from its load to its closing.
 extern QString FichierFichesOuvert;
 
-// Record numéro of the open file; a record that can't be read gives two empty
-// strings. Its text becomes TexteLu.
+// Record numéro of the open file, as FicheMontrée gives it. Its text becomes TexteLu.
 TFiche LireFiche(int numéro);
 // Writes the record in place in the open file, the file rewritten whole; a file that
 // is too short grows by empty records. A record that doesn't fit, or any failure

@@ -141,11 +141,10 @@ Pompe::Pompe() : QDialog(FormePrincipale())
     TXTInfos->setTop(LBLCapitale->Top() + LBLCapitale->Height() + 5);
     TXTInfos->setHeight(qMax(0, BTNOK->Top() - TXTInfos->Top() - 5));
 
-    // The name on the card comes from the game; the file gives the text alone. A file
-    // that is missing or damaged gives an empty card.
+    // The name on the card comes from the game; the file gives the text alone.
     TFiche fiche;
     if (Langue >= 1 && Langue < int(CheminsInfo.size()))
-        LitFicheInfo(CheminsInfo[Langue], i, fiche);
+        fiche = FicheMontrée(CheminsInfo[Langue], i);
     TXTInfos->setText(fiche.Texte);
     BTNOK->setFocus();
 }

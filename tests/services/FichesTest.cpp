@@ -146,7 +146,7 @@ TEST(PlaceFiche, TheWholeCardFrameIncludedStaysInTheWorkArea)
     }
 }
 
-TEST_F(Fiches, AMissingOrDamagedFileGivesAnEmptyCardAndNothingElse)
+TEST_F(Fiches, AMissingOrDamagedFileGivesAnEmptyCardAndADamagedRecordIsTold)
 {
     QByteArray abîmé = FichierType();
     abîmé[2 * 650 + 7] = char(0xFF); // record 3's text runs past its 650 bytes
@@ -165,7 +165,9 @@ TEST_F(Fiches, AMissingOrDamagedFileGivesAnEmptyCardAndNothingElse)
             EXPECT_TRUE(p.TXTInfos->Text().isEmpty()) << cas;
             EXPECT_FALSE(p.LBLPays->text().isEmpty()) << cas;
         });
-        EXPECT_TRUE(boîtes.journal.empty()) << cas;
+        const bool abîmé = cas == std::string("damaged record");
+        EXPECT_EQ(boîtes.ADit(CheminsInfo[1] + " : " + Messages[27]), abîmé) << cas;
+        EXPECT_EQ(boîtes.journal.size(), abîmé ? 1u : 0u) << cas;
         EXPECT_EQ(QFile::exists(CheminsInfo[1]), !contenu.isEmpty()) << cas << ": a card doesn't make the file";
     }
 }
