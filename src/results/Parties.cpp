@@ -1,5 +1,6 @@
 #include "results/Parties.h"
 
+#include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "results/FichierEnregistrements.h"
 #include "results/Scores.h"
@@ -9,10 +10,30 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 const QString ParamétrageNonSauvé = QStringLiteral("~tmp.~cf");
+
+// A String that its record gives back exactly: Windows-1252 and short enough.
+bool RelitTelQuel(const QString &texte)
+{
+    const QByteArray octets = VersAnsi(texte);
+    return octets.size() <= LongueurChaîneMax && DepuisAnsi(octets) == texte;
+}
+} // namespace
+
+QString FichierLancementNoté(const QString &dossierPartie)
+{
+    if (FichierLancement == ParamétrageNonSauvé)
+        return FichierLancement;
+    const QString complet = QDir::current().absoluteFilePath(FichierLancement);
+    if (RelitTelQuel(complet))
+        return complet;
+    const QString relatif = QDir(dossierPartie).relativeFilePath(complet);
+    return RelitTelQuel(relatif) ? relatif : QString();
 }
 
 bool PartieEnCours() { return !PartieVierge && !PartieEnregistrée && Etape != 6; }
@@ -38,12 +59,12 @@ void EnregistrePartie()
     MontreSélectionPartie();
 }
 
-QByteArray ContenuPartie()
+QByteArray ContenuPartie(const QString &FichierNoté)
 {
     EcritureEnregistrements f;
     f.Chaîne(VersionJeu);
     f.Entier(Langue);
-    f.Chaîne(FichierLancement);
+    f.Chaîne(FichierNoté);
     if (FichierLancement == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
             f.Entier(OrdreEtapes[i]);
@@ -77,14 +98,20 @@ bool EcritPartie(const QString &Chemin)
         Boîte(Messages[119], StyleInformation, Messages[46]);
         return false;
     }
-    if (!EcritFichierEntier(Chemin, ContenuPartie())) {
+    // A score file that the game couldn't find again on resuming would leave its lists behind.
+    const QString noté = FichierLancementNoté(dossier);
+    if (noté.isEmpty()) {
+        Boîte(Messages[MessagePartieNonNotable] + FichierLancement, StyleInformation, Messages[46]);
+        return false;
+    }
+    if (!EcritFichierEntier(Chemin, ContenuPartie(noté))) {
         Boîte(Messages[134] + QStringLiteral(" ") + Chemin, StyleInformation, Messages[46]);
         return false;
     }
     return true;
 }
 
-bool RestaurePartie(const QByteArray &contenu)
+bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
 {
     // Everything is read aside first: a file cut short or out of range changes nothing.
     LectureEnregistrements f(contenu);
@@ -141,6 +168,9 @@ bool RestaurePartie(const QByteArray &contenu)
     // The file is sound: the game takes its state from it.
     RazScores();
     Langue = langue >= 1 && langue <= NombreLangues ? langue : Langue;
+    // A path noted from the saved game's folder is taken from there; older files hold full paths.
+    if (fichier != ParamétrageNonSauvé && QDir::isRelativePath(fichier) && !dossierPartie.isEmpty())
+        fichier = QDir::cleanPath(QDir(dossierPartie).absoluteFilePath(fichier));
     FichierLancement = fichier;
     if (fichier == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
@@ -189,7 +219,7 @@ bool LitPartie(const QString &Chemin)
         Boîte(Messages[104] + Messages[0] + Messages[105], StyleCritique, Messages[19]);
         return false;
     }
-    return RestaurePartie(contenu);
+    return RestaurePartie(contenu, QFileInfo(Chemin).absolutePath());
 }
 
 void FichierLire_Click()

@@ -2,6 +2,7 @@
 // Saved games: a game put aside in a .CAS file, taken up once; and the question
 // asked before a game under way is left.
 #include "engine/communs.h"
+#include "services/Parametres.h"
 
 #include <QByteArray>
 
@@ -14,7 +15,11 @@ QString RépertoireDe(const QString &Chemin);
 // A game counts as under way once clicked, until its result is dealt with.
 bool PartieEnCours();
 
-// The bytes of a .CAS file for the game in memory.
-QByteArray ContenuPartie();
-// Restores the game from a .CAS file's bytes; false, with nothing changed, on any fault.
-bool RestaurePartie(const QByteArray &contenu);
+// The score file's path as a saved game in dossierPartie notes it so as to give it back
+// exactly: full, or else from that folder; empty when neither fits a record unchanged.
+QString FichierLancementNoté(const QString &dossierPartie);
+// The bytes of a .CAS file for the game in memory, with the score file noted as given.
+QByteArray ContenuPartie(const QString &FichierNoté = FichierLancement);
+// Restores the game from a .CAS file's bytes, a score file's path noted from the saved
+// game's folder taken from dossierPartie; false, with nothing changed, on any fault.
+bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie = QString());

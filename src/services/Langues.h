@@ -7,6 +7,8 @@ extern std::vector<QString> Messages;      // index i is the message of French i
 extern short NombreMessages;
 // The program's own messages follow the table's 170, under the same rule of ids.
 constexpr int MessageStatsNonEcrites = 170; // why KELM_STA.TXT couldn't be written
+constexpr int MessagePartieNonNotable = 171;  // a saved game couldn't give back its score file's path
+constexpr int MessageRéglagesIllisibles = 172; // the settings file couldn't be read whole
 extern unsigned char NombreLangues;
 extern short Langue;                       // 1 French, 2 German
 extern std::vector<QString> NomsFichiersAide;

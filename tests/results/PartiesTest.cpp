@@ -98,6 +98,36 @@ TEST_F(Sauvegarde, WrittenRecordByRecord)
     }
 }
 
+TEST_F(Sauvegarde, TheScoreFileComesBackExactlyOrTheGameIsNotSaved)
+{
+    // A folder outside Windows-1252, one too long for a record: noted from the saved game's folder.
+    const QString loin = QString::fromUtf8("Łukasz"), long_ = QString(130, 'a');
+    struct Cas {
+        QString scores, partie;
+        bool enregistrée;
+    };
+    PartieEntamée();
+    for (const Cas &c : {Cas{loin, loin, true}, Cas{long_, long_, true}, Cas{loin, ".", false}, Cas{long_, ".", false}}) {
+        QDir(dossier.path()).mkdir(c.scores);
+        FichierLancement = dossier.filePath(c.scores + "/KELMOR.SCS");
+        NombreScores[2] = 1;
+        MeilleursScores[2][1] = {"Ola", 5, 5};
+        ASSERT_TRUE(EcritFichierScores(true));
+        const QString chemin = dossier.filePath(c.partie + "/p.CAS"), avant = FichierLancement;
+        boîtes.journal.clear();
+        EXPECT_EQ(EcritPartie(chemin), c.enregistrée);
+        EXPECT_EQ(QFile::exists(chemin), c.enregistrée);
+        EXPECT_EQ(boîtes.ADit(Messages[MessagePartieNonNotable] + avant), !c.enregistrée);
+        RazScores();
+        if (!c.enregistrée)
+            continue;
+        ASSERT_TRUE(LitPartie(chemin));
+        EXPECT_EQ(FichierLancement, avant);
+        EXPECT_EQ(MeilleursScores[2][1].Nom, "Ola");
+        QFile::remove(chemin);
+    }
+}
+
 TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
 {
     NouvellePartieAuNiveau(2);

@@ -17,20 +17,20 @@ TEST(TableChaines, EveryMessageOfBothLanguagesIsThereAndNothingAroundThem)
     // Rows made of blanks only: empty column heads in the statistics.
     const QSet<int> blanches{1164, 1167, 1414, 1416, 1417};
     for (int premier : {1000, 1250})
-        for (int id = premier; id <= premier + 170; ++id) {
+        for (int id = premier; id <= premier + 172; ++id) {
             ASSERT_TRUE(ChaîneExiste(id)) << id;
             EXPECT_EQ(T(id).trimmed().isEmpty(), blanches.contains(id)) << id;
         }
     for (int id : blanches)
         EXPECT_EQ(T(id), "  ") << id;
-    for (int id : {0, 999, 1171, 1249, 1421, 2000, 2027, 4027, 6025})
+    for (int id : {0, 999, 1173, 1249, 1423, 2000, 2027, 4027, 6025})
         EXPECT_TRUE(!ChaîneExiste(id) && T(id).isEmpty()) << id;
 }
 
 TEST(TableChaines, RowsReadByIdAreExactAndSomeGermanRowsReadLikeTheFrench)
 {
     const std::pair<int, const char *> lignes[] = {
-        {1, "170"}, {2, "2"}, {11, "KELMOR.HLP"}, {12, "DRAVELN.HLP"}, {21, "KELMOR.INF"}, {22, "DRAVELN.INF"}, {6000, "12"},
+        {1, "172"}, {2, "2"}, {11, "KELMOR.HLP"}, {12, "DRAVELN.HLP"}, {21, "KELMOR.INF"}, {22, "DRAVELN.INF"}, {6000, "12"},
         {1000, "Version 6.07 du 30/07/2008"}, {1250, "Version 6.07 vom 04/01/2008"},
         {1027, "Le fichier sélectionné n'est pas interprétable !"},
         {1132, "Le fichier PTS est absent du répertoire de l'application ; il est impossible de jouer avec cette version du jeu !"},
