@@ -80,6 +80,15 @@ void RappelSiLeTempsEstVenu()
     EcritValeur(CléFamille, Date, TexteMaintenant());
 }
 
+// The language is among what couldn't be read: the messages in use if there are any, else the French.
+void SignaleRéglagesIllisibles()
+{
+    const QString texte = int(Messages.size()) > MessageRéglagesIllisibles
+                              ? Messages[MessageRéglagesIllisibles]
+                              : ChaîneTable(1000 + MessageRéglagesIllisibles);
+    Boîte(texte + QDir::toNativeSeparators(FichierRegistre()), StyleCritique, QStringLiteral("Les cantons kelmors"));
+}
+
 void MessageCléImpossible()
 {
     // The messages aren't loaded yet: this one is in the default language.
@@ -144,6 +153,12 @@ void LitParamètres()
 {
     ParamètresLus = true;
     VersionJeu = ChaîneTable(1000);
+    NettoieRegistre();
+    if (!RegistreLisible()) {
+        ParamètresLus = false;
+        SignaleRéglagesIllisibles();
+        return;
+    }
     ChargeListeJeux();
 
     QString version;

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QStringList>
 
@@ -16,7 +17,8 @@ namespace {
 
 constexpr int PiècesMax = 32;
 constexpr int LongueurMaxNomClé = 255;
-// A settings file has a few hundred bytes; past this size it is damaged, and only its head is read.
+// A settings file has a few hundred bytes; past this size it is damaged, and it is
+// neither read nor written over.
 constexpr qint64 TailleMaxFichier = 16 * 1024 * 1024;
 
 struct Racine {
@@ -285,6 +287,8 @@ public:
         return ajouté;
     }
 
+    bool Illisible() const { return illisible; }
+
     // Runs a change and writes the file; on a failed write the keys go back to what the file holds.
     template <typename F>
     bool Modifie(F &&changement)
@@ -346,11 +350,16 @@ private:
         if (!s.existe)
             return;
         QFile f(Fichier());
-        if (!f.open(QIODevice::ReadOnly)) {
+        if (!f.open(QIODevice::ReadOnly) || f.size() > TailleMaxFichier) {
             illisible = true;
             return;
         }
-        QString texte = QString::fromUtf8(f.read(TailleMaxFichier));
+        const QByteArray octets = f.readAll();
+        if (octets.size() != f.size()) {
+            illisible = true;
+            return;
+        }
+        QString texte = QString::fromUtf8(octets);
         if (texte.startsWith(QChar(0xFEFF)))
             texte.remove(0, 1);
         Clé *courante = nullptr;
@@ -532,5 +541,25 @@ i32 EnumèreSousClés(i32 clé, i32 index, QString &nom)
 }
 
 void InstalleFichierRegistre(const QString &chemin) { Store().ChangeFichier(chemin); }
+
+bool RegistreLisible()
+{
+    Magasin &m = Store();
+    m.Synchronise();
+    return !m.Illisible();
+}
+
+void NettoieRegistre()
+{
+    // A run stopped between the link of its temporary file and its rename leaves a
+    // whole copy under the name "registre.ini.XXXXXX"; only those are taken away.
+    const QFileInfo fichier(Store().Fichier());
+    const QRegularExpression temporaire(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(fichier.fileName()) + QStringLiteral("\\.[A-Za-z0-9]{6}")));
+    QDir dossier = fichier.absoluteDir();
+    for (const QString &nom : dossier.entryList(QDir::Files | QDir::Hidden))
+        if (temporaire.match(nom).hasMatch())
+            dossier.remove(nom);
+}
 
 QString FichierRegistre() { return Store().Fichier(); }

@@ -55,3 +55,8 @@ i32 EnumèreSousClés(i32 clé, i32 index, QString &nom);
 // (…/kelmor/registre.ini in the configuration folder). Open handles are dropped.
 void InstalleFichierRegistre(const QString &chemin);
 QString FichierRegistre();
+// False when the file behind the store is there but couldn't be read whole (too large,
+// or refused): nothing is then written over it.
+bool RegistreLisible();
+// Takes away, beside the store's file, the temporary copies that an interrupted write left.
+void NettoieRegistre();

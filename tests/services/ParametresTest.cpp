@@ -15,6 +15,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPushButton>
 #include <optional>
 
@@ -258,19 +259,41 @@ TEST_F(Paramètres, InstalledGamesAreTheFamilysOtherKeysOneLevelDown)
     EXPECT_EQ(installés, QStringList({"Arvenne=5.12", "Brisolie=0.00", "Kelmor=6.07"}));
 }
 
-TEST_F(Paramètres, AStoreThatCantBeCreatedEndsTheStartInOrder)
+TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLeftAsItIs)
 {
+    InstallationExistante();
+    const QByteArray gros = ";" + QByteArray(17 << 20, 'x') + "\n" + Contenu(); // the settings behind 17 MiB
+    {
+        QFile f(fichier);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(gros);
+    }
     ASSERT_TRUE(QFile(dossier.filePath(QStringLiteral("plain"))).open(QIODevice::WriteOnly));
-    InstalleFichierRegistre(dossier.filePath(QStringLiteral("plain/registre.ini")));
     InstalleDossierProgramme(programme);
     ASSERT_TRUE(QFile::copy(QStringLiteral(DOSSIER_DONNEES "/KELMOR.pts"), programme + "/KELMOR.pts"));
-    EXPECT_FALSE(Main());
-    EXPECT_FALSE(ParamètresLus);
-    EXPECT_EQ(FormePrincipale(), nullptr);
-    ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(boîtes.journal[0].style, StyleCritique);
-    EXPECT_TRUE(boîtes.journal[0].texte.contains(dossier.filePath(QStringLiteral("plain/registre.ini"))));
-    EXPECT_EQ(QDir::currentPath(), dossierCourant);
+    for (const auto &[magasin, message] : {std::pair{dossier.filePath(QStringLiteral("plain/registre.ini")),
+                                                     S("Les paramètres du jeu ne peuvent pas")},
+                                           {fichier, ChaîneTable(1000 + MessageRéglagesIllisibles)}}) {
+        InstalleFichierRegistre(magasin);
+        boîtes.journal.clear();
+        EXPECT_FALSE(Main());
+        EXPECT_FALSE(ParamètresLus);
+        EXPECT_EQ(FormePrincipale(), nullptr);
+        ASSERT_EQ(boîtes.journal.size(), 1u);
+        EXPECT_EQ(boîtes.journal[0].style, StyleCritique);
+        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(message) && boîtes.journal[0].texte.contains(magasin));
+        EXPECT_EQ(QDir::currentPath(), dossierCourant);
+    }
+    EXPECT_TRUE(Contenu() == gros);
+}
+
+TEST_F(Paramètres, CopiesLeftByAnInterruptedWriteAreTakenAwayAtTheStart)
+{
+    for (const char *fin : {".Ab12Cd", ".bak", ".Ab12Cde"})
+        ASSERT_TRUE(QFile(fichier + fin).open(QIODevice::WriteOnly));
+    LitParamètres();
+    const QString nom = QFileInfo(fichier).fileName();
+    EXPECT_EQ(QDir(dossier.path()).entryList({nom + ".*"}), QStringList({nom + ".Ab12Cde", nom + ".bak"}));
 }
 
 // Through the game: what the player changes is there at the next start.
