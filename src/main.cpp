@@ -10,7 +10,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelmor"));
     QApplication::setOrganizationName(QStringLiteral("Globarium"));
+    // A start refused (settings, raster) is a failure for whoever launched the game.
     if (!Main())
-        return 0;
+        return 1;
     return QApplication::exec();
 }
