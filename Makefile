@@ -20,6 +20,7 @@ build: deps
 
 bench: build
 	./$(BUILD)/bench/kelmor_bench
+	./bench/demarrage.sh $(BUILD)
 
 # libFuzzer on each file reader: the raster, score files, saved games, the settings store.
 fuzz:

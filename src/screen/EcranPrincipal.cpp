@@ -21,7 +21,6 @@
 #include <QFileInfo>
 #include <QLayout>
 #include <QMenuBar>
-#include <QNetworkAccessManager>
 #include <QTextEdit>
 
 int LargeurEcran = 0;
@@ -225,7 +224,6 @@ EcranPrincipal::EcranPrincipal()
     RichTextBox1 = new QTextEdit(surface);
     RichTextBox1->setGeometry(16, 336, 25, 25);
     RichTextBox1->hide();
-    Inet1 = new QNetworkAccessManager(this);
 
     for (int i : {11, 12, 15, 16})
         Bouton[i]->setProperty("HelpContextID", 65);

@@ -61,7 +61,7 @@ public:
 
     // Used only by the update check.
     QTextEdit *RichTextBox1;
-    QNetworkAccessManager *Inet1;
+    QNetworkAccessManager *Inet1 = nullptr; // made at the first look for new versions
 
     // Menus.
     QMenu *MenuFichier, *MenuParamétrer, *MenuScores, *MenuLangue;

@@ -59,8 +59,12 @@ QString DécodePage(const QByteArray &octets)
 
 QNetworkAccessManager *GestionnaireRéseau()
 {
-    if (EcranPrincipal *forme = FormePrincipale())
+    // Made at the first look at the page, not at start: most runs never fetch it.
+    if (EcranPrincipal *forme = FormePrincipale()) {
+        if (!forme->Inet1)
+            forme->Inet1 = new QNetworkAccessManager(forme);
         return forme->Inet1;
+    }
     // Before the main form exists, or without one.
     static QNetworkAccessManager *seul = new QNetworkAccessManager(QCoreApplication::instance());
     return seul;
