@@ -7,6 +7,7 @@
 #include "services/Patience.h"
 
 #include <QLabel>
+#include <QTest>
 
 namespace {
 
@@ -41,10 +42,20 @@ TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
         EXPECT_EQ(p.Conseil->text(), c.conseil) << c.largeur;
         EXPECT_EQ(p.Conseil->styleSheet().contains("ff0000"), c.rouge) << c.largeur;
         EXPECT_TRUE(p.Commentaire->text().endsWith(QStringLiteral("%1x600  [").arg(c.largeur) + Messages[97] + " 24 bits]"));
-        if (c.largeur == 800 && c.modes.size() > 40)
+        if (c.largeur == 800 && c.modes.size() > 40) {
             EXPECT_EQ(CapacitéModes, 56) << "the list grows by ten past its first 36 places";
+        }
     }
     InstalleModesAffichage(nullptr);
+}
+
+TEST(Patience, ThePlayerCantDismissTheLoadingForm)
+{
+    Patience p;
+    p.show();
+    QTest::keyClick(&p, Qt::Key_Escape);
+    p.close();
+    EXPECT_TRUE(p.isVisible()) << "neither Escape nor the close box ends it";
 }
 
 } // namespace
