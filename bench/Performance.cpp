@@ -68,7 +68,7 @@ void BM_DemarrageJusquALaFenetreAuRepos(benchmark::State &state)
         }
         QApplication::processEvents();
         state.PauseTiming();
-        PartieVierge = True;
+        Jeu().PartieVierge = True;
         delete FormePrincipale();
         QApplication::processEvents();
         InstalleRatioPixels(0); // every picture read again, as at a real start
@@ -89,21 +89,21 @@ void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
     }
     auto &E = Principal();
     InstalleDialogueNouvellePartie([] {
-        Niveau = 3;
-        Etape = OrdreEtapes[1];
+        Jeu().Niveau = 3;
+        Jeu().Etape = Jeu().OrdreEtapes[1];
     });
     LanceNouvellePartie();
     QPixmap écran(E.Carte->size() * int(state.range(0)));
     écran.setDevicePixelRatio(qreal(state.range(0)));
     for (auto _ : state) {
         // A wrong click on the canton of the dot, then the map painted as the screen would.
-        const i16 autre = CantonRecherché == 1 ? 2 : 1;
+        const i16 autre = Jeu().CantonRecherché == 1 ? 2 : 1;
         rond_Click(autre);
-        ErreursQuestion = 0;
-        Score = 999999;
+        Jeu().ErreursQuestion = 0;
+        Jeu().Score = 999999;
         E.Carte->render(&écran);
     }
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     delete FormePrincipale();
     InstalleRatioPixels(0);
 }
@@ -117,8 +117,8 @@ void BM_ChangementDeLangue(benchmark::State &state)
         return;
     }
     InstalleDialogueNouvellePartie([] {
-        Niveau = 1;
-        Etape = OrdreEtapes[1];
+        Jeu().Niveau = 1;
+        Jeu().Etape = Jeu().OrdreEtapes[1];
     });
     LanceNouvellePartie();
     int langue = 1;
@@ -127,7 +127,7 @@ void BM_ChangementDeLangue(benchmark::State &state)
         ChangeLangue(langue);
     }
     ChangeLangue(1);
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     delete FormePrincipale();
 }
 BENCHMARK(BM_ChangementDeLangue)->Unit(benchmark::kMillisecond);
@@ -153,12 +153,12 @@ void BM_PartieEntiere(benchmark::State &state)
     for (auto _ : state) {
         FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
         InstalleDialogueNouvellePartie([] {
-            Niveau = 3;
-            Etape = OrdreEtapes[1];
+            Jeu().Niveau = 3;
+            Jeu().Etape = Jeu().OrdreEtapes[1];
         });
         LanceNouvellePartie();
-        while (Etape != 0) {
-            const QPoint p = points[CantonRecherché];
+        while (Jeu().Etape != 0) {
+            const QPoint p = points[Jeu().CantonRecherché];
             NotePositionCurseur(E.Carte->mapToGlobal(p));
             CliqueCarte(0);
         }
@@ -198,8 +198,8 @@ void BM_PartieEcriteEtLue(benchmark::State &state)
     QTemporaryDir dossier;
     FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
     InstalleDialogueNouvellePartie([] {
-        Niveau = 2;
-        Etape = OrdreEtapes[1];
+        Jeu().Niveau = 2;
+        Jeu().Etape = Jeu().OrdreEtapes[1];
     });
     LanceNouvellePartie();
     const QString chemin = dossier.filePath(QStringLiteral("partie.CAS"));
@@ -207,7 +207,7 @@ void BM_PartieEcriteEtLue(benchmark::State &state)
         EcritPartie(chemin);
         benchmark::DoNotOptimize(LitPartie(chemin));
     }
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     delete FormePrincipale();
 }
 BENCHMARK(BM_PartieEcriteEtLue)->Unit(benchmark::kMicrosecond);

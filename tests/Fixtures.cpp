@@ -67,10 +67,10 @@ void JeuTest::SetUp()
     InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/")));
 
     Langue = 1;
-    NomJoueur.clear();
-    Etape = 0;
-    Niveau = 0;
-    for (auto &c : Cantons)
+    Jeu().NomJoueur.clear();
+    Jeu().Etape = 0;
+    Jeu().Niveau = 0;
+    for (auto &c : Jeu().Cantons)
         c = TCanton{};
     ASSERT_TRUE(Main());
     forme = FormePrincipale();
@@ -81,7 +81,7 @@ void JeuTest::SetUp()
 void JeuTest::TearDown()
 {
     if (forme) {
-        PartieVierge = True; // nothing to confirm on the way out
+        Jeu().PartieVierge = True; // nothing to confirm on the way out
         delete forme;
     }
     InstalleDialogueNouvellePartie(nullptr);
@@ -113,25 +113,25 @@ void JeuTest::CliqueEn(QPoint pointCarte)
 void JeuTest::NouvellePartieAuNiveau(int niveau, bool apprentissage)
 {
     InstalleDialogueNouvellePartie([niveau, apprentissage] {
-        NomJoueur = QStringLiteral("Test");
-        Niveau = static_cast<i16>(niveau);
-        ModeApprentissage = Booléen(apprentissage);
-        ScoreGelé = Booléen(apprentissage);
+        Jeu().NomJoueur = QStringLiteral("Test");
+        Jeu().Niveau = static_cast<i16>(niveau);
+        Jeu().ModeApprentissage = apprentissage;
+        Jeu().ScoreGelé = apprentissage;
         Principal().BoutonGruge->setPicture(Principal().AmpouleAllumée->Picture());
-        Etape = OrdreEtapes[1];
-        HeureDépart = SecondesDepuisMinuit();
+        Jeu().Etape = Jeu().OrdreEtapes[1];
+        Jeu().HeureDépart = SecondesDepuisMinuit();
     });
     LanceNouvellePartie();
 }
 
 void JeuTest::TiragesScriptés(std::vector<float> t) { tirages.assign(t.begin(), t.end()); }
 
-void JeuTest::RépondJuste() { CliqueCanton(CantonRecherché); }
+void JeuTest::RépondJuste() { CliqueCanton(Jeu().CantonRecherché); }
 
 void JeuTest::RépondFaux()
 {
     for (int c = 1; c <= NombrePlaces; ++c)
-        if (c != CantonRecherché && !Cantons[c].Trouvé && !Cantons[c].Inhibé) {
+        if (c != Jeu().CantonRecherché && !Jeu().Cantons[c].Trouvé && !Jeu().Cantons[c].Inhibé) {
             CliqueCanton(c);
             return;
         }

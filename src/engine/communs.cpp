@@ -19,31 +19,8 @@
 #include <cmath>
 #include <cstring>
 
-TCanton Cantons[NombrePlaces + 1];
-
-i16 Etape = 0;
-i16 Niveau = 0;
-i16 ModeApprentissage = False;
-i16 ScoreGelé = False;
-i16 OrdreEtapes[5] = {0, 1, 2, 3, 4};
-i16 RangEtape = 1;
-i16 NombreCantons = 0;
-i16 RestantsEtape = 0;
-i16 CantonRecherché = 0;
-i16 ErreursQuestion = 0;
-i16 AssistanceUtilisée = False;
-i32 Score = 0;
-QString NomJoueur;
-i32 HeureDépart = 0;
-i32 DuréePartie = 0;
-i16 PartieVierge = True;
-i16 PartieEnregistrée = False;
-i16 ConseilFicheDonné = False;
-i16 ModeRévision = False;
-i16 CantonFiche = 0;
 i16 HauteurVignette = 188;
 i16 LargeurVignette = 200;
-i16 ScoresFinPartie = False;
 QString FinDeLigne = QStringLiteral("\r\n");
 
 TPointSegment PointsSegments[NombreCartes][MaxSegments];
@@ -58,7 +35,7 @@ namespace {
 // Values assigned to a whole-number property round to the nearest, halves to even.
 int Arrondi(double v) { return static_cast<int>(std::lrint(v)); }
 
-bool EtapeDeJeu() { return Etape >= 1 && Etape <= 4; }
+bool EtapeDeJeu() { return Jeu().Etape >= 1 && Jeu().Etape <= 4; }
 
 } // namespace
 
@@ -101,7 +78,7 @@ void ChargeCantons()
 {
     const int décalage = 200 * (Langue - 1);
     for (int i = 1; i <= NombrePlaces; ++i) {
-        TCanton &c = Cantons[i];
+        TCanton &c = Jeu().Cantons[i];
         const QString ville = ChaîneTable(4000 + i);
         c.ChefLieu = LitChamp(ChaîneTable(4000 + décalage + i), 1);
         c.VilleGauche = static_cast<i16>(ValeurEnTête(LitChamp(ville, 2)));
@@ -225,7 +202,7 @@ i16 ZoneEn(int Région, int x, int y)
 
 void CliqueCarte(int Région)
 {
-    if (Etape == 0)
+    if (Jeu().Etape == 0)
         return;
     auto &E = Principal();
     const QRect rectangle = RectangleEcranDe(E.Carte);
@@ -236,8 +213,8 @@ void CliqueCarte(int Région)
     CorrectionZone(c);
     // The level's filter: at Facile and Moyen a canton already found counts for nothing.
     if (c != 0 && EtapeDeJeu() && c <= NombrePlaces) {
-        if ((Niveau == 1 && !ModeApprentissage) || Niveau == 2)
-            if (Cantons[c].Trouvé)
+        if ((Jeu().Niveau == 1 && !Jeu().ModeApprentissage) || Jeu().Niveau == 2)
+            if (Jeu().Cantons[c].Trouvé)
                 c = 0;
     }
     if (c != 0 && c <= NombrePlaces)
@@ -275,27 +252,27 @@ void LanceNouvellePartie()
         return;
     Principal().HelpContextID = 10;
     MontreNouvellePartie();
-    RangEtape = 1;
+    Jeu().RangEtape = 1;
     DébutEtape();
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int k = 0; k <= 4; ++k) {
-            Cantons[i].Pertes[k] = 0;
-            Cantons[i].Réussi[k] = False;
+            Jeu().Cantons[i].Pertes[k] = 0;
+            Jeu().Cantons[i].Réussi[k] = False;
         }
-    PartieVierge = True;
-    ModeRévision = False;
-    ConseilFicheDonné = False;
+    Jeu().PartieVierge = True;
+    Jeu().ModeRévision = False;
+    Jeu().ConseilFicheDonné = False;
     AjusteCarte();
-    if (Etape == 0) {
+    if (Jeu().Etape == 0) {
         CacheZoneJeu();
         CacheMarques();
         return;
     }
     MontreCantons();
-    Score = 999999;
+    Jeu().Score = 999999;
     AffichePanneau();
     AfficheScore();
-    AfficheRestants(RestantsEtape);
+    AfficheRestants(Jeu().RestantsEtape);
     QuestionSuivante();
 }
 
@@ -306,18 +283,18 @@ void DébutEtape()
     E.BarreV->setValue(0);
     E.DrapeauPays[0]->hide();
 
-    RestantsEtape = 0;
-    NombreCantons = 0;
+    Jeu().RestantsEtape = 0;
+    Jeu().NombreCantons = 0;
 
     const int t = E.QueFaire->Top() + E.QueFaire->Height() + 5;
-    if ((Etape == 1 && Niveau != 2) || Etape == 2) {
+    if ((Jeu().Etape == 1 && Jeu().Niveau != 2) || Jeu().Etape == 2) {
         E.ElémentRecherché->hide();
         E.ImageRecherchée->hide();
         E.TexteAChercher->show();
         E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
         E.TexteAChercher->setTop(t);
         E.TexteAChercher->setTailleFonte(10);
-    } else if (Etape == 1 && Niveau == 2) {
+    } else if (Jeu().Etape == 1 && Jeu().Niveau == 2) {
         E.ElémentRecherché->show();
         E.ElémentRecherché->setLeft(E.QueFaire->Left());
         E.ElémentRecherché->setTop(t);
@@ -326,52 +303,52 @@ void DébutEtape()
         E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
         E.TexteAChercher->setTop(E.ElémentRecherché->Top() + E.ElémentRecherché->Height() + 5);
         E.TexteAChercher->setTailleFonte(10);
-    } else if (Etape == 3) {
+    } else if (Jeu().Etape == 3) {
         E.ElémentRecherché->show();
         E.ElémentRecherché->setLeft(E.QueFaire->Left());
         E.ElémentRecherché->setTop(t);
         E.ImageRecherchée->show();
         E.ImageRecherchée->setPicture(E.drapeau[1]->Picture());
         E.TexteAChercher->hide();
-    } else if (Etape == 5 || Etape == 6) {
+    } else if (Jeu().Etape == 5 || Jeu().Etape == 6) {
         E.ElémentRecherché->hide();
         E.ImageRecherchée->hide();
         E.TexteAChercher->hide();
     }
     DébutEtapeSpécifique();
 
-    AssistanceUtilisée = False;
+    Jeu().AssistanceUtilisée = False;
 
     for (int i = 1; i <= NombrePlaces; ++i) {
-        TCanton &c = Cantons[i];
-        E.rond[i]->setToolTip(Etape == 7 ? c.ChefLieu : QString());
+        TCanton &c = Jeu().Cantons[i];
+        E.rond[i]->setToolTip(Jeu().Etape == 7 ? c.ChefLieu : QString());
         if (c.Inhibé) {
             c.Trouvé = True;
         } else {
             c.Trouvé = False;
-            RestantsEtape = RestantsEtape + 1;
-            NombreCantons = NombreCantons + 1;
+            Jeu().RestantsEtape = Jeu().RestantsEtape + 1;
+            Jeu().NombreCantons = Jeu().NombreCantons + 1;
         }
         PlaceRond(static_cast<i16>(i));
         const Image *région = E.ImageRégion[c.Région];
         E.Pays[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
         E.inv[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
-        if (Etape < 5)
-            c.Réussi[Etape] = False;
+        if (Jeu().Etape < 5)
+            c.Réussi[Jeu().Etape] = False;
     }
 
-    ErreursQuestion = 0;
-    PartieEnregistrée = False;
+    Jeu().ErreursQuestion = 0;
+    Jeu().PartieEnregistrée = False;
     E.BoutonGruge->hide();
     E.BoutonPasse->hide();
-    CantonRecherché = 0;
-    ScoresFinPartie = False;
+    Jeu().CantonRecherché = 0;
+    Jeu().ScoresFinPartie = False;
 }
 
 void AffichePanneau()
 {
     auto &E = Principal();
-    if (Etape == 5 || Etape == 6)
+    if (Jeu().Etape == 5 || Jeu().Etape == 6)
         AfficheParamétrage();
     else
         CacheParamétrage();
@@ -395,47 +372,47 @@ void AffichePanneau()
         E.ElémentRecherché->setVisible(visible);
     };
 
-    if (Etape == 0) {
+    if (Jeu().Etape == 0) {
         boîtesDuCompte(false);
         boîtesDuScore(false);
-    } else if (Etape >= 5) {
+    } else if (Jeu().Etape >= 5) {
         boîtesDuCompte(false);
         boîtesDuScore(false);
         E.TexteAChercher->hide();
         cadreQuestion(false);
-    } else if (Etape <= 3) {
+    } else if (Jeu().Etape <= 3) {
         boîtesDuCompte(true);
-        boîtesDuScore(!ModeApprentissage);
-        E.TexteAChercher->setVisible(Etape != 3);
-        cadreQuestion(Etape == 3 || (Etape == 1 && Niveau == 2));
+        boîtesDuScore(!Jeu().ModeApprentissage);
+        E.TexteAChercher->setVisible(Jeu().Etape != 3);
+        cadreQuestion(Jeu().Etape == 3 || (Jeu().Etape == 1 && Jeu().Niveau == 2));
     }
     ZoneQuestionSpécifique();
 }
 
 void QuestionSuivante()
 {
-    if (RestantsEtape < 1) {
+    if (Jeu().RestantsEtape < 1) {
         QuestionSpécifique();
         return;
     }
     const float tirage = Rnd();
-    int r = static_cast<int>(std::floor(static_cast<double>(RestantsEtape) * static_cast<double>(tirage) + 1.0));
+    int r = static_cast<int>(std::floor(static_cast<double>(Jeu().RestantsEtape) * static_cast<double>(tirage) + 1.0));
 
     auto rangParmiRestants = [](int rang) -> i16 {
         int vus = 0;
         for (int i = 1; i <= NombrePlaces; ++i)
-            if (!Cantons[i].Trouvé && ++vus == rang)
+            if (!Jeu().Cantons[i].Trouvé && ++vus == rang)
                 return static_cast<i16>(i);
         return 0;
     };
 
     i16 c = rangParmiRestants(r);
     // Never the same question twice in a row: take its neighbour in the list of those left.
-    if (c == CantonRecherché && RestantsEtape >= 2) {
+    if (c == Jeu().CantonRecherché && Jeu().RestantsEtape >= 2) {
         r = r > 1 ? r - 1 : 2;
         c = rangParmiRestants(r);
     }
-    CantonRecherché = c;
+    Jeu().CantonRecherché = c;
 
     auto &E = Principal();
     auto remplitCadre = [&E](const Image *source) {
@@ -447,17 +424,17 @@ void QuestionSuivante()
         E.ImageRecherchée->setWidth(w);
         E.ImageRecherchée->setPicture(source->Picture());
     };
-    if (Etape == 1) {
-        E.TexteAChercher->setText(Cantons[c].Nom);
-        if (Niveau == 2 && c != 0) {
+    if (Jeu().Etape == 1) {
+        E.TexteAChercher->setText(Jeu().Cantons[c].Nom);
+        if (Jeu().Niveau == 2 && c != 0) {
             const Image *source = E.inv[c];
             if ((source->Width() > LargeurVignette - 2 || source->Height() > HauteurVignette - 2) && E.miniature[c])
                 source = E.miniature[c];
             remplitCadre(source);
         }
-    } else if (Etape == 2) {
-        E.TexteAChercher->setText(Cantons[c].ChefLieu);
-    } else if (Etape == 3 && c != 0) {
+    } else if (Jeu().Etape == 2) {
+        E.TexteAChercher->setText(Jeu().Cantons[c].ChefLieu);
+    } else if (Jeu().Etape == 3 && c != 0) {
         remplitCadre(E.drapeau[c]);
     }
     QuestionSpécifique();
@@ -467,22 +444,22 @@ void FinEtape()
 {
     // A set made by hand may name a kind twice: the rank under way, not the first one
     // that holds the kind, leads on, so that the game still ends.
-    int pos = RangEtape >= 1 && RangEtape <= 4 && OrdreEtapes[RangEtape] == Etape ? RangEtape : 0;
+    int pos = Jeu().RangEtape >= 1 && Jeu().RangEtape <= 4 && Jeu().OrdreEtapes[Jeu().RangEtape] == Jeu().Etape ? Jeu().RangEtape : 0;
     for (int i = 1; i <= 4 && pos == 0; ++i)
-        if (OrdreEtapes[i] == Etape)
+        if (Jeu().OrdreEtapes[i] == Jeu().Etape)
             pos = i;
-    const i16 suivante = (pos == 0 || pos == 4) ? i16(0) : OrdreEtapes[pos + 1];
-    RangEtape = static_cast<i16>(pos + 1);
-    const QString annonce = MessageTransition(Etape, suivante);
+    const i16 suivante = (pos == 0 || pos == 4) ? i16(0) : Jeu().OrdreEtapes[pos + 1];
+    Jeu().RangEtape = static_cast<i16>(pos + 1);
+    const QString annonce = MessageTransition(Jeu().Etape, suivante);
 
     if (suivante != 0) {
         JoueSon(SonEtape);
         Boîte(annonce, StyleInformation, Messages[20]);
-        Etape = suivante;
+        Jeu().Etape = suivante;
         DébutEtape();
         MontreCantons();
         AfficheScore();
-        AfficheRestants(RestantsEtape);
+        AfficheRestants(Jeu().RestantsEtape);
         QuestionSuivante();
         return;
     }
@@ -492,9 +469,9 @@ void FinEtape()
 // Back to the bare map with no game: what a saved game or a validated parameter set leaves.
 void RetourAuRepos()
 {
-    Etape = 0;
+    Jeu().Etape = 0;
     DébutEtape();
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     CacheMarques();
     CacheZoneJeu();
 }
@@ -502,13 +479,13 @@ void RetourAuRepos()
 // A game that is over, won or lost: its result dealt with, the map and the panel cleared.
 void TerminePartie()
 {
-    Etape = 0;
+    Jeu().Etape = 0;
     EnregistreScore();
     DébutEtape();
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     CacheMarques();
     CacheZoneJeu();
-    PartieEnregistrée = True;
+    Jeu().PartieEnregistrée = True;
 }
 
 void MontreCantons()
@@ -558,21 +535,21 @@ void TraiteClic(i16 c, i16 x, i16 y)
     if (c < 1 || c > NombrePlaces)
         return;
     if (EtapeDeJeu())
-        PartieVierge = False;
-    if (Etape == 5) {
-        Cantons[c].Trouvé = Booléen(!Cantons[c].Trouvé);
+        Jeu().PartieVierge = False;
+    if (Jeu().Etape == 5) {
+        Jeu().Cantons[c].Trouvé = Booléen(!Jeu().Cantons[c].Trouvé);
         PlaceRond(c);
         return;
     }
-    if (Etape == 6)
+    if (Jeu().Etape == 6)
         return;
-    if (Etape == 7) {
+    if (Jeu().Etape == 7) {
         JoueSon(SonInfo);
-        CantonFiche = c;
+        Jeu().CantonFiche = c;
         if (x == 0 && y == 0) {
             const auto &E = Principal();
-            x = static_cast<i16>(Cantons[c].VilleGauche + E.RondVille->Width() / 2);
-            y = static_cast<i16>(Cantons[c].VilleHaut + E.RondVille->Height() / 2);
+            x = static_cast<i16>(Jeu().Cantons[c].VilleGauche + E.RondVille->Width() / 2);
+            y = static_cast<i16>(Jeu().Cantons[c].VilleHaut + E.RondVille->Height() / 2);
         }
         PlaceRond(c, true, x, y);
         MontrePompe();
@@ -580,23 +557,23 @@ void TraiteClic(i16 c, i16 x, i16 y)
         return;
     }
     CorrectionZone(c);
-    if (!Cantons[c].Trouvé) {
-        if (c == CantonRecherché)
+    if (!Jeu().Cantons[c].Trouvé) {
+        if (c == Jeu().CantonRecherché)
             BonneRéponse();
         else
             MauvaiseRéponse();
         return;
     }
     // The canton is out of play in this step.
-    if (ModeApprentissage) {
+    if (Jeu().ModeApprentissage) {
         JoueSon(SonInfo);
-        CantonFiche = c;
+        Jeu().CantonFiche = c;
         MontrePompe();
         return;
     }
-    if (Niveau != 3 && Niveau != 4)
+    if (Jeu().Niveau != 3 && Jeu().Niveau != 4)
         return;
-    if (Cantons[c].Inhibé)
+    if (Jeu().Cantons[c].Inhibé)
         return;
     MauvaiseRéponse();
 }
@@ -604,42 +581,42 @@ void TraiteClic(i16 c, i16 x, i16 y)
 void BonneRéponse()
 {
     auto &E = Principal();
-    const i16 c = CantonRecherché;
-    if (Niveau == 1) {
+    const i16 c = Jeu().CantonRecherché;
+    if (Jeu().Niveau == 1) {
         E.BoutonPasse->hide();
-        if (!AssistanceUtilisée)
-            Cantons[c].Trouvé = True;
+        if (!Jeu().AssistanceUtilisée)
+            Jeu().Cantons[c].Trouvé = True;
     } else {
-        Cantons[c].Trouvé = True;
+        Jeu().Cantons[c].Trouvé = True;
     }
     MontreCanton(c);
-    if (!AssistanceUtilisée) {
+    if (!Jeu().AssistanceUtilisée) {
         PlaceRond(c);
-        RestantsEtape = RestantsEtape - 1;
-        if (Etape >= 1 && Etape <= 4)
-            Cantons[c].Réussi[Etape] = True;
-        AfficheRestants(RestantsEtape);
-        if (RestantsEtape == 0) {
+        Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
+        if (Jeu().Etape >= 1 && Jeu().Etape <= 4)
+            Jeu().Cantons[c].Réussi[Jeu().Etape] = True;
+        AfficheRestants(Jeu().RestantsEtape);
+        if (Jeu().RestantsEtape == 0) {
             FinEtape();
             return;
         }
         JoueSon(SonBravo);
-        if (RestantsEtape == NombreCantons - 1 && ModeApprentissage && !ConseilFicheDonné) {
+        if (Jeu().RestantsEtape == Jeu().NombreCantons - 1 && Jeu().ModeApprentissage && !Jeu().ConseilFicheDonné) {
             Boîte(Messages[137], StyleInformation, Messages[17]);
-            ConseilFicheDonné = True;
+            Jeu().ConseilFicheDonné = True;
         }
         QuestionSuivante();
-        ErreursQuestion = 0;
+        Jeu().ErreursQuestion = 0;
         E.BoutonGruge->hide();
         return;
     }
     // The answer was given away: the canton comes back later, and the question is paid in full.
-    AssistanceUtilisée = False;
+    Jeu().AssistanceUtilisée = False;
     PlaceRond(c);
     if (SoldeQuestion() > 0) {
         JoueSon(SonBravo);
         QuestionSuivante();
-        ErreursQuestion = 0;
+        Jeu().ErreursQuestion = 0;
         E.BoutonGruge->hide();
     } else {
         PartiePerdue();
@@ -649,30 +626,30 @@ void BonneRéponse()
 void MauvaiseRéponse()
 {
     auto &E = Principal();
-    Score = Pénalité(Score, ErreursQuestion);
-    if (Score <= 0) {
+    Jeu().Score = Pénalité(Jeu().Score, Jeu().ErreursQuestion);
+    if (Jeu().Score <= 0) {
         PartiePerdue();
         return;
     }
     AfficheScore();
-    ErreursQuestion = ErreursQuestion + 1;
-    if (ErreursQuestion < 9) {
+    Jeu().ErreursQuestion = Jeu().ErreursQuestion + 1;
+    if (Jeu().ErreursQuestion < 9) {
         JoueSon(SonErreur);
-        if (ErreursQuestion == 1 && Niveau == 1 && !ModeApprentissage)
+        if (Jeu().ErreursQuestion == 1 && Jeu().Niveau == 1 && !Jeu().ModeApprentissage)
             E.BoutonPasse->show();
-        if (ErreursQuestion == 3 && ModeApprentissage)
+        if (Jeu().ErreursQuestion == 3 && Jeu().ModeApprentissage)
             E.BoutonGruge->show();
         return;
     }
     JoueSon(SonPerdu);
-    if (AssistanceUtilisée) {
+    if (Jeu().AssistanceUtilisée) {
         Boîte(Messages[36], StyleExclamation, Messages[37]);
-        AssistanceUtilisée = False;
-        PlaceRond(CantonRecherché);
+        Jeu().AssistanceUtilisée = False;
+        PlaceRond(Jeu().CantonRecherché);
     } else {
         Boîte(Messages[38], StyleExclamation, Messages[37]);
     }
-    ErreursQuestion = 0;
+    Jeu().ErreursQuestion = 0;
     QuestionSuivante();
     E.BoutonGruge->hide();
     E.BoutonPasse->hide();
@@ -683,31 +660,31 @@ void MauvaiseRéponse()
 i32 Pénalité(i32 S, i16 k)
 {
     const double p = std::pow(4.0, k);
-    const int étape = (Etape >= 0 && Etape <= 4) ? Etape : 0;
-    TCanton &c = Cantons[(CantonRecherché >= 0 && CantonRecherché <= NombrePlaces) ? CantonRecherché : 0];
+    const int étape = (Jeu().Etape >= 0 && Jeu().Etape <= 4) ? Jeu().Etape : 0;
+    TCanton &c = Jeu().Cantons[(Jeu().CantonRecherché >= 0 && Jeu().CantonRecherché <= NombrePlaces) ? Jeu().CantonRecherché : 0];
     c.Pertes[étape] = static_cast<i32>(std::lrint(c.Pertes[étape] + p));
     c.Pertes[0] = static_cast<i32>(std::lrint(c.Pertes[0] + p));
-    if (ScoreGelé)
+    if (Jeu().ScoreGelé)
         return S;
     return static_cast<i32>(std::lrint(S - p));
 }
 
 i32 SoldeQuestion()
 {
-    if (ErreursQuestion != 0)
-        for (i16 k = ErreursQuestion; k <= 8; ++k)
-            Score = Pénalité(Score, k);
+    if (Jeu().ErreursQuestion != 0)
+        for (i16 k = Jeu().ErreursQuestion; k <= 8; ++k)
+            Jeu().Score = Pénalité(Jeu().Score, k);
     AfficheScore();
-    return Score;
+    return Jeu().Score;
 }
 
 void AfficheScore()
 {
     auto &E = Principal();
-    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<qint64>(Score)) % 1000000, 6, 10, QLatin1Char('0'));
+    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<qint64>(Jeu().Score)) % 1000000, 6, 10, QLatin1Char('0'));
     for (int i = 1; i <= 6; ++i)
         E.Digit[i]->setText(chiffres.mid(6 - i, 1));
-    E.Digit[0]->setText(Score < 0 ? QStringLiteral("-") : QString());
+    E.Digit[0]->setText(Jeu().Score < 0 ? QStringLiteral("-") : QString());
 }
 
 void AfficheRestants(i16 n)
@@ -721,17 +698,17 @@ void AfficheRestants(i16 n)
 void ScoreAbandon()
 {
     PoidsSpécifiques();
-    Score = -999999;
+    Jeu().Score = -999999;
     for (int i = 1; i <= 4; ++i) {
-        const i16 étape = OrdreEtapes[i];
+        const i16 étape = Jeu().OrdreEtapes[i];
         if (étape == 0)
             break;
-        if (étape == Etape) {
-            Score += (NombreCantons - RestantsEtape) * PoidsEtapes[Etape] * PointsParCanton;
+        if (étape == Jeu().Etape) {
+            Jeu().Score += (Jeu().NombreCantons - Jeu().RestantsEtape) * PoidsEtapes[Jeu().Etape] * PointsParCanton;
             break;
         }
         if (étape >= 1 && étape <= 4)
-            Score += PoidsEtapes[étape] * NombreCantons * PointsParCanton;
+            Jeu().Score += PoidsEtapes[étape] * Jeu().NombreCantons * PointsParCanton;
     }
 }
 
@@ -758,24 +735,24 @@ i32 DuréeDepuis(i32 heureDépart)
 
 void BoutonPasse_Click()
 {
-    for (i16 k = ErreursQuestion; k <= 8; ++k)
-        Score = Pénalité(Score, k);
-    if (Score <= 0) {
+    for (i16 k = Jeu().ErreursQuestion; k <= 8; ++k)
+        Jeu().Score = Pénalité(Jeu().Score, k);
+    if (Jeu().Score <= 0) {
         PartiePerdue();
         return;
     }
     AfficheScore();
     JoueSon(SonPerdu);
-    ErreursQuestion = 0;
+    Jeu().ErreursQuestion = 0;
     QuestionSuivante();
     Principal().BoutonPasse->hide();
 }
 
 void BoutonGruge_Click()
 {
-    AmèneEnVue(CantonRecherché);
-    AssistanceUtilisée = True;
-    PlaceRond(CantonRecherché);
+    AmèneEnVue(Jeu().CantonRecherché);
+    Jeu().AssistanceUtilisée = True;
+    PlaceRond(Jeu().CantonRecherché);
 }
 
 void AmèneEnVue(i16 c)
@@ -790,11 +767,11 @@ void AmèneEnVue(i16 c)
             barre->setValue((M() - p) - h < H() / 2.0 ? Arrondi(M() - H()) : Arrondi((p + h) - H() / 2.0));
     };
     if (E.BarreV->Visible())
-        amène(E.BarreV, Cantons[c].PaysHaut, E.Pays[c]->Height(),
+        amène(E.BarreV, Jeu().Cantons[c].PaysHaut, E.Pays[c]->Height(),
               [&] { return double(E.Carte->Height()); }, [&] { return double(E.ImageRégion[0]->Height()); },
               [&] { return double(E.ImageRégion[0]->Top()); });
     if (E.BarreH->Visible())
-        amène(E.BarreH, Cantons[c].PaysGauche, E.Pays[c]->Width(),
+        amène(E.BarreH, Jeu().Cantons[c].PaysGauche, E.Pays[c]->Width(),
               [&] { return double(E.Carte->Width()); }, [&] { return double(E.ImageRégion[0]->Width()); },
               [&] { return double(E.ImageRégion[0]->Left()); });
 }
@@ -805,9 +782,9 @@ void AmèneEnVue(i16 c)
 void MontreCantonEtapesSuivantes(i16 i)
 {
     auto &E = Principal();
-    const bool S = Cantons[i].Trouvé || Cantons[i].Inhibé;
-    const bool I = Cantons[i].Inhibé;
-    switch (Niveau) {
+    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
+    const bool I = Jeu().Cantons[i].Inhibé;
+    switch (Jeu().Niveau) {
     case 1: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
     case 2: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
     case 3: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
@@ -819,16 +796,16 @@ void MontreCantonEtapesSuivantes(i16 i)
 void MontreCanton(i16 i)
 {
     auto &E = Principal();
-    const bool S = Cantons[i].Trouvé || Cantons[i].Inhibé;
-    const bool I = Cantons[i].Inhibé;
-    switch (Etape) {
+    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
+    const bool I = Jeu().Cantons[i].Inhibé;
+    switch (Jeu().Etape) {
     case 0:
         E.Pays[i]->hide();
         E.inv[i]->hide();
         E.rond[i]->hide();
         break;
     case 1:
-        switch (Niveau) {
+        switch (Jeu().Niveau) {
         case 1: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
         case 2: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
         case 3: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
@@ -874,14 +851,14 @@ void MarqueRondPartie(i16 i)
 {
     auto &E = Principal();
     Image *r = E.rond[i];
-    const TCanton &c = Cantons[i];
-    if (AssistanceUtilisée && i == CantonRecherché)
+    const TCanton &c = Jeu().Cantons[i];
+    if (Jeu().AssistanceUtilisée && i == Jeu().CantonRecherché)
         Pose(r, E.Rondnoir, c);
-    if (Niveau == 1) {
+    if (Jeu().Niveau == 1) {
         if (c.Trouvé)
             Pose(r, E.RondPref, c);
-        r->setToolTip(c.Trouvé && ModeApprentissage ? c.ChefLieu : QString());
-    } else if (Niveau == 2) {
+        r->setToolTip(c.Trouvé && Jeu().ModeApprentissage ? c.ChefLieu : QString());
+    } else if (Jeu().Niveau == 2) {
         if (c.Trouvé)
             Pose(r, E.RondPref, c);
     }
@@ -895,15 +872,15 @@ void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
         return;
     auto &E = Principal();
     Image *r = E.rond[i];
-    const TCanton &c = Cantons[i];
+    const TCanton &c = Jeu().Cantons[i];
     const bool visible = r->Visible();
     r->hide();
     Pose(r, E.RondVille, c);
-    if (Etape >= 1 && Etape <= 3) {
+    if (Jeu().Etape >= 1 && Jeu().Etape <= 3) {
         MarqueRondPartie(i);
-    } else if (Etape == 5 || Etape == 6) {
+    } else if (Jeu().Etape == 5 || Jeu().Etape == 6) {
         Pose(r, c.Trouvé ? E.Rondrouge : E.Rondjaune, c);
-    } else if (Etape == 7 && Cible) {
+    } else if (Jeu().Etape == 7 && Cible) {
         r->setPicture(E.Rondcible->Picture());
         r->move(x - E.Rondcible->Width() / 2 - 1 - E.BarreH->Value(),
                 y - E.Rondcible->Height() / 2 - 1 - E.BarreV->Value());

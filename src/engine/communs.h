@@ -2,58 +2,12 @@
 // What every game of the family does: the places and the game state, the map's
 // raster, the cycle of questions and steps, the judging, the score and the
 // markers. This game's own part lives in specifiques.
+#include "engine/Partie.h"
+
 #include <QString>
-#include <cstdint>
 
-using i16 = std::int16_t;
-using i32 = std::int32_t;
-using u8 = std::uint8_t;
-
-constexpr i16 True = -1;
-constexpr i16 False = 0;
-inline i16 Booléen(bool b) { return b ? True : False; }
-
-struct TCanton {
-    i16 PaysHaut = 0;
-    i16 PaysGauche = 0;
-    i16 Trouvé = False;
-    i16 VilleHaut = 0;
-    i16 VilleGauche = 0;
-    QString Nom;
-    QString ChefLieu;
-    i16 Inhibé = False;
-    u8 Région = 0;
-    i32 Pertes[5] = {0, 0, 0, 0, 0};
-    i16 Réussi[5] = {False, False, False, False, False};
-};
-
-constexpr int NombrePlaces = 26;
-extern TCanton Cantons[NombrePlaces + 1]; // element 0 stays empty
-
-// The game state.
-extern i16 Etape;
-extern i16 Niveau;
-extern i16 ModeApprentissage;
-extern i16 ScoreGelé;
-extern i16 OrdreEtapes[5]; // 1..4
-extern i16 RangEtape;      // the rank of OrdreEtapes under way; a saved game takes up the first that fits
-extern i16 NombreCantons;
-extern i16 RestantsEtape;
-extern i16 CantonRecherché;
-extern i16 ErreursQuestion;
-extern i16 AssistanceUtilisée;
-extern i32 Score;
-extern QString NomJoueur;
-extern i32 HeureDépart;
-extern i32 DuréePartie;
-extern i16 PartieVierge;
-extern i16 PartieEnregistrée;
-extern i16 ConseilFicheDonné;
-extern i16 ModeRévision;
-extern i16 CantonFiche;
 extern i16 HauteurVignette;
 extern i16 LargeurVignette;
-extern i16 ScoresFinPartie;
 extern QString FinDeLigne;
 
 // Field number Rang (from 1) of a string with "#" between its fields.

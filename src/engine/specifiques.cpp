@@ -20,7 +20,7 @@ i16 NuméroPlace(i16 c) { return c; }
 
 void DébutEtapeSpécifique()
 {
-    if (Etape != 4)
+    if (Jeu().Etape != 4)
         return;
     // The plate letters stand where a town's name would, under the panel's head.
     auto &E = Principal();
@@ -34,23 +34,23 @@ void DébutEtapeSpécifique()
 
 void QuestionSpécifique()
 {
-    if (Etape == 4)
-        Principal().TexteAChercher->setText(Plaques[CantonRecherché]);
+    if (Jeu().Etape == 4)
+        Principal().TexteAChercher->setText(Plaques[Jeu().CantonRecherché]);
 }
 
 void ZoneQuestionSpécifique()
 {
-    if (Etape != 4)
+    if (Jeu().Etape != 4)
         return;
     auto &E = Principal();
     E.QueFaire->show();
     E.BoîteRestants->show();
     for (int i = 1; i <= 3; ++i)
         E.Reste[i]->show();
-    E.BoîteScore->setVisible(!ModeApprentissage);
+    E.BoîteScore->setVisible(!Jeu().ModeApprentissage);
     for (int i = 0; i <= 6; ++i) {
-        E.Digit[i]->setVisible(!ModeApprentissage);
-        if (!ModeApprentissage)
+        E.Digit[i]->setVisible(!Jeu().ModeApprentissage);
+        if (!Jeu().ModeApprentissage)
             E.Digit[i]->raise();
     }
     E.TexteAChercher->show();
@@ -60,7 +60,7 @@ void ZoneQuestionSpécifique()
 
 void PlaceTexteSpécifique()
 {
-    if (Etape != 4)
+    if (Jeu().Etape != 4)
         return;
     auto &E = Principal();
     E.TexteAChercher->setTop(E.QueFaire->Top() + E.QueFaire->Height() + 5);
@@ -68,13 +68,13 @@ void PlaceTexteSpécifique()
 
 void PlaceRondSpécifique(i16 i)
 {
-    if (Etape == 4)
+    if (Jeu().Etape == 4)
         MarqueRondPartie(i);
 }
 
 void MontreCantonSpécifique(i16 i)
 {
-    if (Etape == 4)
+    if (Jeu().Etape == 4)
         MontreCantonEtapesSuivantes(i);
 }
 
@@ -106,7 +106,7 @@ void PoidsSpécifiques()
     PoidsEtapes[3] = 4;
     PoidsEtapes[4] = 1;
     const int somme = PoidsEtapes[1] + PoidsEtapes[2] + PoidsEtapes[3] + PoidsEtapes[4];
-    PointsParCanton = NombreCantons > 0 ? 999999 / (somme * NombreCantons) : 0;
+    PointsParCanton = Jeu().NombreCantons > 0 ? 999999 / (somme * Jeu().NombreCantons) : 0;
 }
 
 void LibelléSpécifique() { Principal().LBLParam[7]->setText(Messages[162]); }

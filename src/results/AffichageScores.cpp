@@ -93,7 +93,7 @@ AffichageScores::AffichageScores() : QDialog(FormePrincipale(), CadreDialogueFix
     move((écran.largeur - width()) / 2, (écran.hauteur - height()) / 2);
 
     // The statistics belong to the game that has just ended, not to a look from the menu.
-    BoutonStatistiques->setVisible(ScoresFinPartie != False);
+    BoutonStatistiques->setVisible(Jeu().ScoresFinPartie);
 
     switch (NiveauAffiché) {
     case 0:
@@ -161,9 +161,9 @@ QString FormatDurée(i32 Durée)
     return tête(s) + QLatin1Char('s');
 }
 
-void AfficheMeilleursScores(i16 Niveau)
+void AfficheMeilleursScores(i16 niveau)
 {
-    NiveauAffiché = Niveau;
+    NiveauAffiché = niveau;
     MontreAffichageScores();
 }
 

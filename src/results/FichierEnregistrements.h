@@ -1,4 +1,5 @@
 #pragma once
+#include <type_traits>
 // The record file of scores and saved games: 128-byte records with one value at
 // the start of each, little-endian, text in Windows-1252.
 #include "engine/communs.h"
@@ -15,6 +16,9 @@ constexpr int LongueurChaîneMax = TailleEnregistrement - 2;
 class EcritureEnregistrements {
 public:
     void Entier(i16 v);
+    // A Boolean goes in as -1 or 0, through Booléen: a bare bool would write 1.
+    template <class T> requires std::is_same_v<T, bool> void Entier(T) = delete;
+    template <class T> requires std::is_same_v<T, bool> void Long(T) = delete;
     void Long(i32 v);
     void Chaîne(const QString &texte); // cut to what a record holds
     void LigneScore(const TLigneScore &ligne, i16 niveau);

@@ -54,13 +54,13 @@ NouvellePartie::NouvellePartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
     move((écran.largeur - width()) / 2, (écran.hauteur - height()) / 2);
 
     // Apprentissage is never offered again: it shares level 1 with Facile.
-    switch (Niveau) {
+    switch (Jeu().Niveau) {
     case 2: NiveauMoyen->setChecked(true); break;
     case 3: NiveauDifficile->setChecked(true); break;
     case 4: NiveauExpert->setChecked(true); break;
     default: NiveauFacile->setChecked(true); break;
     }
-    BoîteNomJoueur->setText(NomJoueur);
+    BoîteNomJoueur->setText(Jeu().NomJoueur);
 
     connect(BoutonSortie, &QPushButton::clicked, this, [this] { BoutonSortie_Click(); });
     connect(BoutonAnnuler, &QPushButton::clicked, this, [this] { BoutonAnnuler_Click(); });
@@ -69,7 +69,7 @@ NouvellePartie::NouvellePartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
 void NouvellePartie::showEvent(QShowEvent *e)
 {
     QDialog::showEvent(e);
-    if (!NomJoueur.isEmpty())
+    if (!Jeu().NomJoueur.isEmpty())
         BoutonSortie->setFocus();
     else
         BoîteNomJoueur->setFocus();
@@ -81,33 +81,33 @@ void NouvellePartie::BoutonSortie_Click()
         Boîte(Messages[11], StyleExclamation, Messages[12]);
         return;
     }
-    NomJoueur = BoîteNomJoueur->text().left(20);
-    ModeApprentissage = False;
-    ScoreGelé = False;
+    Jeu().NomJoueur = BoîteNomJoueur->text().left(20);
+    Jeu().ModeApprentissage = False;
+    Jeu().ScoreGelé = False;
     auto &E = Principal();
     E.BoutonGruge->setPicture(E.AmpouleAllumée->Picture());
     if (NiveauFacile->isChecked())
-        Niveau = 1;
+        Jeu().Niveau = 1;
     else if (NiveauMoyen->isChecked())
-        Niveau = 2;
+        Jeu().Niveau = 2;
     else if (NiveauDifficile->isChecked())
-        Niveau = 3;
+        Jeu().Niveau = 3;
     else if (NiveauExpert->isChecked())
-        Niveau = 4;
+        Jeu().Niveau = 4;
     else if (NiveauApprentissage->isChecked()) {
-        Niveau = 1;
-        ModeApprentissage = True;
-        ScoreGelé = True;
+        Jeu().Niveau = 1;
+        Jeu().ModeApprentissage = True;
+        Jeu().ScoreGelé = True;
     }
     EnregistreJoueur();
-    Etape = OrdreEtapes[1];
-    HeureDépart = SecondesDepuisMinuit();
+    Jeu().Etape = Jeu().OrdreEtapes[1];
+    Jeu().HeureDépart = SecondesDepuisMinuit();
     accept();
 }
 
 void NouvellePartie::BoutonAnnuler_Click()
 {
-    Etape = 0;
+    Jeu().Etape = 0;
     QDialog::reject();
 }
 

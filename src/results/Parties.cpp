@@ -36,7 +36,7 @@ QString FichierLancementNoté(const QString &dossierPartie)
     return RelitTelQuel(relatif) ? relatif : QString();
 }
 
-bool PartieEnCours() { return !PartieVierge && !PartieEnregistrée && Etape != 6; }
+bool PartieEnCours() { return !Jeu().PartieVierge && !Jeu().PartieEnregistrée && Jeu().Etape != 6; }
 
 QString RépertoireDe(const QString &Chemin)
 {
@@ -49,11 +49,11 @@ void EnregistrePartie()
     if (!PartieEnCours())
         return;
     SoldeQuestion();
-    if (Score <= 0) {
+    if (Jeu().Score <= 0) {
         PartiePerdue();
         return;
     }
-    DuréePartie = DuréeDepuis(HeureDépart);
+    Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
     ModeRépertoires = 1;
     TypeFichier = 4;
     MontreSélectionPartie();
@@ -67,25 +67,25 @@ QByteArray ContenuPartie(const QString &FichierNoté)
     f.Chaîne(FichierNoté);
     if (FichierLancement == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
-            f.Entier(OrdreEtapes[i]);
+            f.Entier(Jeu().OrdreEtapes[i]);
         f.Entier(static_cast<i16>(NombreScores[1] + NombreScores[2] + NombreScores[3] + NombreScores[4]));
         for (int n = 1; n <= 4; ++n)
             for (int r = 1; r <= NombreScores[n]; ++r)
                 f.LigneScore(MeilleursScores[n][r], static_cast<i16>(n));
     }
-    f.Entier(Etape);
-    f.Chaîne(NomJoueur);
-    f.Entier(Niveau);
-    f.Entier(ModeApprentissage);
-    f.Long(Score);
+    f.Entier(Jeu().Etape);
+    f.Chaîne(Jeu().NomJoueur);
+    f.Entier(Jeu().Niveau);
+    f.Entier(Booléen(Jeu().ModeApprentissage));
+    f.Long(Jeu().Score);
     for (int i = 1; i <= NombrePlaces; ++i)
-        f.Paire(static_cast<i16>(i), Cantons[i].Trouvé);
+        f.Paire(static_cast<i16>(i), Jeu().Cantons[i].Trouvé);
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int j = 0; j <= 4; ++j) {
-            f.Entier(Cantons[i].Réussi[j]);
-            f.Long(Cantons[i].Pertes[j]);
+            f.Entier(Jeu().Cantons[i].Réussi[j]);
+            f.Long(Jeu().Cantons[i].Pertes[j]);
         }
-    f.Long(DuréePartie);
+    f.Long(Jeu().DuréePartie);
     return f.Octets();
 }
 
@@ -174,7 +174,7 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     FichierLancement = fichier;
     if (fichier == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
-            OrdreEtapes[i] = ordre[i];
+            Jeu().OrdreEtapes[i] = ordre[i];
         for (const auto &[l, n] : lignes) {
             NombreScores[n] = NombreScores[n] + 1;
             MeilleursScores[n][NombreScores[n]] = l;
@@ -182,27 +182,27 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     } else {
         ChargeScores();
     }
-    Etape = étape;
-    RangEtape = 1;
-    NomJoueur = nom.left(20);
-    Niveau = niveau;
-    ModeApprentissage = Booléen(apprentissage != 0);
-    ScoreGelé = ModeApprentissage;
+    Jeu().Etape = étape;
+    Jeu().RangEtape = 1;
+    Jeu().NomJoueur = nom.left(20);
+    Jeu().Niveau = niveau;
+    Jeu().ModeApprentissage = apprentissage != 0;
+    Jeu().ScoreGelé = Jeu().ModeApprentissage;
     DébutEtape();
-    PartieVierge = False;
-    Score = score;
-    RestantsEtape = NombrePlaces;
+    Jeu().PartieVierge = False;
+    Jeu().Score = score;
+    Jeu().RestantsEtape = NombrePlaces;
     for (int i = 1; i <= NombrePlaces; ++i) {
-        Cantons[i].Trouvé = trouvés[i];
+        Jeu().Cantons[i].Trouvé = trouvés[i];
         if (trouvés[i])
-            RestantsEtape = RestantsEtape - 1;
+            Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
     }
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int j = 0; j <= 4; ++j) {
-            Cantons[i].Réussi[j] = Booléen(réussis[i][j] != 0);
-            Cantons[i].Pertes[j] = pertes[i][j];
+            Jeu().Cantons[i].Réussi[j] = Booléen(réussis[i][j] != 0);
+            Jeu().Cantons[i].Pertes[j] = pertes[i][j];
         }
-    DuréePartie = durée;
+    Jeu().DuréePartie = durée;
     for (int i = 1; i <= NombrePlaces; ++i)
         PlaceRond(static_cast<i16>(i));
     return true;
@@ -229,7 +229,7 @@ void FichierLire_Click()
     ModeRépertoires = 2;
     TypeFichier = 4;
     MontreSélectionPartie();
-    ConseilFicheDonné = False;
+    Jeu().ConseilFicheDonné = False;
 }
 
 bool ConfirmeArrêt()
@@ -239,7 +239,7 @@ bool ConfirmeArrêt()
         return false;
     if (enCours) {
         ScoreAbandon();
-        if (Score != 0) {
+        if (Jeu().Score != 0) {
             AfficheScore();
             EnregistreScore();
         }

@@ -11,7 +11,7 @@
 
 #include <functional>
 
-void EnregistreJoueur() { EcritValeur(CléJeu, QStringLiteral("joueur"), NomJoueur); }
+void EnregistreJoueur() { EcritValeur(CléJeu, QStringLiteral("joueur"), Jeu().NomJoueur); }
 
 namespace {
 std::function<void()> dialogueScripté;

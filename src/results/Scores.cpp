@@ -48,9 +48,9 @@ QByteArray ContenuScores(bool AvecScores)
     f.Entier(4);
     f.Entier(NombrePlaces);
     for (int i = 1; i <= 4; ++i)
-        f.Entier(OrdreEtapes[i]);
+        f.Entier(Jeu().OrdreEtapes[i]);
     for (int i = 1; i <= NombrePlaces; ++i)
-        f.Entier(Cantons[i].Inhibé ? True : False);
+        f.Entier(Jeu().Cantons[i].Inhibé ? True : False);
     if (AvecScores)
         for (int n = 1; n <= 4; ++n)
             for (int r = 1; r <= NombreScores[n]; ++r)
@@ -72,7 +72,7 @@ bool LitScores(const QByteArray &contenu)
 {
     LectureEnregistrements f(contenu);
     for (int i = 1; i <= 4; ++i)
-        OrdreEtapes[i] = static_cast<i16>(i);
+        Jeu().OrdreEtapes[i] = static_cast<i16>(i);
     QString version;
     i16 langue = 0, places = 0, cantons = 0;
     if (!f.Chaîne(version) || !f.Entier(langue) || !f.Entier(places) || !f.Entier(cantons))
@@ -90,9 +90,9 @@ bool LitScores(const QByteArray &contenu)
     if (!OrdreValable(ordre))
         return false;
     for (int i = 1; i <= 4; ++i)
-        OrdreEtapes[i] = ordre[i];
+        Jeu().OrdreEtapes[i] = ordre[i];
     for (int i = 1; i <= NombrePlaces; ++i)
-        Cantons[i].Inhibé = Booléen(inhibés[i] != 0);
+        Jeu().Cantons[i].Inhibé = Booléen(inhibés[i] != 0);
 
     while (!f.Fin()) {
         TLigneScore ligne;
@@ -151,23 +151,23 @@ void ChargeScores()
         SignaleFichierScoresAbîmé(FichierLancement);
     }
     for (int i = 1; i <= 4; ++i)
-        OrdreEtapes[i] = static_cast<i16>(i);
+        Jeu().OrdreEtapes[i] = static_cast<i16>(i);
     for (int i = 1; i <= NombrePlaces; ++i)
-        Cantons[i].Inhibé = False;
+        Jeu().Cantons[i].Inhibé = False;
 }
 
 void EnregistreScore()
 {
-    if (ScoreGelé) {
+    if (Jeu().ScoreGelé) {
         JoueSon(SonPerdu);
         Boîte(Messages[44], StyleInformation, Messages[35]);
     } else {
-        DuréePartie = DuréeDepuis(HeureDépart);
-        const int niveau = (Niveau >= 1 && Niveau <= 4) ? Niveau : 0;
+        Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
+        const int niveau = (Jeu().Niveau >= 1 && Jeu().Niveau <= 4) ? Jeu().Niveau : 0;
         int pos = 1;
         for (int i = 1; i <= NombreScores[niveau]; ++i) {
             const TLigneScore &l = MeilleursScores[niveau][i];
-            if (l.Points < Score || (l.Points == Score && l.Durée > DuréePartie)) {
+            if (l.Points < Jeu().Score || (l.Points == Jeu().Score && l.Durée > Jeu().DuréePartie)) {
                 pos = i;
                 break;
             }
@@ -179,20 +179,20 @@ void EnregistreScore()
             MeilleursScores[niveau][r] = MeilleursScores[niveau][r - 1];
         if (pos <= NombreScores[niveau]) {
             JoueSon(SonEtape);
-            if (Score > 0)
+            if (Jeu().Score > 0)
                 Boîte(Messages[39], StyleInformation, Messages[40]);
             else
                 Boîte(Messages[41], StyleInformation, Messages[42]);
-            MeilleursScores[niveau][pos] = TLigneScore{NomJoueur, Score, DuréePartie};
+            MeilleursScores[niveau][pos] = TLigneScore{Jeu().NomJoueur, Jeu().Score, Jeu().DuréePartie};
             EcritFichierScores(true);
         } else {
             JoueSon(SonPerdu);
             Boîte(Messages[43], StyleInformation, Messages[35]);
         }
     }
-    NiveauAffiché = Niveau;
-    PartieEnregistrée = True;
-    ScoresFinPartie = True;
+    NiveauAffiché = Jeu().Niveau;
+    Jeu().PartieEnregistrée = True;
+    Jeu().ScoresFinPartie = True;
     MontreAffichageScores();
 }
 

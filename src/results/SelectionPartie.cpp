@@ -178,17 +178,17 @@ void SélectionPartie::BoutonOK_Click()
             }
             QFile::remove(cheminFichier);
             ProposeRépertoire();
-            ModeRévision = False;
+            Jeu().ModeRévision = False;
             AjusteCarte();
             AffichePanneau();
             MontreCantons();
             AfficheScore();
-            AfficheRestants(RestantsEtape);
+            AfficheRestants(Jeu().RestantsEtape);
             QuestionSuivante();
-            PartieVierge = False;
-            PartieEnregistrée = False;
+            Jeu().PartieVierge = False;
+            Jeu().PartieEnregistrée = False;
             accept();
-            HeureDépart = static_cast<i32>(std::lrint(Timer() - DuréePartie));
+            Jeu().HeureDépart = static_cast<i32>(std::lrint(Timer() - Jeu().DuréePartie));
             return;
         }
         if (Boîte(Messages[9], StyleQuestion, Messages[109]) == RéponseOui) {
@@ -197,10 +197,10 @@ void SélectionPartie::BoutonOK_Click()
         }
         FichierLancement = cheminFichier;
         ChargeScores();
-        Etape = 0;
+        Jeu().Etape = 0;
         DébutEtape();
-        PartieVierge = True;
-        ModeRévision = False;
+        Jeu().PartieVierge = True;
+        Jeu().ModeRévision = False;
         AjusteCarte();
         MontreCantons();
         accept();
@@ -229,7 +229,7 @@ void SélectionPartie::BoutonOK_Click()
     } else {
         FichierLancement = cheminFichier;
         for (int i = 1; i <= NombrePlaces; ++i)
-            Cantons[i].Inhibé = Cantons[i].Trouvé;
+            Jeu().Cantons[i].Inhibé = Jeu().Cantons[i].Trouvé;
         if (ModeRépertoires == 3) {
             EcritFichierScores(true);
         } else {

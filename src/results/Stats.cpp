@@ -62,11 +62,11 @@ void TriePertes()
         A[i] = static_cast<i16>(i);
     for (int i = 1; i <= NombrePlaces; ++i) {
         int p = i;
-        i32 v = Cantons[A[i]].Pertes[0];
+        i32 v = Jeu().Cantons[A[i]].Pertes[0];
         for (int j = i + 1; j <= NombrePlaces; ++j)
-            if (Cantons[A[j]].Pertes[0] > v) {
+            if (Jeu().Cantons[A[j]].Pertes[0] > v) {
                 p = j;
-                v = Cantons[A[j]].Pertes[0];
+                v = Jeu().Cantons[A[j]].Pertes[0];
             }
         TriPertes[i] = A[p];
         // The ones passed over move up one place and keep their order: equal losses stay by number.
@@ -80,7 +80,7 @@ QColor CouleurNeutre() { return QApplication::palette("QScrollBar").color(QPalet
 QColor CouleurAbsence(i16 k)
 {
     for (int i = 1; i <= 4; ++i)
-        if (OrdreEtapes[i] == k)
+        if (Jeu().OrdreEtapes[i] == k)
             return CouleurAbsent;
     return CouleurNeutre();
 }
@@ -164,7 +164,7 @@ void Stats::RemplitStats(i16 Décalage)
     if (Décalage < 0 || Décalage >= NombrePlaces)
         return;
     for (int r = 1; r <= NombrePlaces - Décalage; ++r) {
-        const TCanton &c = Cantons[TriPertes[Décalage + r]];
+        const TCanton &c = Jeu().Cantons[TriPertes[Décalage + r]];
         NomPays[r]->setText(c.Nom);
         Etiquette *cellules[5] = {nullptr, PertePays[r], PerteCapitales[r], PerteDrapeaux[r], PertePlaques[r]};
         for (i16 k = 1; k <= 4; ++k) {
@@ -183,7 +183,7 @@ QByteArray ContenuStats()
 {
     int L = 0;
     for (int i = 1; i <= NombrePlaces; ++i)
-        L = std::max<int>(L, Cantons[i].Nom.size());
+        L = std::max<int>(L, Jeu().Cantons[i].Nom.size());
     const QString &fin = FinDeLigne;
     const QString tirets = Bourrage(L, QLatin1Char('-'));
     const QChar tab = QLatin1Char('\t');
@@ -198,7 +198,7 @@ QByteArray ContenuStats()
     t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Messages[72] + QLatin1Char('/') + Messages[73] + QLatin1Char('/') +
          Messages[74] + QLatin1Char('/') + Messages[162] + fin;
     for (int n = 1; n <= NombrePlaces; ++n) {
-        const TCanton &c = Cantons[TriPertes[n]];
+        const TCanton &c = Jeu().Cantons[TriPertes[n]];
         const QChar guide = n % 4 == 0 ? QLatin1Char('-') : QLatin1Char(' ');
         t += c.Nom + Bourrage(L - int(c.Nom.size()) + 5, guide);
         t += tab + QString::number(c.Pertes[1]);

@@ -26,7 +26,7 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.FichierNouveau, [] { LanceNouvellePartie(); });
     relie(E.FichierEnregistrer, [] { EnregistrePartie(); });
     relie(E.FichierLire, [] { FichierLire_Click(); });
-    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(Niveau); });
+    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(Jeu().Niveau); });
     relie(E.ScoreFacile, [] { AfficheMeilleursScores(1); });
     relie(E.ScoreMoyen, [] { AfficheMeilleursScores(2); });
     relie(E.ScoreDifficile, [] { AfficheMeilleursScores(3); });
@@ -61,12 +61,12 @@ void LanceRévision()
 {
     if (!ConfirmeArrêt())
         return;
-    Etape = 7;
-    Niveau = 1;
+    Jeu().Etape = 7;
+    Jeu().Niveau = 1;
     DébutEtape();
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     CacheZoneJeu();
-    ModeRévision = True;
+    Jeu().ModeRévision = True;
     AjusteCarte();
     MontreCantons();
     AffichePanneau();

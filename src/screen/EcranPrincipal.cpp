@@ -286,7 +286,7 @@ void EcranPrincipal::Relie()
     for (int i = 0; i < 1; ++i)
         ImageRégion[i]->Click = [i] { CliqueCarte(i); };
     for (int i = 1; i <= NombrePlaces; ++i)
-        inv[i]->Click = [i] { CliqueCarte(Cantons[i].Région); };
+        inv[i]->Click = [i] { CliqueCarte(Jeu().Cantons[i].Région); };
     connect(BarreH, &QScrollBar::valueChanged, this, [] { BarreH_Change(); });
     connect(BarreV, &QScrollBar::valueChanged, this, [] { BarreV_Change(); });
     connect(BoutonPasse, &QToolButton::clicked, this, [] { BoutonPasse_Click(); });
@@ -378,13 +378,13 @@ void ChargeEcranPrincipal()
         E.rond[i] = E.CréeDepuisModèle(E.rond[0]);
         E.Pays[i] = E.CréeDepuisModèle(E.Pays[0]);
         E.rond[i]->Click = [i] { rond_Click(static_cast<i16>(i)); };
-        E.Pays[i]->Click = [i] { CliqueCarte(Cantons[i].Région); };
+        E.Pays[i]->Click = [i] { CliqueCarte(Jeu().Cantons[i].Région); };
         E.Pays[i]->hide();
         E.rond[i]->hide();
         E.inv[i]->hide();
-        const Image *R = E.ImageRégion[Cantons[i].Région];
-        E.rond[i]->move(R->Left() + Cantons[i].VilleGauche, R->Top() + Cantons[i].VilleHaut);
-        E.Pays[i]->move(R->Left() + Cantons[i].PaysGauche, R->Top() + Cantons[i].PaysHaut);
+        const Image *R = E.ImageRégion[Jeu().Cantons[i].Région];
+        E.rond[i]->move(R->Left() + Jeu().Cantons[i].VilleGauche, R->Top() + Jeu().Cantons[i].VilleHaut);
+        E.Pays[i]->move(R->Left() + Jeu().Cantons[i].PaysGauche, R->Top() + Jeu().Cantons[i].PaysHaut);
         E.inv[i]->move(E.Pays[i]->pos());
     }
     ChargeImagesPays();
@@ -395,17 +395,17 @@ void ChargeEcranPrincipal()
     SonPerdu = ComposeChemin(RépertoireApplication, QStringLiteral("carte_pe.wav"));
     SonInfo = ComposeChemin(RépertoireApplication, QStringLiteral("carte_hl.wav"));
 
-    Niveau = 0;
+    Jeu().Niveau = 0;
 
     // Dots over all borders, a later canton's border over an earlier one's.
     E.ImageRégion[0]->raise();
     for (int i = 1; i <= NombrePlaces; ++i)
-        if (Cantons[i].Région == 0) {
+        if (Jeu().Cantons[i].Région == 0) {
             E.Pays[i]->raise();
             E.inv[i]->raise();
         }
     for (int i = 1; i <= NombrePlaces; ++i)
-        if (Cantons[i].Région == 0)
+        if (Jeu().Cantons[i].Région == 0)
             E.rond[i]->raise();
 
     // A missing card file is made anew; whatever fails here, the game starts without cards.
@@ -415,14 +415,14 @@ void ChargeEcranPrincipal()
             CréeFichierInfo(i);
     }
 
-    Etape = 0;
+    Jeu().Etape = 0;
     CacheZoneJeu();
-    ModeRévision = False;
+    Jeu().ModeRévision = False;
     AjusteCarte();
     MontreCantons();
-    PartieVierge = True;
-    PartieEnregistrée = False;
-    ConseilFicheDonné = False;
+    Jeu().PartieVierge = True;
+    Jeu().PartieEnregistrée = False;
+    Jeu().ConseilFicheDonné = False;
     PointeurEcran(PointeurNormal);
 }
 
@@ -439,7 +439,7 @@ void AjusteCarte()
     auto &E = Principal();
     Contrôle<QWidget> *carte = E.Carte;
     carte->setTop(5);
-    if (ModeRévision)
+    if (Jeu().ModeRévision)
         carte->setWidth(LargeurEcran - 30);
     else
         carte->setWidth(LargeurEcran - E.QueFaire->Width() - 30);
@@ -506,7 +506,7 @@ void AjusteCarte()
 void AjusteEcran()
 {
     auto &E = Principal();
-    ModeRévision = False;
+    Jeu().ModeRévision = False;
     AjusteCarte();
     const int Droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
 
@@ -606,7 +606,7 @@ void BarreH_Change()
     Défile([](EcranPrincipal &E) {
         E.ImageRégion[0]->setLeft(-E.BarreH->Value());
         for (int i = 1; i <= NombrePlaces; ++i) {
-            const int gauche = E.ImageRégion[Cantons[i].Région]->Left() + Cantons[i].PaysGauche;
+            const int gauche = E.ImageRégion[Jeu().Cantons[i].Région]->Left() + Jeu().Cantons[i].PaysGauche;
             E.Pays[i]->setLeft(gauche);
             E.inv[i]->setLeft(gauche);
         }
@@ -618,7 +618,7 @@ void BarreV_Change()
     Défile([](EcranPrincipal &E) {
         E.ImageRégion[0]->setTop(-E.BarreV->Value());
         for (int i = 1; i <= NombrePlaces; ++i) {
-            const int haut = E.ImageRégion[Cantons[i].Région]->Top() + Cantons[i].PaysHaut;
+            const int haut = E.ImageRégion[Jeu().Cantons[i].Région]->Top() + Jeu().Cantons[i].PaysHaut;
             E.Pays[i]->setTop(haut);
             E.inv[i]->setTop(haut);
         }

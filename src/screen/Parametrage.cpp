@@ -47,8 +47,8 @@ void SéquenceEntrée()
     Principal().HelpContextID = 65;
     DébutEtape();
     AffichePanneau();
-    PartieVierge = True;
-    ModeRévision = False;
+    Jeu().PartieVierge = True;
+    Jeu().ModeRévision = False;
     AjusteCarte();
     MontreCantons();
 }
@@ -58,7 +58,7 @@ void DéfinitParamétrage()
 {
     if (!ConfirmeArrêt())
         return;
-    Etape = 5;
+    Jeu().Etape = 5;
     SéquenceEntrée();
 }
 
@@ -66,7 +66,7 @@ void RevoitParamétrage()
 {
     if (!ConfirmeArrêt())
         return;
-    Etape = 6;
+    Jeu().Etape = 6;
     SéquenceEntrée();
 }
 
@@ -77,7 +77,7 @@ void ParamétrageDéfaut()
     FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
     EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
     ChargeScores();
-    Etape = 6;
+    Jeu().Etape = 6;
     SéquenceEntrée();
 }
 
@@ -88,7 +88,7 @@ void RechargeParamétrage()
     ModeRépertoires = 2;
     TypeFichier = 5;
     MontreSélectionPartie();
-    Etape = 6;
+    Jeu().Etape = 6;
     SéquenceEntrée();
 }
 
@@ -96,22 +96,22 @@ void AfficheParamétrage()
 {
     auto &E = Principal();
     GrilleActive = False;
-    PartieEnregistrée = True;
-    PartieVierge = True;
+    Jeu().PartieEnregistrée = True;
+    Jeu().PartieVierge = True;
     CacheZoneJeu();
     CodeEtapes = 0;
     for (int k = 1; k <= 16; ++k) {
         E.Bouton[k]->setChecked(false);
         E.Bouton[k]->show();
-        E.Bouton[k]->setEnabled(Etape != 6);
+        E.Bouton[k]->setEnabled(Jeu().Etape != 6);
     }
     for (int i = 1; i <= 12; ++i)
         E.LBLParam[i]->show();
     E.Bouton[17]->show();
-    E.Bouton[17]->setEnabled(Etape != 6);
+    E.Bouton[17]->setEnabled(Jeu().Etape != 6);
     for (int n = 1; n <= 4; ++n)
-        if (OrdreEtapes[n] >= 1 && OrdreEtapes[n] <= 4) {
-            const int k = (n - 1) * 4 + OrdreEtapes[n];
+        if (Jeu().OrdreEtapes[n] >= 1 && Jeu().OrdreEtapes[n] <= 4) {
+            const int k = (n - 1) * 4 + Jeu().OrdreEtapes[n];
             E.Bouton[k]->setChecked(true);
             CodeEtapes += 1 << k;
         }
@@ -127,13 +127,13 @@ void AfficheParamétrage()
         E.Bouton[17]->setChecked(true);
         E.Bouton[18]->show();
         E.LBLParam[13]->show();
-        E.Bouton[18]->setEnabled(Etape != 6);
+        E.Bouton[18]->setEnabled(Jeu().Etape != 6);
         QString lancement;
         LitValeur(CléJeu, FichierDeLancement, lancement);
         ParamétrageDeLancement = Booléen(lancement == FichierLancement);
         E.Bouton[18]->setChecked(ParamétrageDeLancement);
     }
-    if (Etape == 6) {
+    if (Jeu().Etape == 6) {
         E.BTN[1]->hide();
         E.BTN[2]->hide();
         E.LBLParam[2]->setText(Messages[70]);
@@ -223,7 +223,7 @@ void BTN_Click(int i)
     }
     bool tousRouges = true;
     for (int c = 1; c <= NombrePlaces; ++c)
-        tousRouges = tousRouges && Cantons[c].Trouvé;
+        tousRouges = tousRouges && Jeu().Cantons[c].Trouvé;
     if (tousRouges) {
         Boîte(Messages[121], StyleExclamation, Messages[46]);
         return;
@@ -237,16 +237,16 @@ void ValideParamétrage()
     SortieParamétrage = True;
     i32 code = 0;
     for (int n = 1; n <= 4; ++n) {
-        OrdreEtapes[n] = 0;
+        Jeu().OrdreEtapes[n] = 0;
         for (int r = 1; r <= 4; ++r)
             if (Case(n, r)->isChecked()) {
-                OrdreEtapes[n] = static_cast<i16>(r);
+                Jeu().OrdreEtapes[n] = static_cast<i16>(r);
                 code += 1 << ((n - 1) * 4 + r);
             }
     }
     bool modifié = false;
     for (int c = 1; c <= NombrePlaces; ++c)
-        modifié = modifié || Cantons[c].Trouvé != Cantons[c].Inhibé;
+        modifié = modifié || Jeu().Cantons[c].Trouvé != Jeu().Cantons[c].Inhibé;
 
     if (!E.Bouton[17]->isChecked()) {
         if (Boîte(Messages[29], StyleQuestion, Messages[106]) != RéponseOui)
@@ -257,7 +257,7 @@ void ValideParamétrage()
             EcritFichierScores(true);
         } else {
             for (int c = 1; c <= NombrePlaces; ++c)
-                Cantons[c].Inhibé = Cantons[c].Trouvé;
+                Jeu().Cantons[c].Inhibé = Jeu().Cantons[c].Trouvé;
             RazScores();
             EcritFichierScores(false);
         }
@@ -283,10 +283,10 @@ void ValideParamétrage()
 
 void AnnuleParamétrage()
 {
-    Etape = 0;
+    Jeu().Etape = 0;
     DébutEtape();
     AffichePanneau();
-    ModeRévision = False;
+    Jeu().ModeRévision = False;
     AjusteCarte();
     MontreCantons();
 }

@@ -130,8 +130,8 @@ void EditerFiches()
 {
     // A game the player keeps stays where it was, behind the editor.
     if (ConfirmeArrêt()) {
-        Etape = 0;
-        ModeRévision = False;
+        Jeu().Etape = 0;
+        Jeu().ModeRévision = False;
         AjusteEcran();
         AjusteCarte();
         MontreCantons();

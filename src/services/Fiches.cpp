@@ -127,9 +127,9 @@ void CréeFichierInfo(int langue)
     QByteArray contenu;
     contenu.reserve(NombreFiches * TailleFiche);
     for (int k = 1; k <= NombreFiches; ++k) {
-        QByteArray r = OctetsFiche({Cantons[k].Nom, Messages[103]});
+        QByteArray r = OctetsFiche({Jeu().Cantons[k].Nom, Messages[103]});
         if (r.isEmpty())
-            r = OctetsFiche({Cantons[k].Nom, QString()});
+            r = OctetsFiche({Jeu().Cantons[k].Nom, QString()});
         if (r.isEmpty())
             r = QByteArray(TailleFiche, '\0');
         contenu.append(r);

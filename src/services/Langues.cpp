@@ -88,10 +88,10 @@ void ChargeImagesPays()
 void EtiquetteEcran()
 {
     auto &E = Principal();
-    if (Etape == 1 && CantonRecherché != 0)
-        E.TexteAChercher->setText(Cantons[CantonRecherché].Nom);
-    if (Etape == 2 && CantonRecherché != 0)
-        E.TexteAChercher->setText(Cantons[CantonRecherché].ChefLieu);
+    if (Jeu().Etape == 1 && Jeu().CantonRecherché != 0)
+        E.TexteAChercher->setText(Jeu().Cantons[Jeu().CantonRecherché].Nom);
+    if (Jeu().Etape == 2 && Jeu().CantonRecherché != 0)
+        E.TexteAChercher->setText(Jeu().Cantons[Jeu().CantonRecherché].ChefLieu);
 
     E.setWindowTitle(Messages[110].trimmed());
     E.BoîteRestants->setTitle(Messages[111]);
@@ -124,7 +124,7 @@ void EtiquetteEcran()
     E.MenuCouleurCapitalesTrouvées->setText(Messages[161]);
     E.MenuFichInfo->setText(Messages[168]);
     E.LBLParam[1]->setText(Messages[68]);
-    E.LBLParam[2]->setText(Etape == 6 ? Messages[70] : Messages[69]);
+    E.LBLParam[2]->setText(Jeu().Etape == 6 ? Messages[70] : Messages[69]);
     if (FichierLancement != QLatin1String("~tmp.~cf"))
         E.LBLParam[3]->setText(Messages[71] + QLatin1Char('\n') + FichierLancement);
     else
@@ -163,10 +163,10 @@ void ChangeLangue(int n)
     MontreCantons();
     AffichePanneau();
     EcritValeur(CléJeu, QStringLiteral("langue"), QLatin1Char(' ') + QString::number(Langue));
-    if (Etape == 7) {
+    if (Jeu().Etape == 7) {
         auto &E = Principal();
         for (int k = 1; k <= NombrePlaces; ++k)
-            E.rond[k]->setToolTip(Cantons[k].ChefLieu);
+            E.rond[k]->setToolTip(Jeu().Cantons[k].ChefLieu);
     }
     PointeurEcran(PointeurNormal);
 }

@@ -188,7 +188,7 @@ void LitParamètres()
     else
         RappelSiLeTempsEstVenu();
 
-    LitValeur(CléJeu, Joueur, NomJoueur);
+    LitValeur(CléJeu, Joueur, Jeu().NomJoueur);
     LitValeur(CléJeu, Répertoire, RépertoireSauvegarde);
     if (!RépertoireAccessible(RépertoireSauvegarde))
         DemandeRépertoireSauvegarde();

@@ -113,7 +113,7 @@ Pompe::Pompe() : QDialog(FormePrincipale())
     TXTInfos->setFocusPolicy(Qt::ClickFocus);
     connect(BTNOK, &QPushButton::clicked, this, [this] { BTNOK_Click(); });
 
-    const int i = CantonFiche;
+    const int i = Jeu().CantonFiche;
     if (i < 1 || i > NombrePlaces || !FormePrincipale())
         return;
     auto &E = Principal();
@@ -133,10 +133,10 @@ Pompe::Pompe() : QDialog(FormePrincipale())
     }
     move(place.gauche, place.haut);
 
-    LBLPays->setText(Cantons[i].Nom + QStringLiteral(" (") + Plaques[i] + QLatin1Char(')'));
+    LBLPays->setText(Jeu().Cantons[i].Nom + QStringLiteral(" (") + Plaques[i] + QLatin1Char(')'));
     IMGDrapeau->setPicture(E.drapeau[i]->Picture());
     IMGDrapeau->setLeft(Moitié(width() - IMGDrapeau->Width()));
-    LBLCapitale->setText(Messages[115] + QStringLiteral(" : ") + Cantons[i].ChefLieu);
+    LBLCapitale->setText(Messages[115] + QStringLiteral(" : ") + Jeu().Cantons[i].ChefLieu);
     LBLCapitale->setTop(IMGDrapeau->Top() + IMGDrapeau->Height() + 5);
     TXTInfos->setTop(LBLCapitale->Top() + LBLCapitale->Height() + 5);
     TXTInfos->setHeight(qMax(0, BTNOK->Top() - TXTInfos->Top() - 5));
@@ -153,12 +153,12 @@ void Pompe::BTNOK_Click() { accept(); }
 
 void MontrePompe()
 {
-    if (CantonFiche < 1 || CantonFiche > NombrePlaces || !FormePrincipale())
+    if (Jeu().CantonFiche < 1 || Jeu().CantonFiche > NombrePlaces || !FormePrincipale())
         return;
     {
         Pompe forme;
         ExécuteModal(forme);
     }
     // The card's target goes with it.
-    PlaceRond(CantonFiche);
+    PlaceRond(Jeu().CantonFiche);
 }

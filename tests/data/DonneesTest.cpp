@@ -44,7 +44,7 @@ TEST_F(Carte, EveryTownDotLiesInItsOwnCanton)
 {
     ASSERT_TRUE(chargée);
     for (int i = 1; i <= 26; ++i) {
-        const TCanton &c = Cantons[i];
+        const TCanton &c = Jeu().Cantons[i];
         EXPECT_EQ(ZoneEn(0, c.VilleGauche + 3, c.VilleHaut + 4), i) << c.Nom.toStdString();
     }
 }
@@ -61,11 +61,11 @@ TEST_F(Carte, EveryCantonHasPixelsAndStaysInsideItsPicture)
             ++pixels[z];
             if (z == 0)
                 continue;
-            const QRect r(Cantons[z].PaysGauche, Cantons[z].PaysHaut, TaillePays(z).width(), TaillePays(z).height());
+            const QRect r(Jeu().Cantons[z].PaysGauche, Jeu().Cantons[z].PaysHaut, TaillePays(z).width(), TaillePays(z).height());
             ASSERT_TRUE(r.contains(x, y)) << "canton " << z << " at " << x << "," << y;
         }
     for (int i = 1; i <= 26; ++i)
-        EXPECT_GT(pixels[i], 20) << Cantons[i].Nom.toStdString();
+        EXPECT_GT(pixels[i], 20) << Jeu().Cantons[i].Nom.toStdString();
     // The country is a good part of the map, and the map isn't all country.
     EXPECT_GT(pixels[0], 652 * 456 / 5);
     EXPECT_LT(pixels[0], 652 * 456 * 4 / 5);
@@ -84,10 +84,10 @@ TEST_F(Carte, TheRasterAgreesWithTheDrawnBorders)
             for (int x = 0; x < inv.width(); ++x)
                 if (qAlpha(inv.pixel(x, y)) > 200) {
                     ++dessinés;
-                    dedans += ZoneEn(0, Cantons[i].PaysGauche + x, Cantons[i].PaysHaut + y) == i;
+                    dedans += ZoneEn(0, Jeu().Cantons[i].PaysGauche + x, Jeu().Cantons[i].PaysHaut + y) == i;
                 }
         ASSERT_GT(dessinés, 10) << i;
-        EXPECT_GT(dedans, dessinés * 8 / 10) << Cantons[i].Nom.toStdString() << ": " << dedans << " of " << dessinés;
+        EXPECT_GT(dedans, dessinés * 8 / 10) << Jeu().Cantons[i].Nom.toStdString() << ": " << dedans << " of " << dessinés;
     }
 }
 

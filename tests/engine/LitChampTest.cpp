@@ -32,35 +32,35 @@ TEST(LitChamp, LeadingNumberConversion)
 
 TEST(ChargeCantons, GermanNamesSameCoordinatesAndPlates)
 {
-    Cantons[6].Trouvé = True;
-    Cantons[6].Pertes[2] = 17;
+    Jeu().Cantons[6].Trouvé = True;
+    Jeu().Cantons[6].Pertes[2] = 17;
     Langue = 1;
     ChargeChaînes();
     ChargeCantons();
-    const TCanton berneFr = Cantons[6];
+    const TCanton berneFr = Jeu().Cantons[6];
     EXPECT_EQ(berneFr.Nom, "Berne");
     EXPECT_EQ(berneFr.PaysGauche, 151);
     EXPECT_EQ(berneFr.PaysHaut, 103);
     EXPECT_EQ(berneFr.VilleGauche, 218);
     EXPECT_EQ(berneFr.VilleHaut, 198);
-    EXPECT_EQ(Cantons[5].ChefLieu, QString::fromUtf8("Bâle"));
+    EXPECT_EQ(Jeu().Cantons[5].ChefLieu, QString::fromUtf8("Bâle"));
     EXPECT_EQ(Plaques[26], "ZH");
 
     Langue = 2;
     ChargeChaînes();
     ChargeCantons();
-    EXPECT_EQ(Cantons[6].Nom, "Bern");
-    EXPECT_EQ(Cantons[5].ChefLieu, "Basel");
-    EXPECT_EQ(Cantons[10].Nom, QString::fromUtf8("Graubünden"));
-    EXPECT_EQ(Cantons[6].PaysGauche, berneFr.PaysGauche);
-    EXPECT_EQ(Cantons[6].VilleHaut, berneFr.VilleHaut);
+    EXPECT_EQ(Jeu().Cantons[6].Nom, "Bern");
+    EXPECT_EQ(Jeu().Cantons[5].ChefLieu, "Basel");
+    EXPECT_EQ(Jeu().Cantons[10].Nom, QString::fromUtf8("Graubünden"));
+    EXPECT_EQ(Jeu().Cantons[6].PaysGauche, berneFr.PaysGauche);
+    EXPECT_EQ(Jeu().Cantons[6].VilleHaut, berneFr.VilleHaut);
     EXPECT_EQ(Plaques[6], "BE");
     // A change of language keeps what the game knows of the canton.
-    EXPECT_EQ(Cantons[6].Trouvé, True);
-    EXPECT_EQ(Cantons[6].Pertes[2], 17);
-    EXPECT_EQ(Cantons[0].Trouvé, False);
+    EXPECT_EQ(Jeu().Cantons[6].Trouvé, True);
+    EXPECT_EQ(Jeu().Cantons[6].Pertes[2], 17);
+    EXPECT_EQ(Jeu().Cantons[0].Trouvé, False);
 
     Langue = 1;
     ChargeChaînes();
-    Cantons[6] = TCanton{};
+    Jeu().Cantons[6] = TCanton{};
 }

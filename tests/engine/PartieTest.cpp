@@ -19,7 +19,7 @@ using Partie = JeuTest;
 // Plays every step through to its end with right answers only.
 void JoueJusquAuBout(JeuTest &t, std::function<void()> aChaqueQuestion = {})
 {
-    for (int garde = 0; Etape != 0 && garde < 200; ++garde) {
+    for (int garde = 0; Jeu().Etape != 0 && garde < 200; ++garde) {
         if (aChaqueQuestion)
             aChaqueQuestion();
         t.RépondJuste();
@@ -32,17 +32,17 @@ TEST_F(Partie, AWholeGameAtEachLevelEndsAt999999)
         boîtes.journal.clear();
         sons.joués.clear();
         NouvellePartieAuNiveau(niveau);
-        ASSERT_EQ(Etape, 1);
-        ASSERT_EQ(RestantsEtape, 26);
+        ASSERT_EQ(Jeu().Etape, 1);
+        ASSERT_EQ(Jeu().RestantsEtape, 26);
         std::vector<i16> étapesVues;
         JoueJusquAuBout(*this, [&] {
-            if (étapesVues.empty() || étapesVues.back() != Etape)
-                étapesVues.push_back(Etape);
+            if (étapesVues.empty() || étapesVues.back() != Jeu().Etape)
+                étapesVues.push_back(Jeu().Etape);
         });
         EXPECT_EQ(étapesVues, (std::vector<i16>{1, 2, 3, 4})) << "level " << niveau;
-        EXPECT_EQ(Score, 999999);
-        EXPECT_EQ(Etape, 0);
-        EXPECT_EQ(PartieEnregistrée, True);
+        EXPECT_EQ(Jeu().Score, 999999);
+        EXPECT_EQ(Jeu().Etape, 0);
+        EXPECT_TRUE(Jeu().PartieEnregistrée);
         // Three announcements of the next step, each with its sound, then the verdict.
         ASSERT_EQ(boîtes.journal.size(), 4u);
         EXPECT_EQ(boîtes.journal[3].texte, Messages[39]);
@@ -51,113 +51,113 @@ TEST_F(Partie, AWholeGameAtEachLevelEndsAt999999)
         EXPECT_EQ(boîtes.journal[1].titre, "Etape suivante");
         EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonEtape), 4);
         for (int i = 1; i <= 26; ++i)
-            EXPECT_EQ(Cantons[i].Réussi[4], True);
+            EXPECT_EQ(Jeu().Cantons[i].Réussi[4], True);
         EXPECT_FALSE(Principal().rond[5]->Visible());
     }
 }
 
 TEST_F(Partie, OrderOfTwoStepsEndsWithoutAnnouncementAfterFlags)
 {
-    OrdreEtapes[1] = 2;
-    OrdreEtapes[2] = 3;
-    OrdreEtapes[3] = OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = 2;
+    Jeu().OrdreEtapes[2] = 3;
+    Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
     NouvellePartieAuNiveau(2);
-    ASSERT_EQ(Etape, 2);
-    EXPECT_EQ(Principal().TexteAChercher->text(), Cantons[CantonRecherché].ChefLieu);
+    ASSERT_EQ(Jeu().Etape, 2);
+    EXPECT_EQ(Principal().TexteAChercher->text(), Jeu().Cantons[Jeu().CantonRecherché].ChefLieu);
     EXPECT_FALSE(Principal().ElémentRecherché->Visible());
     for (int n = 0; n < 26; ++n)
         RépondJuste();
-    ASSERT_EQ(Etape, 3);
+    ASSERT_EQ(Jeu().Etape, 3);
     EXPECT_TRUE(Principal().ElémentRecherché->Visible());
     EXPECT_FALSE(Principal().TexteAChercher->Visible());
     EXPECT_EQ(Principal().ImageRecherchée->Width(), 125);
     EXPECT_EQ(Principal().ImageRecherchée->Left(), 38); // (200 − 125) / 2 rounds to even
     for (int n = 0; n < 26; ++n)
         RépondJuste();
-    EXPECT_EQ(Etape, 0);
+    EXPECT_EQ(Jeu().Etape, 0);
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[1].texte, Messages[39]);
     for (int k = 1; k <= 4; ++k)
-        OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
 }
 
 TEST_F(Partie, AKindTwiceInAHandMadeOrderIsPlayedTwiceAndTheGameEnds)
 {
-    OrdreEtapes[1] = OrdreEtapes[2] = 2;
-    OrdreEtapes[3] = OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = Jeu().OrdreEtapes[2] = 2;
+    Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
     NouvellePartieAuNiveau(2);
-    for (int n = 0; n < 52 && Etape == 2; ++n)
+    for (int n = 0; n < 52 && Jeu().Etape == 2; ++n)
         RépondJuste();
-    EXPECT_EQ(Etape, 0);
+    EXPECT_EQ(Jeu().Etape, 0);
     EXPECT_TRUE(boîtes.ADit(Messages[39]));
     for (int k = 1; k <= 4; ++k)
-        OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
 }
 
 TEST_F(Partie, TheDrawTakesTheRthCantonLeftAndNeverRepeatsAQuestion)
 {
     TiragesScriptés({0.0f});
     NouvellePartieAuNiveau(3);
-    EXPECT_EQ(CantonRecherché, 1);
+    EXPECT_EQ(Jeu().CantonRecherché, 1);
     // Inhibited cantons are found from the step's start and never drawn.
     for (int i = 1; i <= 26; ++i)
-        Cantons[i].Trouvé = Booléen(i != 7 && i != 12 && i != 20);
-    RestantsEtape = 3;
-    CantonRecherché = 7;
+        Jeu().Cantons[i].Trouvé = Booléen(i != 7 && i != 12 && i != 20);
+    Jeu().RestantsEtape = 3;
+    Jeu().CantonRecherché = 7;
     TiragesScriptés({0.5f});        // r = Int(3 × 0.5 + 1) = 2: canton 12
     QuestionSuivante();
-    EXPECT_EQ(CantonRecherché, 12);
+    EXPECT_EQ(Jeu().CantonRecherché, 12);
     TiragesScriptés({0.5f});        // 12 again: its neighbour below, 7
     QuestionSuivante();
-    EXPECT_EQ(CantonRecherché, 7);
+    EXPECT_EQ(Jeu().CantonRecherché, 7);
     TiragesScriptés({0.0f});        // 7 again at r = 1: the second, 12
     QuestionSuivante();
-    EXPECT_EQ(CantonRecherché, 12);
+    EXPECT_EQ(Jeu().CantonRecherché, 12);
     TiragesScriptés({0.99999f});    // r = 3: canton 20
     QuestionSuivante();
-    EXPECT_EQ(CantonRecherché, 20);
+    EXPECT_EQ(Jeu().CantonRecherché, 20);
 
     // With one left the same canton comes back; with two the other always does.
-    Cantons[7].Trouvé = Cantons[12].Trouvé = True;
-    RestantsEtape = 1;
+    Jeu().Cantons[7].Trouvé = Jeu().Cantons[12].Trouvé = True;
+    Jeu().RestantsEtape = 1;
     for (float t : {0.0f, 0.7f}) {
         TiragesScriptés({t});
         QuestionSuivante();
-        EXPECT_EQ(CantonRecherché, 20);
+        EXPECT_EQ(Jeu().CantonRecherché, 20);
     }
-    Cantons[12].Trouvé = False;
-    RestantsEtape = 2;
+    Jeu().Cantons[12].Trouvé = False;
+    Jeu().RestantsEtape = 2;
     for (float t : {0.0f, 0.3f, 0.6f, 0.9f}) {
-        const i16 avant = CantonRecherché;
+        const i16 avant = Jeu().CantonRecherché;
         TiragesScriptés({t});
         QuestionSuivante();
-        EXPECT_NE(CantonRecherché, avant);
+        EXPECT_NE(Jeu().CantonRecherché, avant);
     }
 }
 
 TEST_F(Partie, InhibitedCantonsAreNeverAskedAndCostNothing)
 {
     for (int i : {3, 9, 17})
-        Cantons[i].Inhibé = True;
+        Jeu().Cantons[i].Inhibé = True;
     NouvellePartieAuNiveau(3);
-    EXPECT_EQ(NombreCantons, 23);
-    EXPECT_EQ(RestantsEtape, 23);
+    EXPECT_EQ(Jeu().NombreCantons, 23);
+    EXPECT_EQ(Jeu().RestantsEtape, 23);
     CliqueCanton(9);
-    EXPECT_EQ(Score, 999999);
-    EXPECT_EQ(ErreursQuestion, 0);
-    for (int n = 0; n < 23 && Etape == 1; ++n) {
-        EXPECT_FALSE(Cantons[CantonRecherché].Inhibé);
+    EXPECT_EQ(Jeu().Score, 999999);
+    EXPECT_EQ(Jeu().ErreursQuestion, 0);
+    for (int n = 0; n < 23 && Jeu().Etape == 1; ++n) {
+        EXPECT_FALSE(Jeu().Cantons[Jeu().CantonRecherché].Inhibé);
         RépondJuste();
     }
-    EXPECT_EQ(Etape, 2);
+    EXPECT_EQ(Jeu().Etape, 2);
     for (int i : {3, 9, 17})
-        Cantons[i].Inhibé = False;
+        Jeu().Cantons[i].Inhibé = False;
 }
 
 TEST_F(Partie, NinthErrorLosesTheQuestionAndTheCantonComesBack)
 {
     NouvellePartieAuNiveau(3);
-    const i16 asked = CantonRecherché;
+    const i16 asked = Jeu().CantonRecherché;
     for (int e = 0; e < 8; ++e)
         RépondFaux();
     EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonErreur), 8);
@@ -168,42 +168,42 @@ TEST_F(Partie, NinthErrorLosesTheQuestionAndTheCantonComesBack)
     EXPECT_EQ(boîtes.journal[0].texte, Messages[38]);
     EXPECT_EQ(boîtes.journal[0].titre, QStringLiteral("Resaisissez-vous !"));
     EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-    EXPECT_EQ(Score, 999999 - 87381);
-    EXPECT_EQ(Cantons[asked].Pertes[0], 87381);
-    EXPECT_EQ(ErreursQuestion, 0);
-    EXPECT_NE(CantonRecherché, asked);
-    EXPECT_FALSE(Cantons[asked].Trouvé);
-    EXPECT_EQ(RestantsEtape, 26);
+    EXPECT_EQ(Jeu().Score, 999999 - 87381);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[0], 87381);
+    EXPECT_EQ(Jeu().ErreursQuestion, 0);
+    EXPECT_NE(Jeu().CantonRecherché, asked);
+    EXPECT_FALSE(Jeu().Cantons[asked].Trouvé);
+    EXPECT_EQ(Jeu().RestantsEtape, 26);
 }
 
 TEST_F(Partie, AWrongClickChargesTheCantonAsked)
 {
     NouvellePartieAuNiveau(2);
-    const i16 asked = CantonRecherché;
+    const i16 asked = Jeu().CantonRecherché;
     const int autre = asked == 1 ? 2 : 1;
     CliqueCanton(autre);
-    EXPECT_EQ(Cantons[asked].Pertes[1], 1);
-    EXPECT_EQ(Cantons[autre].Pertes[0], 0);
-    EXPECT_EQ(PartieVierge, False);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[1], 1);
+    EXPECT_EQ(Jeu().Cantons[autre].Pertes[0], 0);
+    EXPECT_FALSE(Jeu().PartieVierge);
 }
 
 TEST_F(Partie, AFoundCantonCostsAtDifficileButNotAtMoyenOrFacile)
 {
     struct Cas { int niveau; i32 coût; };
     for (Cas cas : {Cas{1, 0}, Cas{2, 0}, Cas{3, 1}, Cas{4, 1}}) {
-        PartieVierge = True;
+        Jeu().PartieVierge = True;
         NouvellePartieAuNiveau(cas.niveau);
-        const i16 premier = CantonRecherché;
+        const i16 premier = Jeu().CantonRecherché;
         RépondJuste();
         sons.joués.clear();
         CliqueCanton(premier);
-        EXPECT_EQ(999999 - Score, cas.coût) << "level " << cas.niveau;
+        EXPECT_EQ(999999 - Jeu().Score, cas.coût) << "level " << cas.niveau;
         EXPECT_EQ(sons.joués.empty(), cas.coût == 0) << "level " << cas.niveau;
         // A click on the found canton's dot is judged alike.
         sons.joués.clear();
-        const i32 avant = Score;
+        const i32 avant = Jeu().Score;
         Principal().rond[premier]->Click();
-        EXPECT_EQ(avant - Score, cas.niveau >= 3 ? 4 : 0) << "level " << cas.niveau;
+        EXPECT_EQ(avant - Jeu().Score, cas.niveau >= 3 ? 4 : 0) << "level " << cas.niveau;
     }
 }
 
@@ -211,7 +211,7 @@ TEST_F(Partie, ApprentissageGivesTheAnswerAwayFromTheThirdError)
 {
     NouvellePartieAuNiveau(1, true);
     auto &E = Principal();
-    const i16 asked = CantonRecherché;
+    const i16 asked = Jeu().CantonRecherché;
     EXPECT_FALSE(E.BoîteScore->Visible());
     RépondFaux();
     RépondFaux();
@@ -219,17 +219,17 @@ TEST_F(Partie, ApprentissageGivesTheAnswerAwayFromTheThirdError)
     RépondFaux();
     EXPECT_TRUE(E.BoutonGruge->Visible());
     EXPECT_FALSE(E.BoutonPasse->Visible());
-    EXPECT_EQ(Score, 999999);
+    EXPECT_EQ(Jeu().Score, 999999);
     E.BoutonGruge->click();
-    EXPECT_EQ(AssistanceUtilisée, True);
+    EXPECT_TRUE(Jeu().AssistanceUtilisée);
     EXPECT_EQ(E.rond[asked]->Width(), 16);
-    EXPECT_EQ(E.rond[asked]->Left(), Cantons[asked].VilleGauche - 4);
+    EXPECT_EQ(E.rond[asked]->Left(), Jeu().Cantons[asked].VilleGauche - 4);
     // The right click closes the question without finding the canton; the rest is charged.
     RépondJuste();
-    EXPECT_FALSE(Cantons[asked].Trouvé);
-    EXPECT_EQ(RestantsEtape, 26);
-    EXPECT_EQ(Cantons[asked].Pertes[1], 87381);
-    EXPECT_EQ(Score, 999999);
+    EXPECT_FALSE(Jeu().Cantons[asked].Trouvé);
+    EXPECT_EQ(Jeu().RestantsEtape, 26);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[1], 87381);
+    EXPECT_EQ(Jeu().Score, 999999);
     EXPECT_EQ(E.rond[asked]->Width(), 7);
     EXPECT_FALSE(E.BoutonGruge->Visible());
 }
@@ -237,17 +237,17 @@ TEST_F(Partie, ApprentissageGivesTheAnswerAwayFromTheThirdError)
 TEST_F(Partie, ApprentissageHintComesOnceAndAFoundCantonOpensItsCard)
 {
     NouvellePartieAuNiveau(1, true);
-    const i16 premier = CantonRecherché;
+    const i16 premier = Jeu().CantonRecherché;
     RépondJuste();
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(boîtes.journal[0].texte, Messages[137]);
     EXPECT_EQ(boîtes.journal[0].titre, "A propos...");
     RépondFaux();
-    const i16 erreurs = ErreursQuestion;
+    const i16 erreurs = Jeu().ErreursQuestion;
     boîtes.journal.clear();
     CliqueCanton(premier);
-    EXPECT_EQ(CantonFiche, premier);
-    EXPECT_EQ(ErreursQuestion, erreurs);
+    EXPECT_EQ(Jeu().CantonFiche, premier);
+    EXPECT_EQ(Jeu().ErreursQuestion, erreurs);
     EXPECT_TRUE(sons.AJoué("carte_hl.wav"));
     ASSERT_FALSE(FormesMontrées().empty());
     EXPECT_EQ(FormesMontrées().back(), "Pompe");
@@ -263,8 +263,8 @@ TEST_F(Partie, TheLastRightAnswerOfAStepPlaysNoBravo)
     sons.joués.clear();
     RépondJuste();
     EXPECT_EQ(sons.joués, std::vector<QString>({SonEtape}));
-    EXPECT_EQ(Etape, 2);
-    EXPECT_EQ(RestantsEtape, 26);
+    EXPECT_EQ(Jeu().Etape, 2);
+    EXPECT_EQ(Jeu().RestantsEtape, 26);
     EXPECT_EQ(Principal().Reste[2]->text(), "2");
 }
 
@@ -281,21 +281,21 @@ TEST_F(Partie, LeavingAGameAsksOnlyOnceAClickWasMade)
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(boîtes.journal[0].style, StyleQuestion);
     EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Partie en cours..."));
-    EXPECT_EQ(Etape, 1);
-    EXPECT_EQ(RestantsEtape, 25);
+    EXPECT_EQ(Jeu().Etape, 1);
+    EXPECT_EQ(Jeu().RestantsEtape, 25);
 
     boîtes.réponses = {RéponseOui};
     EXPECT_TRUE(ConfirmeArrêt());
-    EXPECT_EQ(Score, -999999 + 1 * 4807);
-    EXPECT_EQ(PartieEnregistrée, True);
+    EXPECT_EQ(Jeu().Score, -999999 + 1 * 4807);
+    EXPECT_TRUE(Jeu().PartieEnregistrée);
 }
 
 TEST_F(Partie, ACancelledNewGameLeavesAnEmptyMap)
 {
     NouvellePartieAuNiveau(1);
-    InstalleDialogueNouvellePartie([] { Etape = 0; });
+    InstalleDialogueNouvellePartie([] { Jeu().Etape = 0; });
     LanceNouvellePartie();
-    EXPECT_EQ(Etape, 0);
+    EXPECT_EQ(Jeu().Etape, 0);
     for (int i = 1; i <= 26; ++i) {
         EXPECT_FALSE(Principal().rond[i]->Visible());
         EXPECT_FALSE(Principal().inv[i]->Visible());
@@ -308,17 +308,17 @@ TEST_F(Partie, MoyenShowsTheOutlineAndTheBigCantonsTheirReduction)
     auto &E = Principal();
     NouvellePartieAuNiveau(2);
     for (int c : {6, 10, 23, 25}) {
-        Cantons[c].Trouvé = False;
-        CantonRecherché = 0;
-        RestantsEtape = 1;
+        Jeu().Cantons[c].Trouvé = False;
+        Jeu().CantonRecherché = 0;
+        Jeu().RestantsEtape = 1;
         for (int i = 1; i <= 26; ++i)
-            Cantons[i].Trouvé = Booléen(i != c);
+            Jeu().Cantons[i].Trouvé = Booléen(i != c);
         QuestionSuivante();
-        ASSERT_EQ(CantonRecherché, c);
+        ASSERT_EQ(Jeu().CantonRecherché, c);
         const Image *source = E.miniature[c] ? E.miniature[c] : E.inv[c];
         EXPECT_EQ(E.ImageRecherchée->Width(), source->Width()) << c;
         EXPECT_EQ(E.ImageRecherchée->Height(), source->Height()) << c;
-        EXPECT_EQ(E.TexteAChercher->text(), Cantons[c].Nom);
+        EXPECT_EQ(E.TexteAChercher->text(), Jeu().Cantons[c].Nom);
     }
 }
 
@@ -330,7 +330,7 @@ TEST_F(Partie, MarkersFollowTheLevelAndTheStep)
         EXPECT_TRUE(!E.Pays[i]->Visible() && !E.inv[i]->Visible() && !E.rond[i]->Visible());
 
     NouvellePartieAuNiveau(1);
-    const i16 c = CantonRecherché;
+    const i16 c = Jeu().CantonRecherché;
     EXPECT_TRUE(E.inv[c]->Visible() && !E.Pays[c]->Visible());
     RépondJuste();
     EXPECT_TRUE(E.Pays[c]->Visible() && !E.inv[c]->Visible());
@@ -341,7 +341,7 @@ TEST_F(Partie, MarkersFollowTheLevelAndTheStep)
     EXPECT_FALSE(E.inv[1]->Visible());
 
     NouvellePartieAuNiveau(3);
-    const i16 d = CantonRecherché;
+    const i16 d = Jeu().CantonRecherché;
     RépondJuste();
     // At Difficile a right answer changes nothing on the map.
     EXPECT_TRUE(E.inv[d]->Visible() && !E.Pays[d]->Visible());
@@ -351,12 +351,12 @@ TEST_F(Partie, MarkersFollowTheLevelAndTheStep)
 TEST_F(Partie, ALanguageChangeShowsTheQuestionInGermanAtOnce)
 {
     NouvellePartieAuNiveau(3);
-    const i16 c = CantonRecherché;
+    const i16 c = Jeu().CantonRecherché;
     RépondFaux();
     ChangeLangue(2);
-    EXPECT_EQ(Principal().TexteAChercher->text(), Cantons[c].Nom);
-    EXPECT_EQ(CantonRecherché, c);
-    EXPECT_EQ(Score, 999998);
+    EXPECT_EQ(Principal().TexteAChercher->text(), Jeu().Cantons[c].Nom);
+    EXPECT_EQ(Jeu().CantonRecherché, c);
+    EXPECT_EQ(Jeu().Score, 999998);
     EXPECT_EQ(Principal().QueFaire->text(), Messages[113]);
     ChangeLangue(3);
     EXPECT_EQ(Langue, 2);
@@ -371,7 +371,7 @@ namespace {
 TEST_F(Partie, ADoubleClickAnswersOnce)
 {
     NouvellePartieAuNiveau(3);
-    const i16 c = CantonRecherché;
+    const i16 c = Jeu().CantonRecherché;
     auto &E = Principal();
     const QPoint p = PointDe(c);
     QWidget *cible = E.Carte->childAt(p);
@@ -385,9 +385,9 @@ TEST_F(Partie, ADoubleClickAnswersOnce)
         QMouseEvent e(t, QPointF(local), global, Qt::LeftButton, enfoncé ? Qt::LeftButton : Qt::NoButton, {});
         QApplication::sendEvent(cible, &e);
     }
-    EXPECT_TRUE(Cantons[c].Trouvé);
-    EXPECT_EQ(RestantsEtape, 25);
-    EXPECT_EQ(Score, 999999) << "the second half of the double click isn't judged against the next question";
+    EXPECT_TRUE(Jeu().Cantons[c].Trouvé);
+    EXPECT_EQ(Jeu().RestantsEtape, 25);
+    EXPECT_EQ(Jeu().Score, 999999) << "the second half of the double click isn't judged against the next question";
 }
 
 } // namespace

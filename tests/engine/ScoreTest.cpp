@@ -13,65 +13,65 @@ using Score_ = JeuTest;
 TEST_F(Score_, PenaltiesGrowFourfoldUpToTheLostQuestion)
 {
     NouvellePartieAuNiveau(3);
-    const i16 asked = CantonRecherché;
+    const i16 asked = Jeu().CantonRecherché;
     const i32 attendus[9] = {1, 5, 21, 85, 341, 1365, 5461, 21845, 87381};
     i32 s = 999999;
     for (i16 k = 0; k <= 8; ++k) {
         s = Pénalité(s, k);
         EXPECT_EQ(999999 - s, attendus[k]) << "error " << k + 1;
     }
-    EXPECT_EQ(Cantons[asked].Pertes[0], 87381);
-    EXPECT_EQ(Cantons[asked].Pertes[1], 87381);
-    EXPECT_EQ(Cantons[asked].Pertes[2], 0);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[0], 87381);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[1], 87381);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[2], 0);
 
     // Frozen at Apprentissage: the losses are counted, the score stands.
-    ScoreGelé = True;
+    Jeu().ScoreGelé = True;
     EXPECT_EQ(Pénalité(500, 3), 500);
-    EXPECT_EQ(Cantons[asked].Pertes[0], 87381 + 64);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[0], 87381 + 64);
 }
 
 TEST_F(Score_, ScoreOfAStoppedGame)
 {
     NouvellePartieAuNiveau(2);
     // Default order, stopped in Drapeaux with 10 of 26 found.
-    Etape = 3;
-    NombreCantons = 26;
-    RestantsEtape = 16;
+    Jeu().Etape = 3;
+    Jeu().NombreCantons = 26;
+    Jeu().RestantsEtape = 16;
     ScoreAbandon();
     EXPECT_EQ(PointsParCanton, 4807);
-    EXPECT_EQ(Score, -432773);
+    EXPECT_EQ(Jeu().Score, -432773);
 
-    NombreCantons = 20;
-    RestantsEtape = 20;
-    Etape = 1;
+    Jeu().NombreCantons = 20;
+    Jeu().RestantsEtape = 20;
+    Jeu().Etape = 1;
     ScoreAbandon();
     EXPECT_EQ(PointsParCanton, 6249);
-    EXPECT_EQ(Score, -999999);
+    EXPECT_EQ(Jeu().Score, -999999);
 
     // A set of the single step Plaques: the weights not played stay in the divisor.
-    OrdreEtapes[1] = 4;
-    OrdreEtapes[2] = OrdreEtapes[3] = OrdreEtapes[4] = 0;
-    Etape = 4;
-    NombreCantons = 12;
-    RestantsEtape = 1;
+    Jeu().OrdreEtapes[1] = 4;
+    Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
+    Jeu().Etape = 4;
+    Jeu().NombreCantons = 12;
+    Jeu().RestantsEtape = 1;
     ScoreAbandon();
-    EXPECT_EQ(Score, -999999 + 11 * (999999 / 96));
+    EXPECT_EQ(Jeu().Score, -999999 + 11 * (999999 / 96));
     for (int k = 1; k <= 4; ++k)
-        OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
 }
 
 TEST_F(Score_, DigitsOfScoreAndCount)
 {
     auto &E = Principal();
-    Score = -432773;
+    Jeu().Score = -432773;
     AfficheScore();
     const char *attendus[7] = {"-", "3", "7", "7", "2", "3", "4"};
     for (int i = 0; i <= 6; ++i)
         EXPECT_EQ(E.Digit[i]->text(), attendus[i]) << "Digit " << i;
-    Score = 999999;
+    Jeu().Score = 999999;
     AfficheScore();
     EXPECT_EQ(E.Digit[0]->text(), "");
-    Score = 42;
+    Jeu().Score = 42;
     AfficheScore();
     EXPECT_EQ(E.Digit[6]->text(), "0");
     EXPECT_EQ(E.Digit[2]->text(), "4");
@@ -86,24 +86,24 @@ TEST_F(Score_, ClockAcrossMidnight)
 {
     horloge = 86390.4;
     NouvellePartieAuNiveau(1);
-    EXPECT_EQ(HeureDépart, 86390);
+    EXPECT_EQ(Jeu().HeureDépart, 86390);
     horloge = 25.6;
-    EXPECT_EQ(DuréeDepuis(HeureDépart), 36);
+    EXPECT_EQ(DuréeDepuis(Jeu().HeureDépart), 36);
 }
 
 TEST_F(Score_, PassAfterOneErrorCostsTheRestOfTheQuestion)
 {
     NouvellePartieAuNiveau(1);
-    const i16 asked = CantonRecherché;
+    const i16 asked = Jeu().CantonRecherché;
     EXPECT_FALSE(Principal().BoutonPasse->Visible());
     RépondFaux();
     EXPECT_TRUE(Principal().BoutonPasse->Visible());
     EXPECT_FALSE(Principal().BoutonGruge->Visible());
     Principal().BoutonPasse->click();
-    EXPECT_EQ(Score, 999999 - 87381);
-    EXPECT_EQ(Cantons[asked].Pertes[1], 87381);
-    EXPECT_FALSE(Cantons[asked].Trouvé);
-    EXPECT_EQ(RestantsEtape, 26);
+    EXPECT_EQ(Jeu().Score, 999999 - 87381);
+    EXPECT_EQ(Jeu().Cantons[asked].Pertes[1], 87381);
+    EXPECT_FALSE(Jeu().Cantons[asked].Trouvé);
+    EXPECT_EQ(Jeu().RestantsEtape, 26);
     EXPECT_FALSE(Principal().BoutonPasse->Visible());
     EXPECT_TRUE(sons.AJoué("carte_pe.wav"));
     EXPECT_TRUE(boîtes.journal.empty());
@@ -112,18 +112,18 @@ TEST_F(Score_, PassAfterOneErrorCostsTheRestOfTheQuestion)
 TEST_F(Score_, ARunOutScoreEndsTheGameWithoutTheQuestionsMessage)
 {
     NouvellePartieAuNiveau(3);
-    Score = 60000;
+    Jeu().Score = 60000;
     for (int e = 0; e < 8; ++e)
         RépondFaux();
-    ASSERT_EQ(Etape, 1);
+    ASSERT_EQ(Jeu().Etape, 1);
     RépondFaux(); // the ninth error costs 65536
-    EXPECT_EQ(Etape, 0);
-    EXPECT_EQ(Score, -999999);
+    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Score, -999999);
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[0].titre, "Bon pour un tour gratuit");
     EXPECT_EQ(boîtes.journal[1].texte, Messages[41]) << "a lost game still enters a list with room";
     EXPECT_EQ(boîtes.journal[0].style, StyleCritique);
-    EXPECT_EQ(PartieEnregistrée, True);
+    EXPECT_TRUE(Jeu().PartieEnregistrée);
     EXPECT_FALSE(Principal().BoîteScore->Visible());
 }
 

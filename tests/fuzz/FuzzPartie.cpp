@@ -43,14 +43,14 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
         tête.replace(2, v.size(), v);
         contenu = tête + contenu.mid(1);
     }
-    const i32 score = Score;
-    const i16 étape = Etape;
+    const i32 score = Jeu().Score;
+    const i16 étape = Jeu().Etape;
     if (!RestaurePartie(contenu)) {
-        if (Score != score || Etape != étape)
+        if (Jeu().Score != score || Jeu().Etape != étape)
             std::abort();
         return 0;
     }
-    if (Etape < 1 || Etape > 4 || RestantsEtape < 0 || RestantsEtape > NombrePlaces)
+    if (Jeu().Etape < 1 || Jeu().Etape > 4 || Jeu().RestantsEtape < 0 || Jeu().RestantsEtape > NombrePlaces)
         std::abort();
     return 0;
 }

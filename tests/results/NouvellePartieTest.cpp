@@ -41,7 +41,7 @@ TEST_F(Dialogue, NamesAreCutAtTwentyAndBlankNamesRefused)
         EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Saisie incomplète"));
         EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
         EXPECT_EQ(d.result(), 0);
-        EXPECT_EQ(Etape, 0);
+        EXPECT_EQ(Jeu().Etape, 0);
     }
     const struct { const char *tapé; const char *gardé; } cas[] = {
         {"Abcdefghijklmnopqrst", "Abcdefghijklmnopqrst"},
@@ -52,8 +52,8 @@ TEST_F(Dialogue, NamesAreCutAtTwentyAndBlankNamesRefused)
         NouvellePartie d;
         d.BoîteNomJoueur->setText(QString::fromUtf8(c.tapé));
         d.BoutonSortie->click();
-        EXPECT_EQ(NomJoueur, QString::fromUtf8(c.gardé));
-        EXPECT_EQ(Etape, OrdreEtapes[1]);
+        EXPECT_EQ(Jeu().NomJoueur, QString::fromUtf8(c.gardé));
+        EXPECT_EQ(Jeu().Etape, Jeu().OrdreEtapes[1]);
     }
 }
 
@@ -68,18 +68,18 @@ TEST_F(Dialogue, LevelsAndTheClock)
         d.BoîteNomJoueur->setText("Lou");
         (d.*c.bouton)->setChecked(true);
         d.BoutonSortie->click();
-        EXPECT_EQ(Niveau, c.niveau);
-        EXPECT_EQ(ModeApprentissage, Booléen(c.apprentissage));
-        EXPECT_EQ(ScoreGelé, ModeApprentissage);
-        EXPECT_EQ(HeureDépart, 4001);
+        EXPECT_EQ(Jeu().Niveau, c.niveau);
+        EXPECT_EQ(Jeu().ModeApprentissage, c.apprentissage);
+        EXPECT_EQ(Jeu().ScoreGelé, Jeu().ModeApprentissage);
+        EXPECT_EQ(Jeu().HeureDépart, 4001);
     }
     // After Expert the dialog offers Expert; after Apprentissage, Facile.
     {
         NouvellePartie d;
         EXPECT_TRUE(d.NiveauExpert->isChecked());
     }
-    Niveau = 1;
-    ModeApprentissage = True;
+    Jeu().Niveau = 1;
+    Jeu().ModeApprentissage = True;
     NouvellePartie d;
     EXPECT_TRUE(d.NiveauFacile->isChecked());
     d.show();
@@ -103,8 +103,8 @@ TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
     LanceNouvellePartie();
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[1].texte, Messages[41]) << "the abandoned game is scored";
-    EXPECT_EQ(Etape, 0);
-    EXPECT_EQ(Score, -999999 + 4807);
+    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Score, -999999 + 4807);
     EXPECT_FALSE(Principal().rond[1]->Visible());
     EXPECT_FALSE(Principal().QueFaire->Visible());
 }

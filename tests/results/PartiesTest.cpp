@@ -47,7 +47,7 @@ protected:
     void PartieEntamée()
     {
         NouvellePartieAuNiveau(3);
-        while (Etape < 3)
+        while (Jeu().Etape < 3)
             RépondJuste();
         for (int n = 0; n < 5; ++n)
             RépondJuste();
@@ -80,20 +80,20 @@ protected:
 TEST_F(Sauvegarde, WrittenRecordByRecord)
 {
     PartieEntamée();
-    NomJoueur = QString::fromUtf8("Zoé");
-    DuréePartie = 3725;
+    Jeu().NomJoueur = QString::fromUtf8("Zoé");
+    Jeu().DuréePartie = 3725;
     const QByteArray o = ContenuPartie();
     ASSERT_EQ(o.size(), 37760);
     EXPECT_EQ(QList<QByteArray>({Chaîne(o, 1), Chaîne(o, 3), Chaîne(o, 5)}),
               QList<QByteArray>({"Version 6.07 du 30/07/2008", QFile::encodeName(FichierLancement), "Zo\xE9"}));
     EXPECT_EQ(std::vector<int>({Entier(o, 2), Entier(o, 4), Entier(o, 6), Entier(o, 7), Long(o, 8), Long(o, 295)}),
-              std::vector<int>({1, 3, 3, 0, Score, 3725}));
+              std::vector<int>({1, 3, 3, 0, Jeu().Score, 3725}));
     for (int i = 1; i <= 26; ++i) {
         EXPECT_EQ(Entier(o, 8 + i), i);
-        EXPECT_EQ(Entier(o, 8 + i, 2), Cantons[i].Trouvé);
+        EXPECT_EQ(Entier(o, 8 + i, 2), Jeu().Cantons[i].Trouvé);
         for (int j = 0; j <= 4; ++j) {
-            EXPECT_EQ(Entier(o, 35 + 10 * (i - 1) + 2 * j), Cantons[i].Réussi[j]);
-            EXPECT_EQ(Long(o, 36 + 10 * (i - 1) + 2 * j), Cantons[i].Pertes[j]);
+            EXPECT_EQ(Entier(o, 35 + 10 * (i - 1) + 2 * j), Jeu().Cantons[i].Réussi[j]);
+            EXPECT_EQ(Long(o, 36 + 10 * (i - 1) + 2 * j), Jeu().Cantons[i].Pertes[j]);
         }
     }
 }
@@ -133,7 +133,7 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
     NouvellePartieAuNiveau(2);
     RépondJuste();
     FichierLancement = "~tmp.~cf";
-    OrdreEtapes[1] = 1; OrdreEtapes[2] = 4; OrdreEtapes[3] = 0; OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = 1; Jeu().OrdreEtapes[2] = 4; Jeu().OrdreEtapes[3] = 0; Jeu().OrdreEtapes[4] = 0;
     NombreScores[2] = 2;
     MeilleursScores[2][1] = {"A", 10, 1};
     MeilleursScores[2][2] = {"B", 5, 2};
@@ -147,29 +147,29 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
 
     RazScores();
     ASSERT_TRUE(RestaurePartie(o));
-    EXPECT_EQ(OrdreEtapes[2], 4);
+    EXPECT_EQ(Jeu().OrdreEtapes[2], 4);
     EXPECT_EQ(NombreScores[2], 2);
     EXPECT_EQ(MeilleursScores[4][1].Nom, "C");
     for (int k = 1; k <= 4; ++k)
-        OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
 }
 
 TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
 {
     PartieEntamée();
-    const i32 scoreAvant = Score;
-    const i16 restants = RestantsEtape;
-    std::vector<TCanton> avant(Cantons, Cantons + 27);
+    const i32 scoreAvant = Jeu().Score;
+    const i16 restants = Jeu().RestantsEtape;
+    std::vector<TCanton> avant(Jeu().Cantons, Jeu().Cantons + 27);
 
     // Saving charges what is left of the question that drew errors.
     horloge = 36000 + 600;
     Choisit("essai.txt");
     EnregistrePartie();
     const i32 solde = 16 + 64 + 256 + 1024 + 4096 + 16384 + 65536; // errors 3 to 9 of the question
-    EXPECT_EQ(Score, scoreAvant - solde);
+    EXPECT_EQ(Jeu().Score, scoreAvant - solde);
     EXPECT_TRUE(QFile::exists(dossier.filePath("essai.CAS"))) << "the extension is the game's own";
-    EXPECT_EQ(Etape, 0);
-    EXPECT_EQ(PartieVierge, True);
+    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_TRUE(Jeu().PartieVierge);
     boîtes.journal.clear();
     EXPECT_TRUE(ConfirmeArrêt());
     EXPECT_TRUE(boîtes.journal.empty()) << "a saved game has nothing to confirm";
@@ -178,17 +178,17 @@ TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
     horloge = 50000;
     Choisit();
     FichierLire_Click();
-    EXPECT_EQ(std::vector<int>({Etape, Score, RestantsEtape, DuréePartie, HeureDépart}),
+    EXPECT_EQ(std::vector<int>({Jeu().Etape, Jeu().Score, Jeu().RestantsEtape, Jeu().DuréePartie, Jeu().HeureDépart}),
               std::vector<int>({3, scoreAvant - solde, restants, 600, 50000 - 600}));
     for (int i = 1; i <= 26; ++i) {
-        EXPECT_EQ(Cantons[i].Trouvé, avant[i].Trouvé) << i;
+        EXPECT_EQ(Jeu().Cantons[i].Trouvé, avant[i].Trouvé) << i;
         for (int j = 0; j <= 4; ++j) {
-            EXPECT_EQ(Cantons[i].Réussi[j], avant[i].Réussi[j]) << i;
-            EXPECT_GE(Cantons[i].Pertes[j], avant[i].Pertes[j]) << "the save charged the open question";
+            EXPECT_EQ(Jeu().Cantons[i].Réussi[j], avant[i].Réussi[j]) << i;
+            EXPECT_GE(Jeu().Cantons[i].Pertes[j], avant[i].Pertes[j]) << "the save charged the open question";
         }
     }
     EXPECT_FALSE(QFile::exists(dossier.filePath("essai.CAS"))) << "a saved game is taken up once";
-    EXPECT_FALSE(Cantons[CantonRecherché].Trouvé);
+    EXPECT_FALSE(Jeu().Cantons[Jeu().CantonRecherché].Trouvé);
     // The resumed game asks before it is left, even before its first click.
     boîtes.réponses = {RéponseNon};
     EXPECT_FALSE(ConfirmeArrêt());
@@ -200,8 +200,8 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     PartieEntamée();
     const QByteArray bon = ContenuPartie();
     RépondJuste();
-    const i32 score = Score;
-    const i16 étape = Etape, restants = RestantsEtape;
+    const i32 score = Jeu().Score;
+    const i16 étape = Jeu().Etape, restants = Jeu().RestantsEtape;
 
     QByteArray horsTable = bon;
     horsTable[(9 - 1) * 128] = char(200); // the first pair names canton 200
@@ -214,7 +214,7 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     };
     for (const QByteArray &o : mauvais) {
         EXPECT_FALSE(RestaurePartie(o));
-        EXPECT_EQ(std::vector<int>({Score, Etape, RestantsEtape}), std::vector<int>({score, étape, restants}));
+        EXPECT_EQ(std::vector<int>({Jeu().Score, Jeu().Etape, Jeu().RestantsEtape}), std::vector<int>({score, étape, restants}));
     }
     // A number outside 0..26 in a pair is never used as an index.
     EXPECT_TRUE(RestaurePartie(horsTable));
@@ -222,7 +222,7 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     // Another version chosen in the dialog: its message, then the dialog's own.
     Ecrit("vieux.CAS", autre);
     boîtes.journal.clear();
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     Choisit();
     FichierLire_Click();
     ASSERT_EQ(boîtes.journal.size(), 2u);
@@ -264,7 +264,7 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesAndAnUnwritabl
     }
     EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
     EXPECT_EQ(boîtes.journal.back().texte, Messages[119]);
-    EXPECT_EQ(Etape, 3);
+    EXPECT_EQ(Jeu().Etape, 3);
 }
 
 TEST_F(Sauvegarde, AnotherFolderIsOfferedOnceAsTheDefault)

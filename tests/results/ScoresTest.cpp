@@ -52,9 +52,9 @@ protected:
     void TearDown() override
     {
         for (int k = 1; k <= 26; ++k)
-            Cantons[k].Inhibé = False;
+            Jeu().Cantons[k].Inhibé = False;
         for (int k = 1; k <= 4; ++k)
-            OrdreEtapes[k] = static_cast<i16>(k);
+            Jeu().OrdreEtapes[k] = static_cast<i16>(k);
         JeuTest::TearDown();
     }
     void Ecrit(const QByteArray &o)
@@ -71,12 +71,12 @@ protected:
     // Ends a game at a level with a score, started at `départ` and ended at `fin` on the clock.
     void Termine(int niveau, i32 score, i32 durée, i32 départ = 1000)
     {
-        Niveau = static_cast<i16>(niveau);
-        ScoreGelé = False;
-        Score = score;
-        HeureDépart = départ;
+        Jeu().Niveau = static_cast<i16>(niveau);
+        Jeu().ScoreGelé = False;
+        Jeu().Score = score;
+        Jeu().HeureDépart = départ;
         horloge = (départ + durée) % 86400;
-        NomJoueur = QString::fromUtf8("Zoé");
+        Jeu().NomJoueur = QString::fromUtf8("Zoé");
         boîtes.journal.clear();
         EnregistreScore();
     }
@@ -84,8 +84,8 @@ protected:
 
 TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
 {
-    OrdreEtapes[1] = 2; OrdreEtapes[2] = 3; OrdreEtapes[3] = 0; OrdreEtapes[4] = 0;
-    Cantons[5].Inhibé = True;
+    Jeu().OrdreEtapes[1] = 2; Jeu().OrdreEtapes[2] = 3; Jeu().OrdreEtapes[3] = 0; Jeu().OrdreEtapes[4] = 0;
+    Jeu().Cantons[5].Inhibé = True;
     NombreScores[2] = 2;
     MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 999998, 125};
     MeilleursScores[2][2] = {"Max", -432773, 3725};
@@ -99,13 +99,13 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
     EXPECT_EQ(Lit(), attendu.left(34 * 128)) << "without the scores: the parameter set alone";
     EXPECT_TRUE(QDir(dossier.path()).entryList({"*.tmp", "*~*"}, QDir::Files | QDir::Hidden).isEmpty());
 
-    Cantons[5].Inhibé = False;
+    Jeu().Cantons[5].Inhibé = False;
     // The last record may stop behind its value.
     Ecrit(Octets{}.Tête(4, 1, 0, 0, {3, 26}).Ligne("Anna", 500, 60, 1).Ligne("Ben", 400, 70, 1).Ligne("Cy", 7, 8, 3).o.chopped(114));
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(std::vector<int>({OrdreEtapes[1], OrdreEtapes[2], OrdreEtapes[3], Cantons[3].Inhibé, Cantons[26].Inhibé,
-                                Cantons[4].Inhibé, NombreScores[1], MeilleursScores[1][2].Durée, NombreScores[3]}),
+    EXPECT_EQ(std::vector<int>({Jeu().OrdreEtapes[1], Jeu().OrdreEtapes[2], Jeu().OrdreEtapes[3], Jeu().Cantons[3].Inhibé, Jeu().Cantons[26].Inhibé,
+                                Jeu().Cantons[4].Inhibé, NombreScores[1], MeilleursScores[1][2].Durée, NombreScores[3]}),
               std::vector<int>({4, 1, 0, True, True, False, 2, 70, 1}));
     EXPECT_EQ(MeilleursScores[1][2].Nom, "Ben");
     EXPECT_EQ(FichierLancement, dossier.filePath("KELMOR.SCS"));
@@ -114,7 +114,7 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
     for (auto [a, b, c] : {std::array{1, 1, 0}, std::array{2, 0, 3}}) {
         Ecrit(Octets{}.Tête(a, b, c, 0).o);
         ChargeScores();
-        EXPECT_EQ(std::vector<int>({OrdreEtapes[1], OrdreEtapes[2], OrdreEtapes[3]}), std::vector<int>({a, b, c}));
+        EXPECT_EQ(std::vector<int>({Jeu().OrdreEtapes[1], Jeu().OrdreEtapes[2], Jeu().OrdreEtapes[3]}), std::vector<int>({a, b, c}));
     }
     EXPECT_TRUE(boîtes.journal.empty());
 }
@@ -162,10 +162,10 @@ TEST_F(Store, DamagedFilesFallBackToTheDefaultSet)
         boîtes.journal.clear();
         ChargeScores();
         EXPECT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_EQ(OrdreEtapes[1], 1);
-        EXPECT_EQ(OrdreEtapes[4], 4);
+        EXPECT_EQ(Jeu().OrdreEtapes[1], 1);
+        EXPECT_EQ(Jeu().OrdreEtapes[4], 4);
         for (int i = 1; i <= 26; ++i)
-            EXPECT_EQ(Cantons[i].Inhibé, False);
+            EXPECT_EQ(Jeu().Cantons[i].Inhibé, False);
         EXPECT_EQ(NombreScores[3], 1);
     }
     // No file at all: no message, nothing created.
@@ -186,7 +186,7 @@ TEST_F(Store, RankingIntoTheBestTen)
     EXPECT_EQ(boîtes.journal[0].titre, Messages[40]);
     EXPECT_EQ(FormesMontrées().back(), "AffichageScores");
     EXPECT_EQ(NiveauAffiché, 2);
-    EXPECT_EQ(ScoresFinPartie, True);
+    EXPECT_TRUE(Jeu().ScoresFinPartie);
     ASSERT_EQ(NombreScores[2], 10);
     EXPECT_EQ(MeilleursScores[2][1].Points, 590);
 
@@ -211,17 +211,17 @@ TEST_F(Store, RankingIntoTheBestTen)
     EXPECT_EQ(boîtes.journal.back().texte, Messages[41]);
     // Apprentissage keeps no score.
     boîtes.journal.clear();
-    ScoreGelé = True;
-    Niveau = 1;
+    Jeu().ScoreGelé = True;
+    Jeu().Niveau = 1;
     EnregistreScore();
     EXPECT_EQ(NombreScores[1], 0);
     EXPECT_EQ(boîtes.journal.at(0).texte, Messages[44]);
-    EXPECT_EQ(PartieEnregistrée, True);
+    EXPECT_TRUE(Jeu().PartieEnregistrée);
 }
 
 TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
 {
-    OrdreEtapes[1] = 3; OrdreEtapes[2] = 1; OrdreEtapes[3] = 0; OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = 3; Jeu().OrdreEtapes[2] = 1; Jeu().OrdreEtapes[3] = 0; Jeu().OrdreEtapes[4] = 0;
     Termine(1, 800, 10);
     boîtes.réponses = {RéponseOui};
     ConfirmeRazScores();

@@ -20,7 +20,7 @@ protected:
     static void Pertes(int c, i32 p1, i32 p2, i32 p3, i32 p4)
     {
         const i32 p[5] = {p1 + p2 + p3 + p4, p1, p2, p3, p4};
-        std::copy(p, p + 5, Cantons[c].Pertes);
+        std::copy(p, p + 5, Jeu().Cantons[c].Pertes);
     }
     static QColor Fond(const Etiquette *e) { return e->palette().color(QPalette::Window); }
 };
@@ -28,8 +28,8 @@ protected:
 TEST_F(Statistiques, TheCostliestFirstAndEqualLossesInTheOrderOfTheNumbers)
 {
     for (auto [c, p] : {std::pair{3, 10}, {7, 10}, {1, 4}, {20, 10}, {26, 50}, {25, 4}})
-        Cantons[c].Pertes[0] = p;
-    Cantons[2].Inhibé = True; // left out: takes part with its 0
+        Jeu().Cantons[c].Pertes[0] = p;
+    Jeu().Cantons[2].Inhibé = True; // left out: takes part with its 0
     TriePertes();
     EXPECT_EQ(std::vector<int>(TriPertes + 1, TriPertes + NombrePlaces + 1),
               (std::vector<int>{26, 3, 7, 20, 1, 25, 2, 4, 5, 6, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 21, 22,
@@ -46,11 +46,11 @@ TEST_F(Statistiques, SeventeenRowsShowAndTheBarReachesTheLastOnes)
             EXPECT_EQ((*colonne)[r]->Visible(), r <= 17) << "row " << r;
     ASSERT_TRUE(s.BarreVerticale->Visible());
     EXPECT_EQ(s.BarreVerticale->Max(), 9);
-    EXPECT_EQ(s.NomPays[17]->text(), Cantons[10].Nom);
+    EXPECT_EQ(s.NomPays[17]->text(), Jeu().Cantons[10].Nom);
 
     s.BarreVerticale->setValue(9);
-    EXPECT_EQ(s.NomPays[1]->text(), Cantons[17].Nom) << "rank 10 on top";
-    EXPECT_EQ(s.NomPays[17]->text(), Cantons[1].Nom) << "rank 26 at the foot";
+    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[17].Nom) << "rank 10 on top";
+    EXPECT_EQ(s.NomPays[17]->text(), Jeu().Cantons[1].Nom) << "rank 26 at the foot";
     EXPECT_EQ(s.PertePays[17]->text(), "1");
 
     // The wheel over the table scrolls it too.
@@ -59,26 +59,26 @@ TEST_F(Statistiques, SeventeenRowsShowAndTheBarReachesTheLastOnes)
                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(&s, &roue);
     EXPECT_GT(s.BarreVerticale->Value(), 0);
-    EXPECT_EQ(s.NomPays[1]->text(), Cantons[26 - s.BarreVerticale->Value()].Nom);
+    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[26 - s.BarreVerticale->Value()].Nom);
 }
 
 TEST_F(Statistiques, GreenAtTheFirstTryRedWhenNeverFoundNeutralOtherwise)
 {
     // Plates, then cantons, then towns; flags aren't played.
     const i16 ordre[] = {0, 4, 1, 2, 0};
-    std::copy(ordre, ordre + 5, OrdreEtapes);
+    std::copy(ordre, ordre + 5, Jeu().OrdreEtapes);
     ASSERT_NE(CouleurNeutre(), CouleurAbsent);
     ASSERT_NE(CouleurNeutre(), CouleurTrouvé);
     // Canton 5: cantons at once, its town after errors, its plates never found (the game stopped).
     Pertes(5, 0, 3, 0, 0);
-    Cantons[5].Réussi[1] = Cantons[5].Réussi[2] = True;
+    Jeu().Cantons[5].Réussi[1] = Jeu().Cantons[5].Réussi[2] = True;
     // Canton 8: its plates found after errors, the rest never asked.
     Pertes(8, 0, 0, 0, 2);
-    Cantons[8].Réussi[4] = True;
+    Jeu().Cantons[8].Réussi[4] = True;
 
     Stats s;
-    ASSERT_EQ(s.NomPays[1]->text(), Cantons[5].Nom);
-    ASSERT_EQ(s.NomPays[2]->text(), Cantons[8].Nom);
+    ASSERT_EQ(s.NomPays[1]->text(), Jeu().Cantons[5].Nom);
+    ASSERT_EQ(s.NomPays[2]->text(), Jeu().Cantons[8].Nom);
     const struct { Etiquette *cellule; QColor fond; const char *texte; } cas[] = {
         {s.PertePays[1], CouleurTrouvé, "0"},       {s.PerteCapitales[1], CouleurNeutre(), "3"},
         {s.PerteDrapeaux[1], CouleurNeutre(), "0"}, // flags aren't part of this game
@@ -93,7 +93,7 @@ TEST_F(Statistiques, GreenAtTheFirstTryRedWhenNeverFoundNeutralOtherwise)
 
     // Scrolling repaints a row for the canton that comes into it.
     s.BarreVerticale->setValue(1);
-    EXPECT_EQ(s.NomPays[1]->text(), Cantons[8].Nom);
+    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[8].Nom);
     EXPECT_EQ(Fond(s.PertePlaques[1]), CouleurNeutre());
     EXPECT_EQ(Fond(s.PertePays[1]), CouleurAbsent);
 }
@@ -168,7 +168,7 @@ TEST_F(Statistiques, AnUnwritableProgramFolderIsToldAndTheTableStaysUsable)
             auto &s = dynamic_cast<Stats &>(forme);
             s.BoutonSauvegarde->click();
             s.BarreVerticale->setValue(9);
-            EXPECT_EQ(s.NomPays[1]->text(), Cantons[17].Nom) << "the table still scrolls";
+            EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[17].Nom) << "the table still scrolls";
             s.Command1->click();
             return résultat = s.result();
         });

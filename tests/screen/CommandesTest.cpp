@@ -42,22 +42,22 @@ TEST_F(Marques, EveryStepAndLevelShowsWhatItsTableSays)
     auto &E = Principal();
     for (int niveau = 1; niveau <= 4; ++niveau)
         for (int étape = 1; étape <= 4; ++étape) {
-            Cantons[9].Inhibé = True; // left out: always S and I
+            Jeu().Cantons[9].Inhibé = True; // left out: always S and I
             NouvellePartieAuNiveau(niveau);
-            Etape = static_cast<i16>(étape);
+            Jeu().Etape = static_cast<i16>(étape);
             DébutEtape();
-            Cantons[4].Trouvé = True; // found, not left out
+            Jeu().Cantons[4].Trouvé = True; // found, not left out
             MontreCantons();
             for (int c : {4, 9, 17}) {
-                const bool S = Cantons[c].Trouvé || Cantons[c].Inhibé, I = Cantons[c].Inhibé;
+                const bool S = Jeu().Cantons[c].Trouvé || Jeu().Cantons[c].Inhibé, I = Jeu().Cantons[c].Inhibé;
                 const Attendu a = Table(étape, niveau, S, I);
                 EXPECT_EQ(E.Pays[c]->Visible(), a.pays) << "step " << étape << " level " << niveau << " canton " << c;
                 EXPECT_EQ(E.inv[c]->Visible(), a.inv) << "step " << étape << " level " << niveau << " canton " << c;
                 EXPECT_EQ(E.rond[c]->Visible(), a.rond) << "step " << étape << " level " << niveau << " canton " << c;
             }
-            PartieVierge = True;
+            Jeu().PartieVierge = True;
         }
-    Cantons[9].Inhibé = False;
+    Jeu().Cantons[9].Inhibé = False;
 }
 
 TEST_F(Marques, AssistanceOnAMapThatFitsMovesNothingAndOnASmallOneBringsTheCantonIntoView)
@@ -78,7 +78,7 @@ TEST_F(Marques, AssistanceOnAMapThatFitsMovesNothingAndOnASmallOneBringsTheCanto
     // Thurgau, north-east: off to the right of a narrow window.
     ASSERT_TRUE(P.BarreH->Visible());
     AmèneEnVue(21);
-    const int gauche = Cantons[21].PaysGauche + P.ImageRégion[0]->Left();
+    const int gauche = Jeu().Cantons[21].PaysGauche + P.ImageRégion[0]->Left();
     EXPECT_GE(gauche, 0);
     EXPECT_LE(gauche + P.Pays[21]->Width(), P.Carte->Width());
     // Setting a bar to the value it has moves nothing.
@@ -104,7 +104,7 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
     }
     ASSERT_EQ(entrées.size(), 26u);
     auto mets = [&](int état) {
-        PartieVierge = True;
+        Jeu().PartieVierge = True;
         if (état == 1) {
             NouvellePartieAuNiveau(2);
             RépondJuste();
@@ -118,19 +118,19 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             if (entrée == E.FichierQuitter)
                 continue; // closes the window
             mets(état);
-            const i16 étapeAvant = Etape;
-            InstalleDialogueNouvellePartie([] { Etape = 0; });
+            const i16 étapeAvant = Jeu().Etape;
+            InstalleDialogueNouvellePartie([] { Jeu().Etape = 0; });
             entrée->trigger();
             InstalleDialogueNouvellePartie(nullptr);
             // The panel shows only in a game, the map's markers follow the step.
-            const bool jeu = Etape >= 1 && Etape <= 4;
+            const bool jeu = Jeu().Etape >= 1 && Jeu().Etape <= 4;
             EXPECT_EQ(E.QueFaire->Visible(), jeu) << entrée->text().toStdString() << " in state " << état;
-            if (Etape == 0) {
+            if (Jeu().Etape == 0) {
                 for (int i = 1; i <= 26; ++i)
                     EXPECT_FALSE(E.rond[i]->Visible()) << entrée->text().toStdString();
             }
             if (état == 1 && entrée != E.MenuRévision && entrée != E.FichierNouveau && entrée != E.FichierLire) {
-                EXPECT_EQ(Etape, étapeAvant) << entrée->text().toStdString() << " left the game";
+                EXPECT_EQ(Jeu().Etape, étapeAvant) << entrée->text().toStdString() << " left the game";
             }
             if (Langue != 1)
                 ChangeLangue(1);

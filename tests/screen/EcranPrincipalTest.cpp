@@ -29,8 +29,8 @@ TEST_F(Chargement, IdleWithTheBareMapAndNoPanel)
 {
     auto &E = Principal();
     EXPECT_GE(IndiceEcranPrincipal(), 0);
-    EXPECT_EQ(Etape, 0);
-    EXPECT_EQ(Niveau, 0);
+    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Niveau, 0);
     EXPECT_EQ(LargeurVignette, 200);
     EXPECT_EQ(HauteurVignette, 188);
     EXPECT_TRUE(E.ImageRégion[0]->Visible());
@@ -38,7 +38,7 @@ TEST_F(Chargement, IdleWithTheBareMapAndNoPanel)
     EXPECT_FALSE(E.BoîteScore->Visible());
     for (int i = 1; i <= 26; ++i) {
         EXPECT_FALSE(E.Pays[i]->Visible() || E.inv[i]->Visible() || E.rond[i]->Visible());
-        EXPECT_EQ(E.Pays[i]->pos(), QPoint(Cantons[i].PaysGauche, Cantons[i].PaysHaut));
+        EXPECT_EQ(E.Pays[i]->pos(), QPoint(Jeu().Cantons[i].PaysGauche, Jeu().Cantons[i].PaysHaut));
         EXPECT_EQ(E.inv[i]->pos(), E.Pays[i]->pos());
     }
     // On a screen that shows the whole map the score box sits on the map's bottom edge.
@@ -65,7 +65,7 @@ TEST_F(Chargement, DotsLieOverEveryBorderAndLaterBordersOverEarlierOnes)
     }
     // A dot stays clickable where borders overlap.
     NouvellePartieAuNiveau(3);
-    const TCanton &c = Cantons[6];
+    const TCanton &c = Jeu().Cantons[6];
     EXPECT_EQ(E.Carte->childAt(c.VilleGauche + 3, c.VilleHaut + 4), E.rond[6]);
 }
 
@@ -97,7 +97,7 @@ TEST_F(Chargement, AScrollKeepsMarkersAndHitsInLine)
     EXPECT_EQ(E.BarreH->SmallChange(), 16);
 
     NouvellePartieAuNiveau(1, true);
-    const i16 asked = CantonRecherché;
+    const i16 asked = Jeu().CantonRecherché;
     RépondFaux();
     RépondFaux();
     RépondFaux();
@@ -105,12 +105,12 @@ TEST_F(Chargement, AScrollKeepsMarkersAndHitsInLine)
     E.BarreH->setValue(40);
     EXPECT_EQ(E.ImageRégion[0]->Left(), -40);
     for (int i = 1; i <= 26; ++i) {
-        EXPECT_EQ(E.inv[i]->Left(), Cantons[i].PaysGauche - 40);
-        EXPECT_EQ(E.rond[i]->Left(), Cantons[i].VilleGauche - 40 - (i == asked ? 4 : 0));
+        EXPECT_EQ(E.inv[i]->Left(), Jeu().Cantons[i].PaysGauche - 40);
+        EXPECT_EQ(E.rond[i]->Left(), Jeu().Cantons[i].VilleGauche - 40 - (i == asked ? 4 : 0));
         EXPECT_EQ(E.rond[i]->Width(), i == asked ? 16 : 7) << "only the canton asked stays black";
     }
     RépondJuste();
-    EXPECT_EQ(AssistanceUtilisée, False);
+    EXPECT_FALSE(Jeu().AssistanceUtilisée);
 }
 
 } // namespace
@@ -140,7 +140,7 @@ TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
     E.MenuAide->trigger();
     Tape(E, E.Bouton[3], Qt::Key_F1);
     NiveauAffiché = 1;
-    CantonFiche = 6;
+    Jeu().CantonFiche = 6;
     ModeRépertoires = 7;
     const std::vector<std::pair<std::function<QDialog *()>, int>> formes = {
         {[] { return new NouvellePartie; }, 20},

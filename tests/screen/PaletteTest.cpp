@@ -21,9 +21,9 @@ TEST_F(Couleurs, AChoiceRepaintsTheDotsByTheirFoundState)
 {
     auto &E = Principal();
     NouvellePartieAuNiveau(1);
-    const i16 trouvé = CantonRecherché;
+    const i16 trouvé = Jeu().CantonRecherché;
     RépondJuste();
-    const i16 àTrouver = CantonRecherché;
+    const i16 àTrouver = Jeu().CantonRecherché;
 
     RepèreChoisi = 1;
     {

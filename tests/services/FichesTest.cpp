@@ -102,7 +102,7 @@ TEST_F(Fiches, ACardShowsFlagNameWithPlateChiefTownAndTheRecordsTextBesideItsCan
         EXPECT_TRUE(E.rond[24]->Visible());
         EXPECT_NE(E.rond[24]->size(), E.RondVille->size());
     });
-    EXPECT_EQ(CantonFiche, 24);
+    EXPECT_EQ(Jeu().CantonFiche, 24);
     EXPECT_EQ(E.rond[24]->size(), E.RondVille->size()) << "closed, the town's dot is at rest";
     EXPECT_TRUE(boîtes.journal.empty());
 
@@ -361,7 +361,7 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
         for (int k = 1; k <= 26; ++k) {
             TFiche fiche;
             ASSERT_TRUE(LitFicheInfo(dossier.filePath(nom), k, fiche));
-            EXPECT_EQ(QStringList({fiche.Nom, fiche.Texte}), QStringList({Cantons[k].Nom, TexteCréé})) << nom << k;
+            EXPECT_EQ(QStringList({fiche.Nom, fiche.Texte}), QStringList({Jeu().Cantons[k].Nom, TexteCréé})) << nom << k;
         }
     }
     Relance();

@@ -73,7 +73,7 @@ protected:
     // Each case of a loop starts from a store of its own, in French, with nothing read yet.
     void NouveauMagasin()
     {
-        for (QString *g : {&RépertoireSauvegarde, &RépertoireInfo, &FichierLancement, &NomJoueur})
+        for (QString *g : {&RépertoireSauvegarde, &RépertoireInfo, &FichierLancement, &Jeu().NomJoueur})
             g->clear();
         fichier = dossier.filePath(QStringLiteral("registre%1.ini").arg(++magasins));
         InstalleFichierRegistre(fichier);
@@ -152,7 +152,7 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
         EXPECT_EQ(Messages[0], ChaîneTable(c.premier ? 1000 : 1250));
         EXPECT_EQ(VersionJeu, ChaîneTable(1000)) << "the version always in French";
         // A first run leaves the bare name of the score file, found in the current folder.
-        EXPECT_EQ(QStringList({NomJoueur, RépertoireSauvegarde, RépertoireInfo, FichierLancement, QDir::currentPath()}),
+        EXPECT_EQ(QStringList({Jeu().NomJoueur, RépertoireSauvegarde, RépertoireInfo, FichierLancement, QDir::currentPath()}),
                   QStringList({S(c.premier ? "" : "Zoé"), programme + '/', programme + '/',
                                c.premier ? S("KELMOR.SCS") : programme + "/KELMOR.SCS", programme}));
 
@@ -189,7 +189,7 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
         if (!c.renouvelée) {
             EXPECT_EQ(Contenu(), avant);
         }
-        EXPECT_EQ(QStringList({NomJoueur, RépertoireSauvegarde, FichierLancement, RépertoireInfo, QDir::currentPath()}),
+        EXPECT_EQ(QStringList({Jeu().NomJoueur, RépertoireSauvegarde, FichierLancement, RépertoireInfo, QDir::currentPath()}),
                   QStringList({"Zoé", choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
     }
 }
@@ -304,18 +304,18 @@ TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStart)
     ChangeLangue(2);
     ChangeLangue(3); // the third entry changes nothing
     EXPECT_EQ(Lit("langue"), " 2");
-    NomJoueur = QStringLiteral("Zoé");
+    Jeu().NomJoueur = QStringLiteral("Zoé");
     EnregistreJoueur();
 
-    PartieVierge = True;
+    Jeu().PartieVierge = True;
     delete forme;
     forme = nullptr;
     Langue = 1;
-    NomJoueur.clear();
+    Jeu().NomJoueur.clear();
     ASSERT_TRUE(Main());
     forme = FormePrincipale();
     EXPECT_EQ(Langue, 2);
-    EXPECT_EQ(NomJoueur, "Zoé");
+    EXPECT_EQ(Jeu().NomJoueur, "Zoé");
     EXPECT_EQ(Principal().FichierNouveau->text(), ChaîneTable(1306));
 }
 

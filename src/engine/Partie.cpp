@@ -1,0 +1,7 @@
+#include "engine/Partie.h"
+
+Partie &Jeu()
+{
+    static Partie partie;
+    return partie;
+}

@@ -1,0 +1,59 @@
+#pragma once
+// The game in one object: the 26 cantons and everything a game in progress is made
+// of, from the step and the level to the score and the clock.
+#include <QString>
+#include <cstdint>
+
+using i16 = std::int16_t;
+using i32 = std::int32_t;
+using u8 = std::uint8_t;
+
+// Booleans as the game's files store them.
+constexpr i16 True = -1;
+constexpr i16 False = 0;
+inline i16 Booléen(bool b) { return b ? True : False; }
+
+struct TCanton {
+    i16 PaysHaut = 0;
+    i16 PaysGauche = 0;
+    i16 Trouvé = False;
+    i16 VilleHaut = 0;
+    i16 VilleGauche = 0;
+    QString Nom;
+    QString ChefLieu;
+    i16 Inhibé = False;
+    u8 Région = 0;
+    i32 Pertes[5] = {0, 0, 0, 0, 0};
+    i16 Réussi[5] = {False, False, False, False, False};
+};
+
+constexpr int NombrePlaces = 26;
+
+struct Partie {
+    TCanton Cantons[NombrePlaces + 1]; // element 0 stays empty
+
+    i16 Etape = 0;
+    i16 Niveau = 0;
+    bool ModeApprentissage = false;
+    bool ScoreGelé = false;
+    i16 OrdreEtapes[5] = {0, 1, 2, 3, 4}; // 1..4
+    i16 RangEtape = 1; // the rank of OrdreEtapes under way; a saved game takes up the first that fits
+    i16 NombreCantons = 0;
+    i16 RestantsEtape = 0;
+    i16 CantonRecherché = 0;
+    i16 ErreursQuestion = 0;
+    bool AssistanceUtilisée = false;
+    i32 Score = 0;
+    QString NomJoueur;
+    i32 HeureDépart = 0;
+    i32 DuréePartie = 0;
+    bool PartieVierge = true;
+    bool PartieEnregistrée = false;
+    bool ConseilFicheDonné = false;
+    bool ModeRévision = false;
+    i16 CantonFiche = 0;
+    bool ScoresFinPartie = false;
+};
+
+// The program's one game.
+Partie &Jeu();
