@@ -11,6 +11,9 @@
 
 namespace {
 
+// A leader is a detour for the eye: a name on its own land reads better.
+constexpr double CoûtRenvoi = 1.6;
+
 const char *const FichierPolice = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf";
 
 QColor Eau() { return QColor(160, 200, 232); }
@@ -56,7 +59,7 @@ Dessinateur::Dessinateur(const Géographie &géographie, const Trame &t) : g(gé
         // each name placed so far, with a pixel around it that no other name takes
         QVector<int> occupé(LargeurCarte * HauteurCarte, 0);
         auto marque = [&](int n, int signe) {
-            for (const QRect &e : liste[n - 1].étendues) {
+            for (const QRect &e : liste[n - 1].étendues + liste[n - 1].étenduesRenvoi) {
                 const QRect r = e.translated(Canton(n).rectPays().topLeft()).adjusted(-1, -1, 1, 1)
                                     .intersected(QRect(0, 0, LargeurCarte, HauteurCarte));
                 for (int y = r.top(); y <= r.bottom(); ++y)
@@ -75,7 +78,7 @@ Dessinateur::Dessinateur(const Géographie &géographie, const Trame &t) : g(gé
             for (int n : ordre) {
                 marque(n, -1);
                 const PlacementNom p = place(n, langue, occupé);
-                bougé = bougé || p.bloc != liste[n - 1].bloc;
+                bougé = bougé || p.bloc != liste[n - 1].bloc || p.renvoi != liste[n - 1].renvoi;
                 liste[n - 1] = p;
                 marque(n, 1);
             }
@@ -83,6 +86,19 @@ Dessinateur::Dessinateur(const Géographie &géographie, const Trame &t) : g(gé
                 break;
         }
     }
+}
+
+QVector<QRectF> ÉtendueRenvoi(const QLineF &trait, int k)
+{
+    QVector<QRectF> r;
+    const double demi = (DemiRenvoi + HaloRenvoi) * k, ancre = (RayonAncre + HaloRenvoi) * k;
+    r << QRectF(trait.p1() - QPointF(ancre, ancre), QSizeF(2 * ancre, 2 * ancre));
+    const int pas = std::max(1, int(std::ceil(trait.length() / k)));
+    for (int i = 0; i <= pas; ++i) {
+        const QPointF m = trait.pointAt(double(i) / pas);
+        r << QRectF(m - QPointF(demi, demi), QSizeF(2 * demi, 2 * demi));
+    }
+    return r;
 }
 
 QRect RectPoint(int numéro)
@@ -221,6 +237,10 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occup�
     // of higher numbers lie above this one on the map: their tint fades the
     // name and their border would cut through it.
     QVector<double> valeur(l * h), bordDessus(l * h, 0.0), dessous(l * h, 0.0), pris(l * h, 0.0), interdit(l * h, 0.0);
+    // With a leader to its land, a name reads as well over water, abroad or
+    // over an earlier canton as on its own land: what matters is that nothing
+    // drawn later covers it.
+    QVector<double> valeurRenvoi(l * h), propre(l * h, 0.0);
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < l; ++x) {
             const int z = trame.sûr(r.left() + x, r.top() + y);
@@ -235,6 +255,8 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occup�
             }
             const int i = y * l + x;
             valeur[i] = (z == n ? 3.0 : z == 0 ? 1.5 : z < n ? -3.0 : -8.0) - (bordPlusBas && !bordPlusHaut ? 1.5 : 0.0);
+            valeurRenvoi[i] = (z > n ? -8.0 : 3.0) - (bordPlusBas && !bordPlusHaut ? 1.5 : 0.0);
+            propre[i] = z == n;
             bordDessus[i] = bordPlusHaut;
             dessous[i] = z > n;
             // another name, already placed, with a pixel between them
@@ -263,7 +285,8 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occup�
         return t;
     };
     const QVector<double> tValeur = table(valeur), tBord = table(bordDessus), tDessous = table(dessous), tPris = table(pris),
-                         tInterdit = table(interdit), tPrès = table(prèsAutreVille);
+                         tInterdit = table(interdit), tPrès = table(prèsAutreVille), tValeurRenvoi = table(valeurRenvoi),
+                         tPropre = table(propre);
     auto total = [&](const QVector<double> &t, int x0, int y0, int x1, int y1) { // [x0, x1) x [y0, y1)
         return t[y1 * (l + 1) + x1] - t[y0 * (l + 1) + x1] - t[y1 * (l + 1) + x0] + t[y0 * (l + 1) + x0];
     };
@@ -277,6 +300,72 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occup�
                 ++nPixels;
             }
     milieu /= std::max(1, nPixels);
+
+    // Where a leader may end: well inside the canton's land, clear of the
+    // dots and of the other names. And where it may run: over nothing that a
+    // later picture covers, nor a dot, nor another name.
+    auto zone = [&](int x, int y) { return trame.sûr(r.left() + x, r.top() + y); };
+    auto libre = [&](int x, int y) {
+        return x >= 0 && y >= 0 && x < l && y < h && interdit[y * l + x] == 0 && pris[y * l + x] == 0;
+    };
+    QVector<QPoint> ancres;
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < l; ++x) {
+            bool bon = true;
+            for (int dy = -2; dy <= 2 && bon; ++dy)
+                for (int dx = -2; dx <= 2 && bon; ++dx)
+                    bon = zone(x + dx, y + dy) == n && libre(x + dx, y + dy);
+            if (bon)
+                ancres << QPoint(x, y);
+        }
+    auto passage = [&](int x, int y) {
+        for (int dy = -1; dy <= 1; ++dy)
+            for (int dx = -1; dx <= 1; ++dx) {
+                const int z = zone(x + dx, y + dy);
+                if (z > n || !libre(x + dx, y + dy))
+                    return false;
+            }
+        return true;
+    };
+    // The shortest leader from the canton's land to the name's lines (their
+    // halo's edge), or a null line when none runs clear.
+    auto chercheRenvoi = [&](const QVector<QRect> &parLigne, int bx, int by) {
+        struct Essai {
+            double longueur;
+            QLineF trait;
+        };
+        QVector<Essai> essais;
+        for (QPoint a : ancres) {
+            const QPointF pa(a.x() + 0.5, a.y() + 0.5);
+            Essai e{1e9, {}};
+            for (const QRect &q0 : parLigne) {
+                const QRectF q = QRectF(q0.translated(bx, by)).adjusted(0, 0, 1, 1);
+                const QPointF bout(std::clamp(pa.x(), q.left(), q.right()), std::clamp(pa.y(), q.top(), q.bottom()));
+                const double d = std::hypot(bout.x() - pa.x(), bout.y() - pa.y());
+                if (d < e.longueur)
+                    e = {d, QLineF(pa, bout)};
+            }
+            essais << e;
+        }
+        std::sort(essais.begin(), essais.end(), [](const Essai &a, const Essai &b) { return a.longueur < b.longueur; });
+        for (int i = 0; i < std::min<int>(essais.size(), 40); ++i) {
+            const Essai &e = essais[i];
+            if (e.longueur < 5.0) // too short to be seen: a point deeper in the land
+                continue;
+            bool clair = true;
+            const int pas = int(std::ceil(e.longueur * 3));
+            for (int j = 0; j <= pas - 3 && clair; ++j) {
+                const QPointF m = e.trait.pointAt(double(j) / pas);
+                const int x = int(std::floor(m.x())), y = int(std::floor(m.y()));
+                clair = passage(x, y);
+                for (const QRect &q : parLigne)
+                    clair = clair && !q.translated(bx, by).adjusted(-1, -1, 1, 1).contains(x, y);
+            }
+            if (clair)
+                return e.trait;
+        }
+        return QLineF();
+    };
 
     // Ways to break the name into lines: whole, or after a space or a hyphen,
     // or where the table allows a word to be hyphenated (a soft hyphen).
@@ -308,10 +397,10 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occup�
     meilleur.note = -1e300;
     // large cantons get a larger type
     const double plusGrande = c.largeur * c.hauteur > 15000 ? 11.0 : 10.0;
-    for (double taille : {11.0, 10.0, 9.0, 8.0}) {
+    for (double taille : {11.0, 10.0, 9.0}) {
         if (taille > plusGrande)
             continue;
-        for (int étirement : {100, 92, 85}) {
+        for (int étirement : {100, 92, 85, 75, 70}) {
             const QFontMetricsF m(police(taille, étirement));
             for (const QList<int> &où : façons) {
                 const QStringList lignesNom = coupe(où);
@@ -372,17 +461,41 @@ PlacementNom Dessinateur::place(int n, Langue langue, const QVector<int> &occup�
                                             - 1.0 * sous(tBord, bx, by) / hauteurs * lignesNom.size()
                                             - (sous(tPrès, bx, by) > 0 ? 1.5 : 0.0)
                                             + 0.5 * (taille - 9) - 0.3 * (lignesNom.size() - 1) - 0.8 * motsCoupés
-                                            - 0.03 * (100 - étirement) - (taille < 9 ? 1.5 : 0.0)
+                                            - 0.03 * (100 - étirement) - (étirement < 85 ? 1.0 : 0.0)
                                             - 0.012 * std::hypot(centre.x() - milieu.x(), centre.y() - milieu.y());
-                        if (note > meilleur.note) {
+                        auto retiens = [&](double n0, const QLineF &renvoi) {
                             meilleur = essai;
-                            meilleur.note = note;
+                            meilleur.note = n0;
                             meilleur.bloc.moveTopLeft(QPointF(bx, by));
                             meilleur.étendues.clear();
                             for (const QRect &q : parLigne)
                                 meilleur.étendues << q.translated(bx, by);
                             meilleur.sousAutres = sous(tDessous, bx, by) / aire;
                             meilleur.pixelsBordDessus = int(sous(tBord, bx, by));
+                            meilleur.renvoi = renvoi;
+                            meilleur.étenduesRenvoi.clear();
+                            if (!renvoi.isNull())
+                                for (const QRectF &e : ÉtendueRenvoi(renvoi, 1))
+                                    meilleur.étenduesRenvoi << e.toAlignedRect();
+                        };
+                        // A name mostly off its land beside another canton's
+                        // town reads as that canton's, unless a leader says whose.
+                        const bool horsDeSesTerres = sous(tPropre, bx, by) < 0.5 * aire;
+                        const double équivoque = horsDeSesTerres && sous(tPrès, bx, by) > 0 ? 2.0 : 0.0;
+                        if (note - équivoque > meilleur.note)
+                            retiens(note - équivoque, QLineF());
+                        // The same name away from its land, with a leader: worth
+                        // it only where most of the name would not be on its land.
+                        if (horsDeSesTerres) {
+                            const double sansTrait = note - sous(tValeur, bx, by) / aire + sous(tValeurRenvoi, bx, by) / aire
+                                                     + 0.012 * std::hypot(centre.x() - milieu.x(), centre.y() - milieu.y())
+                                                     - CoûtRenvoi;
+                            if (sansTrait > meilleur.note) {
+                                const QLineF renvoi = chercheRenvoi(parLigne, bx, by);
+                                const double avecTrait = sansTrait - 0.04 * renvoi.length();
+                                if (!renvoi.isNull() && avecTrait > meilleur.note)
+                                    retiens(avecTrait, renvoi);
+                            }
                         }
                     }
             }
@@ -431,11 +544,31 @@ QImage Dessinateur::pays(int n, Langue langue, int k) const
     for (const Ligne &li : texte)
         if (!QRectF(image.rect()).adjusted(-0.5, -0.5, 0.5, 0.5).contains(li.étendue))
             throw std::runtime_error(std::string("the name of ") + c.sigle + " spills out of its picture at " + std::to_string(k) + "x");
+    const QLineF renvoi(pl.renvoi.p1() * k, pl.renvoi.p2() * k);
+    if (!pl.renvoi.isNull())
+        for (const QRectF &e : ÉtendueRenvoi(renvoi, k))
+            if (!QRectF(image.rect()).adjusted(-0.5, -0.5, 0.5, 0.5).contains(e))
+                throw std::runtime_error(std::string("the leader of ") + c.sigle + " spills out of its picture at " + std::to_string(k) + "x");
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
+    if (!pl.renvoi.isNull()) {
+        // the halos first, so that line and dot lie on one white ground
+        p.setPen(QPen(Couleurs::halo, 2 * (DemiRenvoi + HaloRenvoi) * k, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(renvoi);
+        p.setPen(Qt::NoPen);
+        p.setBrush(Couleurs::halo);
+        p.drawEllipse(renvoi.p1(), (RayonAncre + HaloRenvoi) * k, (RayonAncre + HaloRenvoi) * k);
+    }
     for (const Ligne &li : texte)
         p.strokePath(li.contour, QPen(Couleurs::halo, 2 * DemiHalo * k, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    if (!pl.renvoi.isNull()) {
+        p.setPen(QPen(Couleurs::texte, 2 * DemiRenvoi * k, Qt::SolidLine, Qt::FlatCap));
+        p.drawLine(renvoi);
+        p.setPen(Qt::NoPen);
+        p.setBrush(Couleurs::texte);
+        p.drawEllipse(renvoi.p1(), RayonAncre * k, RayonAncre * k);
+    }
     p.setFont(police(pl.taille * k, pl.étirement));
     p.setPen(Couleurs::texte);
     for (const Ligne &li : texte)

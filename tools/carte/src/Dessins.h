@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QLineF>
 #include <QPainterPath>
 #include <QStringList>
 #include <array>
@@ -23,7 +24,23 @@ struct PlacementNom {
     double note = 0;
     double sousAutres = 0;    // share of it under the shape of a canton drawn later
     int pixelsBordDessus = 0; // pixels of it on a border of a canton drawn later
+    // A name with no clear room on its own land stands where it reads (water,
+    // abroad, an earlier canton's land) and a leader joins it to its canton:
+    // from a point well inside the canton's land to the edge of the name's
+    // halo, in 1x pixels from the picture's top-left. Null when not needed.
+    QLineF renvoi;
+    QVector<QRect> étenduesRenvoi; // what the leader and its halo may cover, at 1x or 2x
 };
+
+// The leader: a thin line with a halo, and a small dot where it ends in the
+// canton's land.
+constexpr double DemiRenvoi = 0.45;   // half the line's width, 1x pixels
+constexpr double HaloRenvoi = 1.0;    // the halo's reach beyond the line
+constexpr double RayonAncre = 1.2;    // the dot at the canton's end
+// What the leader with its halo covers, as small boxes along it, in the
+// units of `trait` drawn at scale k (a diagonal's bounding box would claim
+// far more than the line takes).
+QVector<QRectF> ÉtendueRenvoi(const QLineF &trait, int k);
 
 // The chief-town dot as the game lays it, 7 x 8, on the map.
 QRect RectPoint(int numéro);

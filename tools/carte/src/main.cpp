@@ -162,16 +162,33 @@ Trame FaisTrame(const Géographie &g, QStringList &échecs)
 
 // Every name, as drawn at 1x and at 2x with its halo, keeps clear of the
 // other names of its language and of every town dot.
-void VérifieNoms(const Dessinateur &d, QStringList &échecs)
+void VérifieNoms(const Dessinateur &d, const Trame &t, QStringList &échecs)
 {
     for (Langue langue : {Langue::Français, Langue::Allemand})
         for (int k : {1, 2}) {
             const QString où = QString("(%1, %2x)").arg(langue == Langue::Français ? "fr" : "de").arg(k);
             // each line's reach on the map, in 1x pixels
             QVector<QVector<QRectF>> étendues(NombreCantons + 1);
-            for (const FicheCanton &c : Cantons())
-                for (const Dessinateur::Ligne &li : d.lignes(d.placement(c.numéro, langue), k))
+            for (const FicheCanton &c : Cantons()) {
+                const PlacementNom &pl = d.placement(c.numéro, langue);
+                for (const Dessinateur::Ligne &li : d.lignes(pl, k))
                     étendues[c.numéro] << QRectF(li.étendue.topLeft() / k, li.étendue.size() / k).translated(c.paysGauche, c.paysHaut);
+                if (pl.renvoi.isNull())
+                    continue;
+                for (const QRectF &e : ÉtendueRenvoi(QLineF(pl.renvoi.p1() * k, pl.renvoi.p2() * k), k))
+                    étendues[c.numéro] << QRectF(e.topLeft() / k, e.size() / k).translated(c.paysGauche, c.paysHaut);
+                // A leader ends in its canton's land and runs over nothing
+                // that a later picture covers.
+                const QPointF origine(c.paysGauche, c.paysHaut);
+                if (t.sûr(int(std::floor(pl.renvoi.x1() + c.paysGauche)), int(std::floor(pl.renvoi.y1() + c.paysHaut))) != c.numéro)
+                    échecs << QString("the leader of %1 ends outside its land %2").arg(c.sigle).arg(où);
+                for (int i = 0; i <= 20; ++i) {
+                    const QPointF m = pl.renvoi.pointAt(i / 20.0) + origine;
+                    const int z = t.sûr(int(std::floor(m.x())), int(std::floor(m.y())));
+                    if (z > c.numéro)
+                        échecs << QString("the leader of %1 runs under %2 %3").arg(c.sigle).arg(Canton(z).sigle).arg(où);
+                }
+            }
             for (int a = 1; a <= NombreCantons; ++a) {
                 for (const QRectF &e : étendues[a]) {
                     for (int b = a + 1; b <= NombreCantons; ++b)
@@ -276,11 +293,12 @@ qint64 FaisImages(const Géographie &g, const Dessinateur &d, const QString &dos
     for (const FicheCanton &c : Cantons())
         for (Langue l : {Langue::Français, Langue::Allemand}) {
             const PlacementNom pl = d.placement(c.numéro, l);
-            Dit(QString("  name of %1 (%2): %3 px%4, %5 line(s)%6%7").arg(c.sigle).arg(l == Langue::Français ? "fr" : "de")
+            Dit(QString("  name of %1 (%2): %3 px%4, %5 line(s)%6%7%8").arg(c.sigle).arg(l == Langue::Français ? "fr" : "de")
                     .arg(pl.taille).arg(pl.étirement != 100 ? QString(" at %1 %").arg(pl.étirement) : QString())
                     .arg(pl.lignes.size())
                     .arg(pl.sousAutres > 0 ? QString(", %1 % under a later canton").arg(100 * pl.sousAutres, 0, 'f', 0) : QString())
-                    .arg(pl.pixelsBordDessus > 0 ? QString(", %1 px of its border").arg(pl.pixelsBordDessus) : QString()));
+                    .arg(pl.pixelsBordDessus > 0 ? QString(", %1 px of its border").arg(pl.pixelsBordDessus) : QString())
+                    .arg(pl.renvoi.isNull() ? QString() : QString(", leader of %1 px").arg(pl.renvoi.length(), 0, 'f', 1)));
         }
     if (!aperçu.isEmpty()) {
         QDir().mkpath(aperçu);
@@ -385,7 +403,7 @@ int main(int argc, char **argv)
         if (pts.size() != 4 * (1 + HauteurCarte + 1 + CompteRuns(t)))
             échecs << "KELMOR.pts has the wrong size";
         const Dessinateur d(g, t);
-        VérifieNoms(d, échecs);
+        VérifieNoms(d, t, échecs);
         if (!échecs.isEmpty()) {
             for (const QString &e : échecs)
                 std::fprintf(stderr, "FAILED: %s\n", qPrintable(e));
