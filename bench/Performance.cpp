@@ -89,7 +89,7 @@ void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
     }
     auto &E = Principal();
     InstalleDialogueNouvellePartie([] {
-        Jeu().Niveau = 3;
+        Jeu().Niveau = TNiveau::Difficile;
         Jeu().Etape = Jeu().OrdreEtapes[1];
     });
     LanceNouvellePartie();
@@ -117,7 +117,7 @@ void BM_ChangementDeLangue(benchmark::State &state)
         return;
     }
     InstalleDialogueNouvellePartie([] {
-        Jeu().Niveau = 1;
+        Jeu().Niveau = TNiveau::Facile;
         Jeu().Etape = Jeu().OrdreEtapes[1];
     });
     LanceNouvellePartie();
@@ -153,11 +153,11 @@ void BM_PartieEntiere(benchmark::State &state)
     for (auto _ : state) {
         FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
         InstalleDialogueNouvellePartie([] {
-            Jeu().Niveau = 3;
+            Jeu().Niveau = TNiveau::Difficile;
             Jeu().Etape = Jeu().OrdreEtapes[1];
         });
         LanceNouvellePartie();
-        while (Jeu().Etape != 0) {
+        while (Jeu().Etape != TEtape::Aucune) {
             const QPoint p = points[Jeu().CantonRecherché];
             NotePositionCurseur(E.Carte->mapToGlobal(p));
             CliqueCarte(0);
@@ -198,7 +198,7 @@ void BM_PartieEcriteEtLue(benchmark::State &state)
     QTemporaryDir dossier;
     FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
     InstalleDialogueNouvellePartie([] {
-        Jeu().Niveau = 2;
+        Jeu().Niveau = TNiveau::Moyen;
         Jeu().Etape = Jeu().OrdreEtapes[1];
     });
     LanceNouvellePartie();

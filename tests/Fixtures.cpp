@@ -68,8 +68,8 @@ void JeuTest::SetUp()
 
     Langue = 1;
     Jeu().NomJoueur.clear();
-    Jeu().Etape = 0;
-    Jeu().Niveau = 0;
+    Jeu().Etape = TEtape::Aucune;
+    Jeu().Niveau = TNiveau::Aucun;
     for (auto &c : Jeu().Cantons)
         c = TCanton{};
     ASSERT_TRUE(Main());
@@ -114,7 +114,7 @@ void JeuTest::NouvellePartieAuNiveau(int niveau, bool apprentissage)
 {
     InstalleDialogueNouvellePartie([niveau, apprentissage] {
         Jeu().NomJoueur = QStringLiteral("Test");
-        Jeu().Niveau = static_cast<i16>(niveau);
+        Jeu().Niveau = static_cast<TNiveau>(niveau);
         Jeu().ModeApprentissage = apprentissage;
         Jeu().ScoreGelé = apprentissage;
         Principal().BoutonGruge->setPicture(Principal().AmpouleAllumée->Picture());

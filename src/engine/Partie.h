@@ -29,14 +29,34 @@ struct TCanton {
 
 constexpr int NombrePlaces = 26;
 
+// What the map is used for. 1 to 4 are the step kinds of a game, asked in the order
+// of OrdreEtapes; the files store the number.
+enum class TEtape : i16 {
+    Aucune = 0,
+    Cantons = 1,
+    ChefsLieux = 2,
+    Drapeaux = 3,
+    Plaques = 4,
+    ParamétrageModifié = 5, // a parameter set being edited
+    ParamétrageAffiché = 6, // a parameter set shown, locked
+    Révision = 7,
+};
+// Facile is Apprentissage when ModeApprentissage is set.
+enum class TNiveau : i16 { Aucun = 0, Facile = 1, Moyen = 2, Difficile = 3, Expert = 4 };
+
+constexpr int Numéro(TEtape e) { return static_cast<int>(e); }
+constexpr int Numéro(TNiveau n) { return static_cast<int>(n); }
+constexpr bool EtapeDeJeu(TEtape e) { return e >= TEtape::Cantons && e <= TEtape::Plaques; }
+
 struct Partie {
     TCanton Cantons[NombrePlaces + 1]; // element 0 stays empty
 
-    i16 Etape = 0;
-    i16 Niveau = 0;
+    TEtape Etape = TEtape::Aucune;
+    TNiveau Niveau = TNiveau::Aucun;
     bool ModeApprentissage = false;
     bool ScoreGelé = false;
-    i16 OrdreEtapes[5] = {0, 1, 2, 3, 4}; // 1..4
+    // 1..4; Aucune behind the last step of the game.
+    TEtape OrdreEtapes[5] = {TEtape::Aucune, TEtape::Cantons, TEtape::ChefsLieux, TEtape::Drapeaux, TEtape::Plaques};
     i16 RangEtape = 1; // the rank of OrdreEtapes under way; a saved game takes up the first that fits
     i16 NombreCantons = 0;
     i16 RestantsEtape = 0;

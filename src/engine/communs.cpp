@@ -35,7 +35,7 @@ namespace {
 // Values assigned to a whole-number property round to the nearest, halves to even.
 int Arrondi(double v) { return static_cast<int>(std::lrint(v)); }
 
-bool EtapeDeJeu() { return Jeu().Etape >= 1 && Jeu().Etape <= 4; }
+bool EtapeDeJeu() { return Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques; }
 
 } // namespace
 
@@ -202,7 +202,7 @@ i16 ZoneEn(int Région, int x, int y)
 
 void CliqueCarte(int Région)
 {
-    if (Jeu().Etape == 0)
+    if (Jeu().Etape == TEtape::Aucune)
         return;
     auto &E = Principal();
     const QRect rectangle = RectangleEcranDe(E.Carte);
@@ -213,7 +213,7 @@ void CliqueCarte(int Région)
     CorrectionZone(c);
     // The level's filter: at Facile and Moyen a canton already found counts for nothing.
     if (c != 0 && EtapeDeJeu() && c <= NombrePlaces) {
-        if ((Jeu().Niveau == 1 && !Jeu().ModeApprentissage) || Jeu().Niveau == 2)
+        if ((Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage) || Jeu().Niveau == TNiveau::Moyen)
             if (Jeu().Cantons[c].Trouvé)
                 c = 0;
     }
@@ -263,7 +263,7 @@ void LanceNouvellePartie()
     Jeu().ModeRévision = False;
     Jeu().ConseilFicheDonné = False;
     AjusteCarte();
-    if (Jeu().Etape == 0) {
+    if (Jeu().Etape == TEtape::Aucune) {
         CacheZoneJeu();
         CacheMarques();
         return;
@@ -287,14 +287,14 @@ void DébutEtape()
     Jeu().NombreCantons = 0;
 
     const int t = E.QueFaire->Top() + E.QueFaire->Height() + 5;
-    if ((Jeu().Etape == 1 && Jeu().Niveau != 2) || Jeu().Etape == 2) {
+    if ((Jeu().Etape == TEtape::Cantons && Jeu().Niveau != TNiveau::Moyen) || Jeu().Etape == TEtape::ChefsLieux) {
         E.ElémentRecherché->hide();
         E.ImageRecherchée->hide();
         E.TexteAChercher->show();
         E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
         E.TexteAChercher->setTop(t);
         E.TexteAChercher->setTailleFonte(10);
-    } else if (Jeu().Etape == 1 && Jeu().Niveau == 2) {
+    } else if (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen) {
         E.ElémentRecherché->show();
         E.ElémentRecherché->setLeft(E.QueFaire->Left());
         E.ElémentRecherché->setTop(t);
@@ -303,14 +303,14 @@ void DébutEtape()
         E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
         E.TexteAChercher->setTop(E.ElémentRecherché->Top() + E.ElémentRecherché->Height() + 5);
         E.TexteAChercher->setTailleFonte(10);
-    } else if (Jeu().Etape == 3) {
+    } else if (Jeu().Etape == TEtape::Drapeaux) {
         E.ElémentRecherché->show();
         E.ElémentRecherché->setLeft(E.QueFaire->Left());
         E.ElémentRecherché->setTop(t);
         E.ImageRecherchée->show();
         E.ImageRecherchée->setPicture(E.drapeau[1]->Picture());
         E.TexteAChercher->hide();
-    } else if (Jeu().Etape == 5 || Jeu().Etape == 6) {
+    } else if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché) {
         E.ElémentRecherché->hide();
         E.ImageRecherchée->hide();
         E.TexteAChercher->hide();
@@ -321,7 +321,7 @@ void DébutEtape()
 
     for (int i = 1; i <= NombrePlaces; ++i) {
         TCanton &c = Jeu().Cantons[i];
-        E.rond[i]->setToolTip(Jeu().Etape == 7 ? c.ChefLieu : QString());
+        E.rond[i]->setToolTip(Jeu().Etape == TEtape::Révision ? c.ChefLieu : QString());
         if (c.Inhibé) {
             c.Trouvé = True;
         } else {
@@ -333,8 +333,8 @@ void DébutEtape()
         const Image *région = E.ImageRégion[c.Région];
         E.Pays[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
         E.inv[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
-        if (Jeu().Etape < 5)
-            c.Réussi[Jeu().Etape] = False;
+        if (Jeu().Etape < TEtape::ParamétrageModifié)
+            c.Réussi[Numéro(Jeu().Etape)] = False;
     }
 
     Jeu().ErreursQuestion = 0;
@@ -348,7 +348,7 @@ void DébutEtape()
 void AffichePanneau()
 {
     auto &E = Principal();
-    if (Jeu().Etape == 5 || Jeu().Etape == 6)
+    if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché)
         AfficheParamétrage();
     else
         CacheParamétrage();
@@ -372,19 +372,19 @@ void AffichePanneau()
         E.ElémentRecherché->setVisible(visible);
     };
 
-    if (Jeu().Etape == 0) {
+    if (Jeu().Etape == TEtape::Aucune) {
         boîtesDuCompte(false);
         boîtesDuScore(false);
-    } else if (Jeu().Etape >= 5) {
+    } else if (Jeu().Etape >= TEtape::ParamétrageModifié) {
         boîtesDuCompte(false);
         boîtesDuScore(false);
         E.TexteAChercher->hide();
         cadreQuestion(false);
-    } else if (Jeu().Etape <= 3) {
+    } else if (Jeu().Etape <= TEtape::Drapeaux) {
         boîtesDuCompte(true);
         boîtesDuScore(!Jeu().ModeApprentissage);
-        E.TexteAChercher->setVisible(Jeu().Etape != 3);
-        cadreQuestion(Jeu().Etape == 3 || (Jeu().Etape == 1 && Jeu().Niveau == 2));
+        E.TexteAChercher->setVisible(Jeu().Etape != TEtape::Drapeaux);
+        cadreQuestion(Jeu().Etape == TEtape::Drapeaux || (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen));
     }
     ZoneQuestionSpécifique();
 }
@@ -424,17 +424,17 @@ void QuestionSuivante()
         E.ImageRecherchée->setWidth(w);
         E.ImageRecherchée->setPicture(source->Picture());
     };
-    if (Jeu().Etape == 1) {
+    if (Jeu().Etape == TEtape::Cantons) {
         E.TexteAChercher->setText(Jeu().Cantons[c].Nom);
-        if (Jeu().Niveau == 2 && c != 0) {
+        if (Jeu().Niveau == TNiveau::Moyen && c != 0) {
             const Image *source = E.inv[c];
             if ((source->Width() > LargeurVignette - 2 || source->Height() > HauteurVignette - 2) && E.miniature[c])
                 source = E.miniature[c];
             remplitCadre(source);
         }
-    } else if (Jeu().Etape == 2) {
+    } else if (Jeu().Etape == TEtape::ChefsLieux) {
         E.TexteAChercher->setText(Jeu().Cantons[c].ChefLieu);
-    } else if (Jeu().Etape == 3 && c != 0) {
+    } else if (Jeu().Etape == TEtape::Drapeaux && c != 0) {
         remplitCadre(E.drapeau[c]);
     }
     QuestionSpécifique();
@@ -448,11 +448,11 @@ void FinEtape()
     for (int i = 1; i <= 4 && pos == 0; ++i)
         if (Jeu().OrdreEtapes[i] == Jeu().Etape)
             pos = i;
-    const i16 suivante = (pos == 0 || pos == 4) ? i16(0) : Jeu().OrdreEtapes[pos + 1];
+    const TEtape suivante = (pos == 0 || pos == 4) ? TEtape::Aucune : Jeu().OrdreEtapes[pos + 1];
     Jeu().RangEtape = static_cast<i16>(pos + 1);
     const QString annonce = MessageTransition(Jeu().Etape, suivante);
 
-    if (suivante != 0) {
+    if (suivante != TEtape::Aucune) {
         JoueSon(SonEtape);
         Boîte(annonce, StyleInformation, Messages[20]);
         Jeu().Etape = suivante;
@@ -469,7 +469,7 @@ void FinEtape()
 // Back to the bare map with no game: what a saved game or a validated parameter set leaves.
 void RetourAuRepos()
 {
-    Jeu().Etape = 0;
+    Jeu().Etape = TEtape::Aucune;
     DébutEtape();
     Jeu().PartieVierge = True;
     CacheMarques();
@@ -479,7 +479,7 @@ void RetourAuRepos()
 // A game that is over, won or lost: its result dealt with, the map and the panel cleared.
 void TerminePartie()
 {
-    Jeu().Etape = 0;
+    Jeu().Etape = TEtape::Aucune;
     EnregistreScore();
     DébutEtape();
     Jeu().PartieVierge = True;
@@ -536,14 +536,14 @@ void TraiteClic(i16 c, i16 x, i16 y)
         return;
     if (EtapeDeJeu())
         Jeu().PartieVierge = False;
-    if (Jeu().Etape == 5) {
+    if (Jeu().Etape == TEtape::ParamétrageModifié) {
         Jeu().Cantons[c].Trouvé = Booléen(!Jeu().Cantons[c].Trouvé);
         PlaceRond(c);
         return;
     }
-    if (Jeu().Etape == 6)
+    if (Jeu().Etape == TEtape::ParamétrageAffiché)
         return;
-    if (Jeu().Etape == 7) {
+    if (Jeu().Etape == TEtape::Révision) {
         JoueSon(SonInfo);
         Jeu().CantonFiche = c;
         if (x == 0 && y == 0) {
@@ -571,7 +571,7 @@ void TraiteClic(i16 c, i16 x, i16 y)
         MontrePompe();
         return;
     }
-    if (Jeu().Niveau != 3 && Jeu().Niveau != 4)
+    if (Jeu().Niveau != TNiveau::Difficile && Jeu().Niveau != TNiveau::Expert)
         return;
     if (Jeu().Cantons[c].Inhibé)
         return;
@@ -582,7 +582,7 @@ void BonneRéponse()
 {
     auto &E = Principal();
     const i16 c = Jeu().CantonRecherché;
-    if (Jeu().Niveau == 1) {
+    if (Jeu().Niveau == TNiveau::Facile) {
         E.BoutonPasse->hide();
         if (!Jeu().AssistanceUtilisée)
             Jeu().Cantons[c].Trouvé = True;
@@ -593,8 +593,8 @@ void BonneRéponse()
     if (!Jeu().AssistanceUtilisée) {
         PlaceRond(c);
         Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
-        if (Jeu().Etape >= 1 && Jeu().Etape <= 4)
-            Jeu().Cantons[c].Réussi[Jeu().Etape] = True;
+        if (Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques)
+            Jeu().Cantons[c].Réussi[Numéro(Jeu().Etape)] = True;
         AfficheRestants(Jeu().RestantsEtape);
         if (Jeu().RestantsEtape == 0) {
             FinEtape();
@@ -635,7 +635,7 @@ void MauvaiseRéponse()
     Jeu().ErreursQuestion = Jeu().ErreursQuestion + 1;
     if (Jeu().ErreursQuestion < 9) {
         JoueSon(SonErreur);
-        if (Jeu().ErreursQuestion == 1 && Jeu().Niveau == 1 && !Jeu().ModeApprentissage)
+        if (Jeu().ErreursQuestion == 1 && Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage)
             E.BoutonPasse->show();
         if (Jeu().ErreursQuestion == 3 && Jeu().ModeApprentissage)
             E.BoutonGruge->show();
@@ -660,7 +660,7 @@ void MauvaiseRéponse()
 i32 Pénalité(i32 S, i16 k)
 {
     const double p = std::pow(4.0, k);
-    const int étape = (Jeu().Etape >= 0 && Jeu().Etape <= 4) ? Jeu().Etape : 0;
+    const int étape = Jeu().Etape <= TEtape::Plaques ? Numéro(Jeu().Etape) : 0;
     TCanton &c = Jeu().Cantons[(Jeu().CantonRecherché >= 0 && Jeu().CantonRecherché <= NombrePlaces) ? Jeu().CantonRecherché : 0];
     c.Pertes[étape] = static_cast<i32>(std::lrint(c.Pertes[étape] + p));
     c.Pertes[0] = static_cast<i32>(std::lrint(c.Pertes[0] + p));
@@ -700,15 +700,15 @@ void ScoreAbandon()
     PoidsSpécifiques();
     Jeu().Score = -999999;
     for (int i = 1; i <= 4; ++i) {
-        const i16 étape = Jeu().OrdreEtapes[i];
-        if (étape == 0)
+        const TEtape étape = Jeu().OrdreEtapes[i];
+        if (étape == TEtape::Aucune)
             break;
         if (étape == Jeu().Etape) {
-            Jeu().Score += (Jeu().NombreCantons - Jeu().RestantsEtape) * PoidsEtapes[Jeu().Etape] * PointsParCanton;
+            Jeu().Score += (Jeu().NombreCantons - Jeu().RestantsEtape) * PoidsEtapes[Numéro(Jeu().Etape)] * PointsParCanton;
             break;
         }
-        if (étape >= 1 && étape <= 4)
-            Jeu().Score += PoidsEtapes[étape] * Jeu().NombreCantons * PointsParCanton;
+        if (EtapeDeJeu(étape))
+            Jeu().Score += PoidsEtapes[Numéro(étape)] * Jeu().NombreCantons * PointsParCanton;
     }
 }
 
@@ -785,10 +785,10 @@ void MontreCantonEtapesSuivantes(i16 i)
     const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
     const bool I = Jeu().Cantons[i].Inhibé;
     switch (Jeu().Niveau) {
-    case 1: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
-    case 2: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
-    case 3: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
-    case 4: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
+    case TNiveau::Facile: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
+    case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
+    case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
+    case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
     default: break;
     }
 }
@@ -799,27 +799,27 @@ void MontreCanton(i16 i)
     const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
     const bool I = Jeu().Cantons[i].Inhibé;
     switch (Jeu().Etape) {
-    case 0:
+    case TEtape::Aucune:
         E.Pays[i]->hide();
         E.inv[i]->hide();
         E.rond[i]->hide();
         break;
-    case 1:
+    case TEtape::Cantons:
         switch (Jeu().Niveau) {
-        case 1: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
-        case 2: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
-        case 3: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
-        case 4: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
+        case TNiveau::Facile: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
+        case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
+        case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
+        case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
         default: break;
         }
         break;
-    case 2:
-    case 3:
+    case TEtape::ChefsLieux:
+    case TEtape::Drapeaux:
         MontreCantonEtapesSuivantes(i);
         break;
-    case 5:
-    case 6:
-    case 7:
+    case TEtape::ParamétrageModifié:
+    case TEtape::ParamétrageAffiché:
+    case TEtape::Révision:
         E.Pays[i]->show();
         E.inv[i]->hide();
         E.rond[i]->show();
@@ -854,11 +854,11 @@ void MarqueRondPartie(i16 i)
     const TCanton &c = Jeu().Cantons[i];
     if (Jeu().AssistanceUtilisée && i == Jeu().CantonRecherché)
         Pose(r, E.Rondnoir, c);
-    if (Jeu().Niveau == 1) {
+    if (Jeu().Niveau == TNiveau::Facile) {
         if (c.Trouvé)
             Pose(r, E.RondPref, c);
         r->setToolTip(c.Trouvé && Jeu().ModeApprentissage ? c.ChefLieu : QString());
-    } else if (Jeu().Niveau == 2) {
+    } else if (Jeu().Niveau == TNiveau::Moyen) {
         if (c.Trouvé)
             Pose(r, E.RondPref, c);
     }
@@ -876,11 +876,11 @@ void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
     const bool visible = r->Visible();
     r->hide();
     Pose(r, E.RondVille, c);
-    if (Jeu().Etape >= 1 && Jeu().Etape <= 3) {
+    if (Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Drapeaux) {
         MarqueRondPartie(i);
-    } else if (Jeu().Etape == 5 || Jeu().Etape == 6) {
+    } else if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché) {
         Pose(r, c.Trouvé ? E.Rondrouge : E.Rondjaune, c);
-    } else if (Jeu().Etape == 7 && Cible) {
+    } else if (Jeu().Etape == TEtape::Révision && Cible) {
         r->setPicture(E.Rondcible->Picture());
         r->move(x - E.Rondcible->Width() / 2 - 1 - E.BarreH->Value(),
                 y - E.Rondcible->Height() / 2 - 1 - E.BarreV->Value());

@@ -20,7 +20,7 @@ i16 NuméroPlace(i16 c) { return c; }
 
 void DébutEtapeSpécifique()
 {
-    if (Jeu().Etape != 4)
+    if (Jeu().Etape != TEtape::Plaques)
         return;
     // The plate letters stand where a town's name would, under the panel's head.
     auto &E = Principal();
@@ -34,13 +34,13 @@ void DébutEtapeSpécifique()
 
 void QuestionSpécifique()
 {
-    if (Jeu().Etape == 4)
+    if (Jeu().Etape == TEtape::Plaques)
         Principal().TexteAChercher->setText(Plaques[Jeu().CantonRecherché]);
 }
 
 void ZoneQuestionSpécifique()
 {
-    if (Jeu().Etape != 4)
+    if (Jeu().Etape != TEtape::Plaques)
         return;
     auto &E = Principal();
     E.QueFaire->show();
@@ -60,7 +60,7 @@ void ZoneQuestionSpécifique()
 
 void PlaceTexteSpécifique()
 {
-    if (Jeu().Etape != 4)
+    if (Jeu().Etape != TEtape::Plaques)
         return;
     auto &E = Principal();
     E.TexteAChercher->setTop(E.QueFaire->Top() + E.QueFaire->Height() + 5);
@@ -68,32 +68,32 @@ void PlaceTexteSpécifique()
 
 void PlaceRondSpécifique(i16 i)
 {
-    if (Jeu().Etape == 4)
+    if (Jeu().Etape == TEtape::Plaques)
         MarqueRondPartie(i);
 }
 
 void MontreCantonSpécifique(i16 i)
 {
-    if (Jeu().Etape == 4)
+    if (Jeu().Etape == TEtape::Plaques)
         MontreCantonEtapesSuivantes(i);
 }
 
-QString MessageTransition(i16 étape, i16 suivante)
+QString MessageTransition(TEtape étape, TEtape suivante)
 {
     QString tête;
     switch (étape) {
-    case 1: tête = Messages[21]; break;
-    case 2: tête = Messages[22]; break;
-    case 3: tête = Messages[23]; break;
-    case 4: tête = Messages[163]; break;
+    case TEtape::Cantons: tête = Messages[21]; break;
+    case TEtape::ChefsLieux: tête = Messages[22]; break;
+    case TEtape::Drapeaux: tête = Messages[23]; break;
+    case TEtape::Plaques: tête = Messages[163]; break;
     default: break;
     }
     QString queue;
     switch (suivante) {
-    case 1: queue = Messages[24]; break;
-    case 2: queue = Messages[25]; break;
-    case 3: queue = Messages[26]; break;
-    case 4: queue = Messages[165]; break;
+    case TEtape::Cantons: queue = Messages[24]; break;
+    case TEtape::ChefsLieux: queue = Messages[25]; break;
+    case TEtape::Drapeaux: queue = Messages[26]; break;
+    case TEtape::Plaques: queue = Messages[165]; break;
     default: break;
     }
     return tête + queue;

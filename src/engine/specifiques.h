@@ -15,6 +15,6 @@ void ZoneQuestionSpécifique();
 void PlaceTexteSpécifique();
 void PlaceRondSpécifique(i16 i);
 void MontreCantonSpécifique(i16 i);
-QString MessageTransition(i16 étape, i16 suivante);
+QString MessageTransition(TEtape étape, TEtape suivante);
 void PoidsSpécifiques();
 void LibelléSpécifique();

@@ -16,6 +16,8 @@ constexpr int LongueurChaîneMax = TailleEnregistrement - 2;
 class EcritureEnregistrements {
 public:
     void Entier(i16 v);
+    void Entier(TEtape e) { Entier(static_cast<i16>(e)); }
+    void Entier(TNiveau n) { Entier(static_cast<i16>(n)); }
     // A Boolean goes in as -1 or 0, through Booléen: a bare bool would write 1.
     template <class T> requires std::is_same_v<T, bool> void Entier(T) = delete;
     template <class T> requires std::is_same_v<T, bool> void Long(T) = delete;

@@ -55,9 +55,9 @@ NouvellePartie::NouvellePartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
 
     // Apprentissage is never offered again: it shares level 1 with Facile.
     switch (Jeu().Niveau) {
-    case 2: NiveauMoyen->setChecked(true); break;
-    case 3: NiveauDifficile->setChecked(true); break;
-    case 4: NiveauExpert->setChecked(true); break;
+    case TNiveau::Moyen: NiveauMoyen->setChecked(true); break;
+    case TNiveau::Difficile: NiveauDifficile->setChecked(true); break;
+    case TNiveau::Expert: NiveauExpert->setChecked(true); break;
     default: NiveauFacile->setChecked(true); break;
     }
     BoîteNomJoueur->setText(Jeu().NomJoueur);
@@ -87,15 +87,15 @@ void NouvellePartie::BoutonSortie_Click()
     auto &E = Principal();
     E.BoutonGruge->setPicture(E.AmpouleAllumée->Picture());
     if (NiveauFacile->isChecked())
-        Jeu().Niveau = 1;
+        Jeu().Niveau = TNiveau::Facile;
     else if (NiveauMoyen->isChecked())
-        Jeu().Niveau = 2;
+        Jeu().Niveau = TNiveau::Moyen;
     else if (NiveauDifficile->isChecked())
-        Jeu().Niveau = 3;
+        Jeu().Niveau = TNiveau::Difficile;
     else if (NiveauExpert->isChecked())
-        Jeu().Niveau = 4;
+        Jeu().Niveau = TNiveau::Expert;
     else if (NiveauApprentissage->isChecked()) {
-        Jeu().Niveau = 1;
+        Jeu().Niveau = TNiveau::Facile;
         Jeu().ModeApprentissage = True;
         Jeu().ScoreGelé = True;
     }
@@ -107,7 +107,7 @@ void NouvellePartie::BoutonSortie_Click()
 
 void NouvellePartie::BoutonAnnuler_Click()
 {
-    Jeu().Etape = 0;
+    Jeu().Etape = TEtape::Aucune;
     QDialog::reject();
 }
 

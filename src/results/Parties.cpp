@@ -36,7 +36,7 @@ QString FichierLancementNoté(const QString &dossierPartie)
     return RelitTelQuel(relatif) ? relatif : QString();
 }
 
-bool PartieEnCours() { return !Jeu().PartieVierge && !Jeu().PartieEnregistrée && Jeu().Etape != 6; }
+bool PartieEnCours() { return !Jeu().PartieVierge && !Jeu().PartieEnregistrée && Jeu().Etape != TEtape::ParamétrageAffiché; }
 
 QString RépertoireDe(const QString &Chemin)
 {
@@ -174,7 +174,7 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     FichierLancement = fichier;
     if (fichier == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
-            Jeu().OrdreEtapes[i] = ordre[i];
+            Jeu().OrdreEtapes[i] = static_cast<TEtape>(ordre[i]);
         for (const auto &[l, n] : lignes) {
             NombreScores[n] = NombreScores[n] + 1;
             MeilleursScores[n][NombreScores[n]] = l;
@@ -182,10 +182,10 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     } else {
         ChargeScores();
     }
-    Jeu().Etape = étape;
+    Jeu().Etape = static_cast<TEtape>(étape);
     Jeu().RangEtape = 1;
     Jeu().NomJoueur = nom.left(20);
-    Jeu().Niveau = niveau;
+    Jeu().Niveau = static_cast<TNiveau>(niveau);
     Jeu().ModeApprentissage = apprentissage != 0;
     Jeu().ScoreGelé = Jeu().ModeApprentissage;
     DébutEtape();

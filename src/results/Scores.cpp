@@ -72,7 +72,7 @@ bool LitScores(const QByteArray &contenu)
 {
     LectureEnregistrements f(contenu);
     for (int i = 1; i <= 4; ++i)
-        Jeu().OrdreEtapes[i] = static_cast<i16>(i);
+        Jeu().OrdreEtapes[i] = static_cast<TEtape>(i);
     QString version;
     i16 langue = 0, places = 0, cantons = 0;
     if (!f.Chaîne(version) || !f.Entier(langue) || !f.Entier(places) || !f.Entier(cantons))
@@ -90,7 +90,7 @@ bool LitScores(const QByteArray &contenu)
     if (!OrdreValable(ordre))
         return false;
     for (int i = 1; i <= 4; ++i)
-        Jeu().OrdreEtapes[i] = ordre[i];
+        Jeu().OrdreEtapes[i] = static_cast<TEtape>(ordre[i]);
     for (int i = 1; i <= NombrePlaces; ++i)
         Jeu().Cantons[i].Inhibé = Booléen(inhibés[i] != 0);
 
@@ -151,7 +151,7 @@ void ChargeScores()
         SignaleFichierScoresAbîmé(FichierLancement);
     }
     for (int i = 1; i <= 4; ++i)
-        Jeu().OrdreEtapes[i] = static_cast<i16>(i);
+        Jeu().OrdreEtapes[i] = static_cast<TEtape>(i);
     for (int i = 1; i <= NombrePlaces; ++i)
         Jeu().Cantons[i].Inhibé = False;
 }
@@ -163,7 +163,7 @@ void EnregistreScore()
         Boîte(Messages[44], StyleInformation, Messages[35]);
     } else {
         Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
-        const int niveau = (Jeu().Niveau >= 1 && Jeu().Niveau <= 4) ? Jeu().Niveau : 0;
+        const int niveau = Numéro(Jeu().Niveau);
         int pos = 1;
         for (int i = 1; i <= NombreScores[niveau]; ++i) {
             const TLigneScore &l = MeilleursScores[niveau][i];
@@ -190,7 +190,7 @@ void EnregistreScore()
             Boîte(Messages[43], StyleInformation, Messages[35]);
         }
     }
-    NiveauAffiché = Jeu().Niveau;
+    NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));
     Jeu().PartieEnregistrée = True;
     Jeu().ScoresFinPartie = True;
     MontreAffichageScores();

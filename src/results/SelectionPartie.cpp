@@ -197,7 +197,7 @@ void SélectionPartie::BoutonOK_Click()
         }
         FichierLancement = cheminFichier;
         ChargeScores();
-        Jeu().Etape = 0;
+        Jeu().Etape = TEtape::Aucune;
         DébutEtape();
         Jeu().PartieVierge = True;
         Jeu().ModeRévision = False;

@@ -80,7 +80,7 @@ QColor CouleurNeutre() { return QApplication::palette("QScrollBar").color(QPalet
 QColor CouleurAbsence(i16 k)
 {
     for (int i = 1; i <= 4; ++i)
-        if (Jeu().OrdreEtapes[i] == k)
+        if (Numéro(Jeu().OrdreEtapes[i]) == k)
             return CouleurAbsent;
     return CouleurNeutre();
 }

@@ -26,7 +26,7 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.FichierNouveau, [] { LanceNouvellePartie(); });
     relie(E.FichierEnregistrer, [] { EnregistrePartie(); });
     relie(E.FichierLire, [] { FichierLire_Click(); });
-    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(Jeu().Niveau); });
+    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(static_cast<i16>(Numéro(Jeu().Niveau))); });
     relie(E.ScoreFacile, [] { AfficheMeilleursScores(1); });
     relie(E.ScoreMoyen, [] { AfficheMeilleursScores(2); });
     relie(E.ScoreDifficile, [] { AfficheMeilleursScores(3); });
@@ -61,8 +61,8 @@ void LanceRévision()
 {
     if (!ConfirmeArrêt())
         return;
-    Jeu().Etape = 7;
-    Jeu().Niveau = 1;
+    Jeu().Etape = TEtape::Révision;
+    Jeu().Niveau = TNiveau::Facile;
     DébutEtape();
     Jeu().PartieVierge = True;
     CacheZoneJeu();

@@ -395,7 +395,7 @@ void ChargeEcranPrincipal()
     SonPerdu = ComposeChemin(RépertoireApplication, QStringLiteral("carte_pe.wav"));
     SonInfo = ComposeChemin(RépertoireApplication, QStringLiteral("carte_hl.wav"));
 
-    Jeu().Niveau = 0;
+    Jeu().Niveau = TNiveau::Aucun;
 
     // Dots over all borders, a later canton's border over an earlier one's.
     E.ImageRégion[0]->raise();
@@ -415,7 +415,7 @@ void ChargeEcranPrincipal()
             CréeFichierInfo(i);
     }
 
-    Jeu().Etape = 0;
+    Jeu().Etape = TEtape::Aucune;
     CacheZoneJeu();
     Jeu().ModeRévision = False;
     AjusteCarte();

@@ -58,7 +58,7 @@ void DéfinitParamétrage()
 {
     if (!ConfirmeArrêt())
         return;
-    Jeu().Etape = 5;
+    Jeu().Etape = TEtape::ParamétrageModifié;
     SéquenceEntrée();
 }
 
@@ -66,7 +66,7 @@ void RevoitParamétrage()
 {
     if (!ConfirmeArrêt())
         return;
-    Jeu().Etape = 6;
+    Jeu().Etape = TEtape::ParamétrageAffiché;
     SéquenceEntrée();
 }
 
@@ -77,7 +77,7 @@ void ParamétrageDéfaut()
     FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
     EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
     ChargeScores();
-    Jeu().Etape = 6;
+    Jeu().Etape = TEtape::ParamétrageAffiché;
     SéquenceEntrée();
 }
 
@@ -88,7 +88,7 @@ void RechargeParamétrage()
     ModeRépertoires = 2;
     TypeFichier = 5;
     MontreSélectionPartie();
-    Jeu().Etape = 6;
+    Jeu().Etape = TEtape::ParamétrageAffiché;
     SéquenceEntrée();
 }
 
@@ -103,15 +103,15 @@ void AfficheParamétrage()
     for (int k = 1; k <= 16; ++k) {
         E.Bouton[k]->setChecked(false);
         E.Bouton[k]->show();
-        E.Bouton[k]->setEnabled(Jeu().Etape != 6);
+        E.Bouton[k]->setEnabled(Jeu().Etape != TEtape::ParamétrageAffiché);
     }
     for (int i = 1; i <= 12; ++i)
         E.LBLParam[i]->show();
     E.Bouton[17]->show();
-    E.Bouton[17]->setEnabled(Jeu().Etape != 6);
+    E.Bouton[17]->setEnabled(Jeu().Etape != TEtape::ParamétrageAffiché);
     for (int n = 1; n <= 4; ++n)
-        if (Jeu().OrdreEtapes[n] >= 1 && Jeu().OrdreEtapes[n] <= 4) {
-            const int k = (n - 1) * 4 + Jeu().OrdreEtapes[n];
+        if (Jeu().OrdreEtapes[n] >= TEtape::Cantons && Jeu().OrdreEtapes[n] <= TEtape::Plaques) {
+            const int k = (n - 1) * 4 + Numéro(Jeu().OrdreEtapes[n]);
             E.Bouton[k]->setChecked(true);
             CodeEtapes += 1 << k;
         }
@@ -127,13 +127,13 @@ void AfficheParamétrage()
         E.Bouton[17]->setChecked(true);
         E.Bouton[18]->show();
         E.LBLParam[13]->show();
-        E.Bouton[18]->setEnabled(Jeu().Etape != 6);
+        E.Bouton[18]->setEnabled(Jeu().Etape != TEtape::ParamétrageAffiché);
         QString lancement;
         LitValeur(CléJeu, FichierDeLancement, lancement);
         ParamétrageDeLancement = Booléen(lancement == FichierLancement);
         E.Bouton[18]->setChecked(ParamétrageDeLancement);
     }
-    if (Jeu().Etape == 6) {
+    if (Jeu().Etape == TEtape::ParamétrageAffiché) {
         E.BTN[1]->hide();
         E.BTN[2]->hide();
         E.LBLParam[2]->setText(Messages[70]);
@@ -237,10 +237,10 @@ void ValideParamétrage()
     SortieParamétrage = True;
     i32 code = 0;
     for (int n = 1; n <= 4; ++n) {
-        Jeu().OrdreEtapes[n] = 0;
+        Jeu().OrdreEtapes[n] = TEtape::Aucune;
         for (int r = 1; r <= 4; ++r)
             if (Case(n, r)->isChecked()) {
-                Jeu().OrdreEtapes[n] = static_cast<i16>(r);
+                Jeu().OrdreEtapes[n] = static_cast<TEtape>(r);
                 code += 1 << ((n - 1) * 4 + r);
             }
     }
@@ -283,7 +283,7 @@ void ValideParamétrage()
 
 void AnnuleParamétrage()
 {
-    Jeu().Etape = 0;
+    Jeu().Etape = TEtape::Aucune;
     DébutEtape();
     AffichePanneau();
     Jeu().ModeRévision = False;

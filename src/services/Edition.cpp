@@ -130,7 +130,7 @@ void EditerFiches()
 {
     // A game the player keeps stays where it was, behind the editor.
     if (ConfirmeArrêt()) {
-        Jeu().Etape = 0;
+        Jeu().Etape = TEtape::Aucune;
         Jeu().ModeRévision = False;
         AjusteEcran();
         AjusteCarte();

@@ -88,9 +88,9 @@ void ChargeImagesPays()
 void EtiquetteEcran()
 {
     auto &E = Principal();
-    if (Jeu().Etape == 1 && Jeu().CantonRecherché != 0)
+    if (Jeu().Etape == TEtape::Cantons && Jeu().CantonRecherché != 0)
         E.TexteAChercher->setText(Jeu().Cantons[Jeu().CantonRecherché].Nom);
-    if (Jeu().Etape == 2 && Jeu().CantonRecherché != 0)
+    if (Jeu().Etape == TEtape::ChefsLieux && Jeu().CantonRecherché != 0)
         E.TexteAChercher->setText(Jeu().Cantons[Jeu().CantonRecherché].ChefLieu);
 
     E.setWindowTitle(Messages[110].trimmed());
@@ -124,7 +124,7 @@ void EtiquetteEcran()
     E.MenuCouleurCapitalesTrouvées->setText(Messages[161]);
     E.MenuFichInfo->setText(Messages[168]);
     E.LBLParam[1]->setText(Messages[68]);
-    E.LBLParam[2]->setText(Jeu().Etape == 6 ? Messages[70] : Messages[69]);
+    E.LBLParam[2]->setText(Jeu().Etape == TEtape::ParamétrageAffiché ? Messages[70] : Messages[69]);
     if (FichierLancement != QLatin1String("~tmp.~cf"))
         E.LBLParam[3]->setText(Messages[71] + QLatin1Char('\n') + FichierLancement);
     else
@@ -163,7 +163,7 @@ void ChangeLangue(int n)
     MontreCantons();
     AffichePanneau();
     EcritValeur(CléJeu, QStringLiteral("langue"), QLatin1Char(' ') + QString::number(Langue));
-    if (Jeu().Etape == 7) {
+    if (Jeu().Etape == TEtape::Révision) {
         auto &E = Principal();
         for (int k = 1; k <= NombrePlaces; ++k)
             E.rond[k]->setToolTip(Jeu().Cantons[k].ChefLieu);

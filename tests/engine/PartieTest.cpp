@@ -19,7 +19,7 @@ using Partie = JeuTest;
 // Plays every step through to its end with right answers only.
 void JoueJusquAuBout(JeuTest &t, std::function<void()> aChaqueQuestion = {})
 {
-    for (int garde = 0; Jeu().Etape != 0 && garde < 200; ++garde) {
+    for (int garde = 0; Jeu().Etape != TEtape::Aucune && garde < 200; ++garde) {
         if (aChaqueQuestion)
             aChaqueQuestion();
         t.RépondJuste();
@@ -32,16 +32,16 @@ TEST_F(Partie, AWholeGameAtEachLevelEndsAt999999)
         boîtes.journal.clear();
         sons.joués.clear();
         NouvellePartieAuNiveau(niveau);
-        ASSERT_EQ(Jeu().Etape, 1);
+        ASSERT_EQ(Jeu().Etape, TEtape::Cantons);
         ASSERT_EQ(Jeu().RestantsEtape, 26);
         std::vector<i16> étapesVues;
         JoueJusquAuBout(*this, [&] {
-            if (étapesVues.empty() || étapesVues.back() != Jeu().Etape)
-                étapesVues.push_back(Jeu().Etape);
+            if (étapesVues.empty() || étapesVues.back() != Numéro(Jeu().Etape))
+                étapesVues.push_back(static_cast<i16>(Numéro(Jeu().Etape)));
         });
         EXPECT_EQ(étapesVues, (std::vector<i16>{1, 2, 3, 4})) << "level " << niveau;
         EXPECT_EQ(Jeu().Score, 999999);
-        EXPECT_EQ(Jeu().Etape, 0);
+        EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
         EXPECT_TRUE(Jeu().PartieEnregistrée);
         // Three announcements of the next step, each with its sound, then the verdict.
         ASSERT_EQ(boîtes.journal.size(), 4u);
@@ -58,40 +58,40 @@ TEST_F(Partie, AWholeGameAtEachLevelEndsAt999999)
 
 TEST_F(Partie, OrderOfTwoStepsEndsWithoutAnnouncementAfterFlags)
 {
-    Jeu().OrdreEtapes[1] = 2;
-    Jeu().OrdreEtapes[2] = 3;
-    Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = TEtape::ChefsLieux;
+    Jeu().OrdreEtapes[2] = TEtape::Drapeaux;
+    Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     NouvellePartieAuNiveau(2);
-    ASSERT_EQ(Jeu().Etape, 2);
+    ASSERT_EQ(Jeu().Etape, TEtape::ChefsLieux);
     EXPECT_EQ(Principal().TexteAChercher->text(), Jeu().Cantons[Jeu().CantonRecherché].ChefLieu);
     EXPECT_FALSE(Principal().ElémentRecherché->Visible());
     for (int n = 0; n < 26; ++n)
         RépondJuste();
-    ASSERT_EQ(Jeu().Etape, 3);
+    ASSERT_EQ(Jeu().Etape, TEtape::Drapeaux);
     EXPECT_TRUE(Principal().ElémentRecherché->Visible());
     EXPECT_FALSE(Principal().TexteAChercher->Visible());
     EXPECT_EQ(Principal().ImageRecherchée->Width(), 125);
     EXPECT_EQ(Principal().ImageRecherchée->Left(), 38); // (200 − 125) / 2 rounds to even
     for (int n = 0; n < 26; ++n)
         RépondJuste();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[1].texte, Messages[39]);
     for (int k = 1; k <= 4; ++k)
-        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
 }
 
 TEST_F(Partie, AKindTwiceInAHandMadeOrderIsPlayedTwiceAndTheGameEnds)
 {
-    Jeu().OrdreEtapes[1] = Jeu().OrdreEtapes[2] = 2;
-    Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = Jeu().OrdreEtapes[2] = TEtape::ChefsLieux;
+    Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     NouvellePartieAuNiveau(2);
-    for (int n = 0; n < 52 && Jeu().Etape == 2; ++n)
+    for (int n = 0; n < 52 && Jeu().Etape == TEtape::ChefsLieux; ++n)
         RépondJuste();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_TRUE(boîtes.ADit(Messages[39]));
     for (int k = 1; k <= 4; ++k)
-        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
 }
 
 TEST_F(Partie, TheDrawTakesTheRthCantonLeftAndNeverRepeatsAQuestion)
@@ -145,11 +145,11 @@ TEST_F(Partie, InhibitedCantonsAreNeverAskedAndCostNothing)
     CliqueCanton(9);
     EXPECT_EQ(Jeu().Score, 999999);
     EXPECT_EQ(Jeu().ErreursQuestion, 0);
-    for (int n = 0; n < 23 && Jeu().Etape == 1; ++n) {
+    for (int n = 0; n < 23 && Jeu().Etape == TEtape::Cantons; ++n) {
         EXPECT_FALSE(Jeu().Cantons[Jeu().CantonRecherché].Inhibé);
         RépondJuste();
     }
-    EXPECT_EQ(Jeu().Etape, 2);
+    EXPECT_EQ(Jeu().Etape, TEtape::ChefsLieux);
     for (int i : {3, 9, 17})
         Jeu().Cantons[i].Inhibé = False;
 }
@@ -263,7 +263,7 @@ TEST_F(Partie, TheLastRightAnswerOfAStepPlaysNoBravo)
     sons.joués.clear();
     RépondJuste();
     EXPECT_EQ(sons.joués, std::vector<QString>({SonEtape}));
-    EXPECT_EQ(Jeu().Etape, 2);
+    EXPECT_EQ(Jeu().Etape, TEtape::ChefsLieux);
     EXPECT_EQ(Jeu().RestantsEtape, 26);
     EXPECT_EQ(Principal().Reste[2]->text(), "2");
 }
@@ -281,7 +281,7 @@ TEST_F(Partie, LeavingAGameAsksOnlyOnceAClickWasMade)
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(boîtes.journal[0].style, StyleQuestion);
     EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Partie en cours..."));
-    EXPECT_EQ(Jeu().Etape, 1);
+    EXPECT_EQ(Jeu().Etape, TEtape::Cantons);
     EXPECT_EQ(Jeu().RestantsEtape, 25);
 
     boîtes.réponses = {RéponseOui};
@@ -293,9 +293,9 @@ TEST_F(Partie, LeavingAGameAsksOnlyOnceAClickWasMade)
 TEST_F(Partie, ACancelledNewGameLeavesAnEmptyMap)
 {
     NouvellePartieAuNiveau(1);
-    InstalleDialogueNouvellePartie([] { Jeu().Etape = 0; });
+    InstalleDialogueNouvellePartie([] { Jeu().Etape = TEtape::Aucune; });
     LanceNouvellePartie();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     for (int i = 1; i <= 26; ++i) {
         EXPECT_FALSE(Principal().rond[i]->Visible());
         EXPECT_FALSE(Principal().inv[i]->Visible());

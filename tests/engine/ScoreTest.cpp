@@ -34,7 +34,7 @@ TEST_F(Score_, ScoreOfAStoppedGame)
 {
     NouvellePartieAuNiveau(2);
     // Default order, stopped in Drapeaux with 10 of 26 found.
-    Jeu().Etape = 3;
+    Jeu().Etape = TEtape::Drapeaux;
     Jeu().NombreCantons = 26;
     Jeu().RestantsEtape = 16;
     ScoreAbandon();
@@ -43,21 +43,21 @@ TEST_F(Score_, ScoreOfAStoppedGame)
 
     Jeu().NombreCantons = 20;
     Jeu().RestantsEtape = 20;
-    Jeu().Etape = 1;
+    Jeu().Etape = TEtape::Cantons;
     ScoreAbandon();
     EXPECT_EQ(PointsParCanton, 6249);
     EXPECT_EQ(Jeu().Score, -999999);
 
     // A set of the single step Plaques: the weights not played stay in the divisor.
-    Jeu().OrdreEtapes[1] = 4;
-    Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
-    Jeu().Etape = 4;
+    Jeu().OrdreEtapes[1] = TEtape::Plaques;
+    Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
+    Jeu().Etape = TEtape::Plaques;
     Jeu().NombreCantons = 12;
     Jeu().RestantsEtape = 1;
     ScoreAbandon();
     EXPECT_EQ(Jeu().Score, -999999 + 11 * (999999 / 96));
     for (int k = 1; k <= 4; ++k)
-        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
 }
 
 TEST_F(Score_, DigitsOfScoreAndCount)
@@ -115,9 +115,9 @@ TEST_F(Score_, ARunOutScoreEndsTheGameWithoutTheQuestionsMessage)
     Jeu().Score = 60000;
     for (int e = 0; e < 8; ++e)
         RépondFaux();
-    ASSERT_EQ(Jeu().Etape, 1);
+    ASSERT_EQ(Jeu().Etape, TEtape::Cantons);
     RépondFaux(); // the ninth error costs 65536
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(Jeu().Score, -999999);
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[0].titre, "Bon pour un tour gratuit");

@@ -44,13 +44,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
         contenu = tête + contenu.mid(1);
     }
     const i32 score = Jeu().Score;
-    const i16 étape = Jeu().Etape;
+    const TEtape étape = Jeu().Etape;
     if (!RestaurePartie(contenu)) {
         if (Jeu().Score != score || Jeu().Etape != étape)
             std::abort();
         return 0;
     }
-    if (Jeu().Etape < 1 || Jeu().Etape > 4 || Jeu().RestantsEtape < 0 || Jeu().RestantsEtape > NombrePlaces)
+    if (Jeu().Etape < TEtape::Cantons || Jeu().Etape > TEtape::Plaques || Jeu().RestantsEtape < 0 || Jeu().RestantsEtape > NombrePlaces)
         std::abort();
     return 0;
 }

@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
         if (NombreScores[n] < 0 || NombreScores[n] > 10)
             std::abort();
     for (int i = 1; i <= 4; ++i)
-        if (Jeu().OrdreEtapes[i] < 0 || Jeu().OrdreEtapes[i] > 4)
+        if (Jeu().OrdreEtapes[i] < TEtape::Aucune || Jeu().OrdreEtapes[i] > TEtape::Plaques)
             std::abort();
     // What was read writes back without trouble.
     if (ContenuScores(true).size() % 128 != 0)

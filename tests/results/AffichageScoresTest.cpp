@@ -89,10 +89,10 @@ TEST_F(Meilleurs, ALineOfZeroPointsIsAnEmptyRowThoughItCounts)
 
 TEST_F(Meilleurs, NoLevelYetAsksThenShowsFacileAndEachLevelHasItsTitle)
 {
-    Jeu().Niveau = 0; // no game yet in this run: the menu's current level
+    Jeu().Niveau = TNiveau::Aucun; // no game yet in this run: the menu's current level
     MeilleursScores[1][1] = {QStringLiteral("Ana"), 999, 61};
     MeilleursScores[2][1] = {QStringLiteral("Pas ici"), 5, 5};
-    const Vu v = Affiche(Jeu().Niveau);
+    const Vu v = Affiche(Numéro(Jeu().Niveau));
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(v.boîtesAvant, 1u) << "the box comes before the list";
     EXPECT_EQ(boîtes.journal[0].texte, Messages[13]);
@@ -122,8 +122,8 @@ TEST_F(Meilleurs, EnterOnTheFocusedCloseButtonClosesTheForm)
 // A game of one canton and one step, played to its end as a player would.
 TEST_F(Meilleurs, StatisticsAreOfferedAtTheEndOfAGameOnlyAndOpenOverTheList)
 {
-    Jeu().OrdreEtapes[1] = 1;
-    Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = TEtape::Cantons;
+    Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     for (int i = 1; i <= NombrePlaces; ++i)
         Jeu().Cantons[i].Inhibé = Booléen(i != 3);
     bool boutonVisible = false;
@@ -148,7 +148,7 @@ TEST_F(Meilleurs, StatisticsAreOfferedAtTheEndOfAGameOnlyAndOpenOverTheList)
     EXPECT_EQ(laissé, CouleurNeutre()) << "a canton left out has no colour";
 
     // From the menu afterwards, also right after a game that ended normally: no statistics.
-    EXPECT_FALSE(Affiche(Jeu().Niveau).statistiques);
+    EXPECT_FALSE(Affiche(Numéro(Jeu().Niveau)).statistiques);
     EXPECT_FALSE(Affiche(1).statistiques);
 }
 

@@ -41,7 +41,7 @@ TEST_F(Dialogue, NamesAreCutAtTwentyAndBlankNamesRefused)
         EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Saisie incomplète"));
         EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
         EXPECT_EQ(d.result(), 0);
-        EXPECT_EQ(Jeu().Etape, 0);
+        EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     }
     const struct { const char *tapé; const char *gardé; } cas[] = {
         {"Abcdefghijklmnopqrst", "Abcdefghijklmnopqrst"},
@@ -68,7 +68,7 @@ TEST_F(Dialogue, LevelsAndTheClock)
         d.BoîteNomJoueur->setText("Lou");
         (d.*c.bouton)->setChecked(true);
         d.BoutonSortie->click();
-        EXPECT_EQ(Jeu().Niveau, c.niveau);
+        EXPECT_EQ(Numéro(Jeu().Niveau), c.niveau);
         EXPECT_EQ(Jeu().ModeApprentissage, c.apprentissage);
         EXPECT_EQ(Jeu().ScoreGelé, Jeu().ModeApprentissage);
         EXPECT_EQ(Jeu().HeureDépart, 4001);
@@ -78,7 +78,7 @@ TEST_F(Dialogue, LevelsAndTheClock)
         NouvellePartie d;
         EXPECT_TRUE(d.NiveauExpert->isChecked());
     }
-    Jeu().Niveau = 1;
+    Jeu().Niveau = TNiveau::Facile;
     Jeu().ModeApprentissage = True;
     NouvellePartie d;
     EXPECT_TRUE(d.NiveauFacile->isChecked());
@@ -103,7 +103,7 @@ TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
     LanceNouvellePartie();
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[1].texte, Messages[41]) << "the abandoned game is scored";
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(Jeu().Score, -999999 + 4807);
     EXPECT_FALSE(Principal().rond[1]->Visible());
     EXPECT_FALSE(Principal().QueFaire->Visible());

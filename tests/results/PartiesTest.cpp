@@ -47,7 +47,7 @@ protected:
     void PartieEntamée()
     {
         NouvellePartieAuNiveau(3);
-        while (Jeu().Etape < 3)
+        while (Jeu().Etape < TEtape::Drapeaux)
             RépondJuste();
         for (int n = 0; n < 5; ++n)
             RépondJuste();
@@ -133,7 +133,7 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
     NouvellePartieAuNiveau(2);
     RépondJuste();
     FichierLancement = "~tmp.~cf";
-    Jeu().OrdreEtapes[1] = 1; Jeu().OrdreEtapes[2] = 4; Jeu().OrdreEtapes[3] = 0; Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = TEtape::Cantons; Jeu().OrdreEtapes[2] = TEtape::Plaques; Jeu().OrdreEtapes[3] = TEtape::Aucune; Jeu().OrdreEtapes[4] = TEtape::Aucune;
     NombreScores[2] = 2;
     MeilleursScores[2][1] = {"A", 10, 1};
     MeilleursScores[2][2] = {"B", 5, 2};
@@ -147,11 +147,11 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
 
     RazScores();
     ASSERT_TRUE(RestaurePartie(o));
-    EXPECT_EQ(Jeu().OrdreEtapes[2], 4);
+    EXPECT_EQ(Jeu().OrdreEtapes[2], TEtape::Plaques);
     EXPECT_EQ(NombreScores[2], 2);
     EXPECT_EQ(MeilleursScores[4][1].Nom, "C");
     for (int k = 1; k <= 4; ++k)
-        Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+        Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
 }
 
 TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
@@ -168,7 +168,7 @@ TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
     const i32 solde = 16 + 64 + 256 + 1024 + 4096 + 16384 + 65536; // errors 3 to 9 of the question
     EXPECT_EQ(Jeu().Score, scoreAvant - solde);
     EXPECT_TRUE(QFile::exists(dossier.filePath("essai.CAS"))) << "the extension is the game's own";
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_TRUE(Jeu().PartieVierge);
     boîtes.journal.clear();
     EXPECT_TRUE(ConfirmeArrêt());
@@ -178,7 +178,7 @@ TEST_F(Sauvegarde, SavedInStepThreeAndTakenUpOnce)
     horloge = 50000;
     Choisit();
     FichierLire_Click();
-    EXPECT_EQ(std::vector<int>({Jeu().Etape, Jeu().Score, Jeu().RestantsEtape, Jeu().DuréePartie, Jeu().HeureDépart}),
+    EXPECT_EQ(std::vector<int>({Numéro(Jeu().Etape), Jeu().Score, Jeu().RestantsEtape, Jeu().DuréePartie, Jeu().HeureDépart}),
               std::vector<int>({3, scoreAvant - solde, restants, 600, 50000 - 600}));
     for (int i = 1; i <= 26; ++i) {
         EXPECT_EQ(Jeu().Cantons[i].Trouvé, avant[i].Trouvé) << i;
@@ -201,7 +201,7 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     const QByteArray bon = ContenuPartie();
     RépondJuste();
     const i32 score = Jeu().Score;
-    const i16 étape = Jeu().Etape, restants = Jeu().RestantsEtape;
+    const int étape = Numéro(Jeu().Etape), restants = Jeu().RestantsEtape;
 
     QByteArray horsTable = bon;
     horsTable[(9 - 1) * 128] = char(200); // the first pair names canton 200
@@ -214,7 +214,7 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     };
     for (const QByteArray &o : mauvais) {
         EXPECT_FALSE(RestaurePartie(o));
-        EXPECT_EQ(std::vector<int>({Jeu().Score, Jeu().Etape, Jeu().RestantsEtape}), std::vector<int>({score, étape, restants}));
+        EXPECT_EQ(std::vector<int>({Jeu().Score, Numéro(Jeu().Etape), Jeu().RestantsEtape}), std::vector<int>({score, étape, restants}));
     }
     // A number outside 0..26 in a pair is never used as an index.
     EXPECT_TRUE(RestaurePartie(horsTable));
@@ -264,7 +264,7 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesAndAnUnwritabl
     }
     EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
     EXPECT_EQ(boîtes.journal.back().texte, Messages[119]);
-    EXPECT_EQ(Jeu().Etape, 3);
+    EXPECT_EQ(Jeu().Etape, TEtape::Drapeaux);
 }
 
 TEST_F(Sauvegarde, AnotherFolderIsOfferedOnceAsTheDefault)

@@ -54,7 +54,7 @@ protected:
         for (int k = 1; k <= 26; ++k)
             Jeu().Cantons[k].Inhibé = False;
         for (int k = 1; k <= 4; ++k)
-            Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
         JeuTest::TearDown();
     }
     void Ecrit(const QByteArray &o)
@@ -71,7 +71,7 @@ protected:
     // Ends a game at a level with a score, started at `départ` and ended at `fin` on the clock.
     void Termine(int niveau, i32 score, i32 durée, i32 départ = 1000)
     {
-        Jeu().Niveau = static_cast<i16>(niveau);
+        Jeu().Niveau = static_cast<TNiveau>(niveau);
         Jeu().ScoreGelé = False;
         Jeu().Score = score;
         Jeu().HeureDépart = départ;
@@ -84,7 +84,7 @@ protected:
 
 TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
 {
-    Jeu().OrdreEtapes[1] = 2; Jeu().OrdreEtapes[2] = 3; Jeu().OrdreEtapes[3] = 0; Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = TEtape::ChefsLieux; Jeu().OrdreEtapes[2] = TEtape::Drapeaux; Jeu().OrdreEtapes[3] = TEtape::Aucune; Jeu().OrdreEtapes[4] = TEtape::Aucune;
     Jeu().Cantons[5].Inhibé = True;
     NombreScores[2] = 2;
     MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 999998, 125};
@@ -104,7 +104,7 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
     Ecrit(Octets{}.Tête(4, 1, 0, 0, {3, 26}).Ligne("Anna", 500, 60, 1).Ligne("Ben", 400, 70, 1).Ligne("Cy", 7, 8, 3).o.chopped(114));
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(std::vector<int>({Jeu().OrdreEtapes[1], Jeu().OrdreEtapes[2], Jeu().OrdreEtapes[3], Jeu().Cantons[3].Inhibé, Jeu().Cantons[26].Inhibé,
+    EXPECT_EQ(std::vector<int>({Numéro(Jeu().OrdreEtapes[1]), Numéro(Jeu().OrdreEtapes[2]), Numéro(Jeu().OrdreEtapes[3]), Jeu().Cantons[3].Inhibé, Jeu().Cantons[26].Inhibé,
                                 Jeu().Cantons[4].Inhibé, NombreScores[1], MeilleursScores[1][2].Durée, NombreScores[3]}),
               std::vector<int>({4, 1, 0, True, True, False, 2, 70, 1}));
     EXPECT_EQ(MeilleursScores[1][2].Nom, "Ben");
@@ -114,7 +114,7 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
     for (auto [a, b, c] : {std::array{1, 1, 0}, std::array{2, 0, 3}}) {
         Ecrit(Octets{}.Tête(a, b, c, 0).o);
         ChargeScores();
-        EXPECT_EQ(std::vector<int>({Jeu().OrdreEtapes[1], Jeu().OrdreEtapes[2], Jeu().OrdreEtapes[3]}), std::vector<int>({a, b, c}));
+        EXPECT_EQ(std::vector<int>({Numéro(Jeu().OrdreEtapes[1]), Numéro(Jeu().OrdreEtapes[2]), Numéro(Jeu().OrdreEtapes[3])}), std::vector<int>({a, b, c}));
     }
     EXPECT_TRUE(boîtes.journal.empty());
 }
@@ -162,8 +162,8 @@ TEST_F(Store, DamagedFilesFallBackToTheDefaultSet)
         boîtes.journal.clear();
         ChargeScores();
         EXPECT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_EQ(Jeu().OrdreEtapes[1], 1);
-        EXPECT_EQ(Jeu().OrdreEtapes[4], 4);
+        EXPECT_EQ(Jeu().OrdreEtapes[1], TEtape::Cantons);
+        EXPECT_EQ(Jeu().OrdreEtapes[4], TEtape::Plaques);
         for (int i = 1; i <= 26; ++i)
             EXPECT_EQ(Jeu().Cantons[i].Inhibé, False);
         EXPECT_EQ(NombreScores[3], 1);
@@ -212,7 +212,7 @@ TEST_F(Store, RankingIntoTheBestTen)
     // Apprentissage keeps no score.
     boîtes.journal.clear();
     Jeu().ScoreGelé = True;
-    Jeu().Niveau = 1;
+    Jeu().Niveau = TNiveau::Facile;
     EnregistreScore();
     EXPECT_EQ(NombreScores[1], 0);
     EXPECT_EQ(boîtes.journal.at(0).texte, Messages[44]);
@@ -221,7 +221,7 @@ TEST_F(Store, RankingIntoTheBestTen)
 
 TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
 {
-    Jeu().OrdreEtapes[1] = 3; Jeu().OrdreEtapes[2] = 1; Jeu().OrdreEtapes[3] = 0; Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[1] = TEtape::Drapeaux; Jeu().OrdreEtapes[2] = TEtape::Cantons; Jeu().OrdreEtapes[3] = TEtape::Aucune; Jeu().OrdreEtapes[4] = TEtape::Aucune;
     Termine(1, 800, 10);
     boîtes.réponses = {RéponseOui};
     ConfirmeRazScores();

@@ -65,7 +65,7 @@ TEST_F(Statistiques, SeventeenRowsShowAndTheBarReachesTheLastOnes)
 TEST_F(Statistiques, GreenAtTheFirstTryRedWhenNeverFoundNeutralOtherwise)
 {
     // Plates, then cantons, then towns; flags aren't played.
-    const i16 ordre[] = {0, 4, 1, 2, 0};
+    const TEtape ordre[] = {TEtape::Aucune, TEtape::Plaques, TEtape::Cantons, TEtape::ChefsLieux, TEtape::Aucune};
     std::copy(ordre, ordre + 5, Jeu().OrdreEtapes);
     ASSERT_NE(CouleurNeutre(), CouleurAbsent);
     ASSERT_NE(CouleurNeutre(), CouleurTrouvé);

@@ -44,7 +44,7 @@ TEST_F(Marques, EveryStepAndLevelShowsWhatItsTableSays)
         for (int étape = 1; étape <= 4; ++étape) {
             Jeu().Cantons[9].Inhibé = True; // left out: always S and I
             NouvellePartieAuNiveau(niveau);
-            Jeu().Etape = static_cast<i16>(étape);
+            Jeu().Etape = static_cast<TEtape>(étape);
             DébutEtape();
             Jeu().Cantons[4].Trouvé = True; // found, not left out
             MontreCantons();
@@ -118,14 +118,14 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             if (entrée == E.FichierQuitter)
                 continue; // closes the window
             mets(état);
-            const i16 étapeAvant = Jeu().Etape;
-            InstalleDialogueNouvellePartie([] { Jeu().Etape = 0; });
+            const TEtape étapeAvant = Jeu().Etape;
+            InstalleDialogueNouvellePartie([] { Jeu().Etape = TEtape::Aucune; });
             entrée->trigger();
             InstalleDialogueNouvellePartie(nullptr);
             // The panel shows only in a game, the map's markers follow the step.
-            const bool jeu = Jeu().Etape >= 1 && Jeu().Etape <= 4;
+            const bool jeu = Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques;
             EXPECT_EQ(E.QueFaire->Visible(), jeu) << entrée->text().toStdString() << " in state " << état;
-            if (Jeu().Etape == 0) {
+            if (Jeu().Etape == TEtape::Aucune) {
                 for (int i = 1; i <= 26; ++i)
                     EXPECT_FALSE(E.rond[i]->Visible()) << entrée->text().toStdString();
             }

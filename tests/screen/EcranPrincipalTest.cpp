@@ -29,8 +29,8 @@ TEST_F(Chargement, IdleWithTheBareMapAndNoPanel)
 {
     auto &E = Principal();
     EXPECT_GE(IndiceEcranPrincipal(), 0);
-    EXPECT_EQ(Jeu().Etape, 0);
-    EXPECT_EQ(Jeu().Niveau, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
+    EXPECT_EQ(Jeu().Niveau, TNiveau::Aucun);
     EXPECT_EQ(LargeurVignette, 200);
     EXPECT_EQ(HauteurVignette, 188);
     EXPECT_TRUE(E.ImageRégion[0]->Visible());

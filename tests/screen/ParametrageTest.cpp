@@ -31,14 +31,14 @@ protected:
         QDir::setCurrent(dossier.path());
         FichierLancement = dossier.filePath("KELMOR.SCS");
         for (int k = 1; k <= 4; ++k)
-            Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
     }
     void TearDown() override
     {
         for (auto &c : Jeu().Cantons)
             c.Inhibé = False;
         for (int k = 1; k <= 4; ++k)
-            Jeu().OrdreEtapes[k] = static_cast<i16>(k);
+            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
         JeuTest::TearDown();
     }
     CaseACocher *B(int colonne, int rang) { return Principal().Bouton[(colonne - 1) * 4 + rang]; }
@@ -60,7 +60,7 @@ protected:
 TEST_F(Parametrage, TheGridKeepsOneKindPerRankNoGapAndAFirstRank)
 {
     DéfinitParamétrage();
-    ASSERT_EQ(Jeu().Etape, 5);
+    ASSERT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     EXPECT_EQ(Grille(), (std::vector<int>{1, 2, 3, 4}));
     EXPECT_FALSE(Principal().MenuFichier->isEnabled());
     EXPECT_TRUE(Principal().MenuLangue->isEnabled());
@@ -106,7 +106,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
         return s.result();
     });
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(FichierLancement, dossier.filePath("plaques.SCS"));
     EXPECT_EQ(Jeu().Cantons[25].Inhibé, True);
     EXPECT_EQ(Jeu().Cantons[3].Inhibé, False);
@@ -117,7 +117,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
 
     // The game that follows plays one step of 25 plates.
     NouvellePartieAuNiveau(2);
-    EXPECT_EQ(Jeu().Etape, 4);
+    EXPECT_EQ(Jeu().Etape, TEtape::Plaques);
     EXPECT_EQ(Jeu().RestantsEtape, 25);
 }
 
@@ -128,7 +128,7 @@ TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChan
     EXPECT_FALSE(Principal().Bouton[18]->isChecked());
     Principal().Bouton[18]->setChecked(true);
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_TRUE(FormesMontrées().empty());
     EXPECT_TRUE(boîtes.journal.empty());
     QString lancement;
@@ -158,10 +158,10 @@ TEST_F(Parametrage, AnUnsavedSetReplacesTheTemporaryFileAndEmptiesTheLists)
     EXPECT_TRUE(Principal().Bouton[18]->isHidden());
     boîtes.réponses = {RéponseNon};
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, 5) << "No keeps the mode";
+    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié) << "No keeps the mode";
     boîtes.réponses = {RéponseOui};
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(FichierLancement, "~tmp.~cf");
     EXPECT_EQ(NombreScores[2], 0);
     EXPECT_EQ(QFileInfo(dossier.filePath("~tmp.~cf")).size(), 34 * 128);
@@ -174,9 +174,9 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAndAnnulerDropsTheMarks)
         TraiteClic(static_cast<i16>(c), 1, 1);
     Principal().BTN[1]->click();
     EXPECT_EQ(boîtes.journal.back().texte, Messages[121]);
-    EXPECT_EQ(Jeu().Etape, 5);
+    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
-    EXPECT_EQ(Jeu().Etape, 0);
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     for (int c = 1; c <= 26; ++c)
         EXPECT_EQ(Jeu().Cantons[c].Trouvé, False);
     EXPECT_TRUE(Principal().MenuFichier->isEnabled());
@@ -186,13 +186,13 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAndAnnulerDropsTheMarks)
 TEST_F(Parametrage, TheDefaultSetComesBackAndBecomesTheStartUpSet)
 {
     FichierLancement = dossier.filePath("autre.SCS");
-    Jeu().OrdreEtapes[2] = 0;
-    Jeu().OrdreEtapes[3] = 0;
-    Jeu().OrdreEtapes[4] = 0;
+    Jeu().OrdreEtapes[2] = TEtape::Aucune;
+    Jeu().OrdreEtapes[3] = TEtape::Aucune;
+    Jeu().OrdreEtapes[4] = TEtape::Aucune;
     ParamétrageDéfaut();
     EXPECT_EQ(FichierLancement, ComposeChemin(dossier.path(), "KELMOR.SCS"));
-    EXPECT_EQ(Jeu().OrdreEtapes[4], 4);
-    EXPECT_EQ(Jeu().Etape, 6);
+    EXPECT_EQ(Jeu().OrdreEtapes[4], TEtape::Plaques);
+    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageAffiché);
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());
 }
 
