@@ -54,8 +54,8 @@ void EnregistrePartie()
         return;
     }
     Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
-    ModeRépertoires = 1;
-    TypeFichier = 4;
+    ModeRépertoires = TModeRépertoires::Sauvegarde;
+    TypeFichier = TTypeFichier::Partie;
     MontreSélectionPartie();
 }
 
@@ -226,8 +226,8 @@ void FichierLire_Click()
 {
     if (!ConfirmeArrêt())
         return;
-    ModeRépertoires = 2;
-    TypeFichier = 4;
+    ModeRépertoires = TModeRépertoires::Chargement;
+    TypeFichier = TTypeFichier::Partie;
     MontreSélectionPartie();
     Jeu().ConseilFicheDonné = False;
 }

@@ -24,7 +24,7 @@
 #include <QStorageInfo>
 #include <cmath>
 
-i16 TypeFichier = 4;
+TTypeFichier TypeFichier = TTypeFichier::Partie;
 i16 SortieParamétrage = False;
 
 namespace {
@@ -44,8 +44,8 @@ SélectionPartie::SélectionPartie() : QDialog(FormePrincipale(), CadreDialogueF
     setObjectName(QStringLiteral("SélectionPartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);
     SortieParamétrage = False;
-    setWindowTitle(TypeFichier == 4 ? Messages[89] : Messages[87]);
-    extension = TypeFichier == 4 ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
+    setWindowTitle(TypeFichier == TTypeFichier::Partie ? Messages[89] : Messages[87]);
+    extension = TypeFichier == TTypeFichier::Partie ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
 
     Entête = new QLabel(this);
     Entête->setGeometry(22, 9, 268, 22);
@@ -69,11 +69,11 @@ SélectionPartie::SélectionPartie() : QDialog(FormePrincipale(), CadreDialogueF
     for (QWidget *w : std::initializer_list<QWidget *>{this, Répertoire, Lecteur, Fichier, NomFichier, BoutonOK, BoutonAnnuler})
         w->setProperty("HelpContextID", 10);
 
-    if (ModeRépertoires != 2) {
-        Entête->setText(TypeFichier == 4 ? Messages[92] : Messages[93]);
+    if (ModeRépertoires != TModeRépertoires::Chargement) {
+        Entête->setText(TypeFichier == TTypeFichier::Partie ? Messages[92] : Messages[93]);
         NomFichier->show();
     } else {
-        Entête->setText(TypeFichier == 4 ? Messages[90] : Messages[88]);
+        Entête->setText(TypeFichier == TTypeFichier::Partie ? Messages[90] : Messages[88]);
         NomFichier->hide();
     }
 
@@ -99,7 +99,7 @@ SélectionPartie::SélectionPartie() : QDialog(FormePrincipale(), CadreDialogueF
 void SélectionPartie::showEvent(QShowEvent *e)
 {
     QDialog::showEvent(e);
-    if (ModeRépertoires == 1)
+    if (ModeRépertoires == TModeRépertoires::Sauvegarde)
         NomFichier->setFocus();
 }
 
@@ -142,7 +142,7 @@ void SélectionPartie::RemplitListes()
 
 void SélectionPartie::Fichier_DblClick()
 {
-    if (ModeRépertoires == 2) {
+    if (ModeRépertoires == TModeRépertoires::Chargement) {
         BoutonOK_Click();
         return;
     }
@@ -165,13 +165,13 @@ void SélectionPartie::ProposeRépertoire()
 
 void SélectionPartie::BoutonOK_Click()
 {
-    if (ModeRépertoires == 2) {
+    if (ModeRépertoires == TModeRépertoires::Chargement) {
         if (!Fichier->currentItem()) {
-            Boîte(TypeFichier == 4 ? Messages[7] : Messages[10], StyleExclamation, Messages[8]);
+            Boîte(TypeFichier == TTypeFichier::Partie ? Messages[7] : Messages[10], StyleExclamation, Messages[8]);
             return;
         }
         const QString cheminFichier = ComposeChemin(chemin, Fichier->currentItem()->text());
-        if (TypeFichier == 4) {
+        if (TypeFichier == TTypeFichier::Partie) {
             if (!LitPartie(cheminFichier)) {
                 Boîte(Messages[27], StyleExclamation, Messages[28]);
                 return;
@@ -222,7 +222,7 @@ void SélectionPartie::BoutonOK_Click()
         Boîte(Messages[5], StyleExclamation, Messages[6]);
         return;
     }
-    if (TypeFichier == 4) {
+    if (TypeFichier == TTypeFichier::Partie) {
         if (!EcritPartie(cheminFichier))
             return;
         ProposeRépertoire();
@@ -230,7 +230,7 @@ void SélectionPartie::BoutonOK_Click()
         FichierLancement = cheminFichier;
         for (int i = 1; i <= NombrePlaces; ++i)
             Jeu().Cantons[i].Inhibé = Jeu().Cantons[i].Trouvé;
-        if (ModeRépertoires == 3) {
+        if (ModeRépertoires == TModeRépertoires::SauvegardeAvecScores) {
             EcritFichierScores(true);
         } else {
             EcritFichierScores(false);

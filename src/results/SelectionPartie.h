@@ -2,6 +2,7 @@
 // The game's one file dialog: it names or picks a saved game or a parameter set,
 // and carries the operation out.
 #include "engine/communs.h"
+#include "services/ParametrageRepertoires.h"
 
 #include <QDialog>
 
@@ -11,8 +12,9 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 
-extern i16 ModeRépertoires; // 1 save, 2 load, 3 save a parameter set with its scores
-extern i16 TypeFichier;     // 4 saved game, 5 parameter set
+// The kind of file the file dialog works on.
+enum class TTypeFichier : i16 { Partie = 4, Paramétrage = 5 };
+extern TTypeFichier TypeFichier;
 extern i16 SortieParamétrage;
 
 class SélectionPartie : public QDialog {

@@ -37,7 +37,7 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.MenuRecharger, [] { RechargeParamétrage(); });
     relie(E.MenuDéfinir, [] { DéfinitParamétrage(); });
     relie(E.MenuInf, [] {
-        ModeRépertoires = 6;
+        ModeRépertoires = TModeRépertoires::DossierInformation;
         MontreParamétrageRépertoires();
     });
     relie(E.FichierVersion, [] { ChercheVersions(); });

@@ -85,8 +85,8 @@ void RechargeParamétrage()
 {
     if (!ConfirmeArrêt())
         return;
-    ModeRépertoires = 2;
-    TypeFichier = 5;
+    ModeRépertoires = TModeRépertoires::Chargement;
+    TypeFichier = TTypeFichier::Paramétrage;
     MontreSélectionPartie();
     Jeu().Etape = TEtape::ParamétrageAffiché;
     SéquenceEntrée();
@@ -264,14 +264,14 @@ void ValideParamétrage()
     } else {
         LancementDemandé = Booléen(E.Bouton[18]->isChecked());
         if (code != CodeEtapes || modifié) {
-            ModeRépertoires = 1;
-            TypeFichier = 5;
+            ModeRépertoires = TModeRépertoires::Sauvegarde;
+            TypeFichier = TTypeFichier::Paramétrage;
             MontreSélectionPartie();
         } else if (ParamétrageNommé && !ParamétrageDeLancement && LancementDemandé) {
             EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
         } else if (!ParamétrageNommé) {
-            ModeRépertoires = 3;
-            TypeFichier = 5;
+            ModeRépertoires = TModeRépertoires::SauvegardeAvecScores;
+            TypeFichier = TTypeFichier::Paramétrage;
             MontreSélectionPartie();
         }
     }

@@ -116,7 +116,7 @@ void CréeFichierInfo(int langue)
     if (!RépertoireAccessible(RépertoireInfo)) {
         Boîte(Messages[119] + QStringLiteral(" (") + RépertoireInfo + QLatin1Char(')'), StyleInformation, Messages[46]);
         Boîte(Messages[135], StyleInformation, Messages[118]);
-        ModeRépertoires = 6;
+        ModeRépertoires = TModeRépertoires::DossierInformation;
         MontreParamétrageRépertoires();
     }
     // The folder chosen may hold a file already written.

@@ -20,7 +20,7 @@
 #include <QStorageInfo>
 #include <QStyle>
 
-i16 ModeRépertoires = 0;
+TModeRépertoires ModeRépertoires = TModeRépertoires::Aucun;
 
 namespace {
 const QString Parent = QStringLiteral("..");
@@ -90,7 +90,7 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FormePrincipale()
     HauteurEcran = écran.hauteur;
     move((LargeurEcran - width()) / 2, (HauteurEcran - height()) / 2);
     setWindowTitle(Messages[145]);
-    if (ModeRépertoires == 7) {
+    if (ModeRépertoires == TModeRépertoires::DossierJeu) {
         motif = QStringLiteral("*.SCS");
         Entête->setText(Messages[143]);
     } else {
@@ -105,7 +105,7 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FormePrincipale()
     chemin = SansSéparateurFinal(QDir::currentPath());
     RemplitListes();
     // A RépertoireInfo that is gone leaves the list on the current folder.
-    if (ModeRépertoires == 6)
+    if (ModeRépertoires == TModeRépertoires::DossierInformation)
         ChangeRépertoire(RépertoireInfo);
 
     connect(Lecteur, &QComboBox::activated, this, [this](int i) { Lecteur_Change(i); });
@@ -234,7 +234,7 @@ void ParamétrageRépertoires::BoutonOK_Click()
         Boîte(Messages[119], StyleInformation, Messages[46]);
         return;
     }
-    if (ModeRépertoires == 7) {
+    if (ModeRépertoires == TModeRépertoires::DossierJeu) {
         EcritValeur(CléJeu, QStringLiteral("répertoire"), dossier);
         RépertoireSauvegarde = dossier;
         // The bare name of the score file is found in the current folder.

@@ -14,9 +14,16 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 
-// What the folder form is opened for, set by the caller just before: 7 the save
-// folder, 6 the information folder (1 to 3 serve the file dialog).
-extern i16 ModeRépertoires;
+// What the file dialog or the folder form is opened for, set by the caller just before.
+enum class TModeRépertoires : i16 {
+    Aucun = 0,
+    Sauvegarde = 1,           // a game or a parameter set saved under a new name
+    Chargement = 2,           // a saved game or a parameter set loaded
+    SauvegardeAvecScores = 3, // the parameter set in use saved under a new name, scores included
+    DossierInformation = 6,   // the folder of the information cards
+    DossierJeu = 7,           // the folder of scores, parameter sets and saved games
+};
+extern TModeRépertoires ModeRépertoires;
 
 class ParamétrageRépertoires : public QDialog {
 public:

@@ -51,7 +51,7 @@ int ValeurNumérique(const QString &texte)
 void DemandeRépertoireSauvegarde()
 {
     Boîte(Messages[122], StyleInformation, Messages[118]);
-    ModeRépertoires = 7;
+    ModeRépertoires = TModeRépertoires::DossierJeu;
     MontreParamétrageRépertoires();
 }
 

@@ -238,8 +238,8 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesAndAnUnwritabl
     EXPECT_TRUE(FormesMontrées().empty()) << "nothing to save without a game";
     PartieEntamée();
     Ecrit("pris.CAS");
-    ModeRépertoires = 1;
-    TypeFichier = 4;
+    ModeRépertoires = TModeRépertoires::Sauvegarde;
+    TypeFichier = TTypeFichier::Partie;
     {
         SélectionPartie s;
         s.NomFichier->setText("   ");
@@ -253,7 +253,7 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesAndAnUnwritabl
         EXPECT_EQ(boîtes.journal.back().texte, Messages[5]);
         EXPECT_EQ(s.result(), 0);
     }
-    ModeRépertoires = 2;
+    ModeRépertoires = TModeRépertoires::Chargement;
     {
         SélectionPartie s;
         EXPECT_TRUE(s.NomFichier->isHidden());
@@ -269,8 +269,8 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesAndAnUnwritabl
 
 TEST_F(Sauvegarde, AnotherFolderIsOfferedOnceAsTheDefault)
 {
-    ModeRépertoires = 1;
-    TypeFichier = 4;
+    ModeRépertoires = TModeRépertoires::Sauvegarde;
+    TypeFichier = TTypeFichier::Partie;
     SélectionPartie s;
     s.ChangeRépertoire(dossier.path() + "/");
     s.ProposeRépertoire();

@@ -141,13 +141,13 @@ TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
     Tape(E, E.Bouton[3], Qt::Key_F1);
     NiveauAffiché = 1;
     Jeu().CantonFiche = 6;
-    ModeRépertoires = 7;
+    ModeRépertoires = TModeRépertoires::DossierJeu;
     const std::vector<std::pair<std::function<QDialog *()>, int>> formes = {
         {[] { return new NouvellePartie; }, 20},
         {[] { return new AffichageScores; }, 90},
         {[] { return new Pompe; }, 160},
         {[] { return new ParamétrageRépertoires; }, 180},
-        {[] { ModeRépertoires = 1; return new SélectionPartie; }, 10},
+        {[] { ModeRépertoires = TModeRépertoires::Sauvegarde; return new SélectionPartie; }, 10},
     };
     std::vector<int> attendus = {10, 65, 65, 10, 10};
     for (const auto &[crée, contexte] : formes) {
@@ -168,8 +168,8 @@ TEST_F(Chargement, EnterInTheFileDialogDoesOneThingOnly)
     QDir::setCurrent(dossier.path());
     QDir(dossier.path()).mkdir("autre");
     QFile(dossier.filePath("pris.CAS")).open(QIODevice::WriteOnly);
-    ModeRépertoires = 1;
-    TypeFichier = 4;
+    ModeRépertoires = TModeRépertoires::Sauvegarde;
+    TypeFichier = TTypeFichier::Partie;
     SélectionPartie s;
     s.NomFichier->setText("pris");
     Tape(s, s.NomFichier, Qt::Key_Return);

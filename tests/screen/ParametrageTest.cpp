@@ -100,7 +100,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
     ASSERT_EQ(Grille(), (std::vector<int>{4, 0, 0, 0}));
     InstalleFormesModales([](QDialog &d) {
         auto &s = static_cast<SélectionPartie &>(d);
-        EXPECT_EQ(ModeRépertoires, 1);
+        EXPECT_EQ(ModeRépertoires, TModeRépertoires::Sauvegarde);
         s.NomFichier->setText("plaques");
         s.BoutonOK->click();
         return s.result();

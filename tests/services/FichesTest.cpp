@@ -401,11 +401,11 @@ TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
     const QString disparu = dossier.filePath("parti");
     RépertoireInfo = disparu;
     CheminsInfo[1] = disparu + "/KELMOR.INF";
-    ModeRépertoires = 0;
+    ModeRépertoires = TModeRépertoires::Aucun;
     CréeFichierInfo(1);
     ASSERT_EQ(boîtes.journal.size(), 3u);
     EXPECT_EQ(boîtes.journal[1].texte, QString::fromUtf8("Impossible d'écrire dans le répertoire spécifié ! (") + disparu + "/)");
-    EXPECT_EQ(ModeRépertoires, 6);
+    EXPECT_EQ(ModeRépertoires, TModeRépertoires::DossierInformation);
     EXPECT_FALSE(QDir(disparu).exists()) << "given up: no file, no folder";
 
     boîtes.journal.clear();

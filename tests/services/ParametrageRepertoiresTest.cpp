@@ -93,7 +93,7 @@ protected:
     // Opens the form as the game does; `joue` stands for the player and answers the form's result.
     int Ouvre(i16 mode, const std::function<int(ParamétrageRépertoires &)> &joue)
     {
-        ModeRépertoires = mode;
+        ModeRépertoires = static_cast<TModeRépertoires>(mode);
         int résultat = -1;
         InstalleFormesModales([&](QDialog &d) { return résultat = joue(dynamic_cast<ParamétrageRépertoires &>(d)); });
         MontreParamétrageRépertoires();
@@ -178,7 +178,7 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
 {
     const QString choisi = Chemin("choisi");
     ASSERT_TRUE(QFile(Chemin("choisi/un fichier")).open(QIODevice::WriteOnly));
-    ModeRépertoires = 7;
+    ModeRépertoires = TModeRépertoires::DossierJeu;
     ParamétrageRépertoires f;
     f.show();
     ASSERT_TRUE(f.ChangeRépertoire(choisi));

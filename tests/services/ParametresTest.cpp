@@ -215,10 +215,10 @@ TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsG
     const QString disparu = dossier.filePath(QStringLiteral("disparu")), bloqué = dossier.filePath(QStringLiteral("bloqué"));
     Pose("répertoire", disparu);
     ASSERT_TRUE(QDir().mkpath(bloqué + "/~zut.tmp")); // the write test's file can't be deleted there
-    ModeRépertoires = 0;
+    ModeRépertoires = TModeRépertoires::Aucun;
     LitParamètres(); // given up: the start goes on with what it had
     EXPECT_EQ(Vues(), Boîtes{122});
-    EXPECT_EQ(ModeRépertoires, 7);
+    EXPECT_EQ(ModeRépertoires, TModeRépertoires::DossierJeu);
     EXPECT_EQ(Lit("répertoire"), disparu);
     EXPECT_EQ(QDir::currentPath(), dossierCourant) << "no folder to go to";
     EXPECT_EQ(FichierLancement, choisi + "/MES.SCS");
