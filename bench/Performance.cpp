@@ -1,6 +1,7 @@
 // Figures behind the game's speed: the hit test, the start-up to the idle window,
 // a click judged with the map repainted.
 #include "engine/communs.h"
+#include "screen/VueJeu.h"
 #include "platform/Boites.h"
 #include "platform/Horloge.h"
 #include "platform/Son.h"

@@ -2,6 +2,8 @@
 // A game on the offscreen main form, with every service of the desktop scripted.
 #include "platform/Boites.h"
 #include "platform/Son.h"
+#include "results/Parties.h"
+#include "screen/VueJeu.h"
 
 #include <QTemporaryDir>
 #include <QByteArray>

@@ -1,18 +1,12 @@
 #include "engine/communs.h"
 
 #include "engine/specifiques.h"
+#include "engine/Vue.h"
 #include "platform/Boites.h"
-#include "platform/Ecran.h"
 #include "platform/Horloge.h"
-#include "results/Resultats.h"
-#include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
-#include "services/Patience.h"
-#include "services/Pompe.h"
-#include "services/Sons.h"
-#include "screen/Parametrage.h"
 #include "services/TableChaines.h"
 
 #include <QFile>
@@ -200,19 +194,15 @@ i16 ZoneEn(int Région, int x, int y)
     return c;
 }
 
-void CliqueCarte(int Région)
+
+void CliqueCarte(int Région, int x, int y)
 {
     if (Jeu().Etape == TEtape::Aucune)
         return;
-    auto &E = Principal();
-    const QRect rectangle = RectangleEcranDe(E.Carte);
-    const QPoint curseur = PositionCurseur();
-    const int x = curseur.x() - rectangle.left() + E.BarreH->Value();
-    const int y = curseur.y() - rectangle.top() + E.BarreV->Value();
     i16 c = ZoneEn(Région, x, y);
     CorrectionZone(c);
     // The level's filter: at Facile and Moyen a canton already found counts for nothing.
-    if (c != 0 && EtapeDeJeu() && c <= NombrePlaces) {
+    if (c != 0 && EtapeDeJeu(Jeu().Etape) && c <= NombrePlaces) {
         if ((Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage) || Jeu().Niveau == TNiveau::Moyen)
             if (Jeu().Cantons[c].Trouvé)
                 c = 0;
@@ -223,105 +213,15 @@ void CliqueCarte(int Région)
 
 // ---------------------------------------------------------------- the turn cycle
 
-bool Main()
-{
-    HauteurFenêtre = 0;
-    LargeurFenêtre = 0;
-    FinDeLigne = QStringLiteral("\r\n");
-    RépertoireApplication = DossierProgramme();
-    LitParamètres();
-    if (!ParamètresLus)
-        return false;
-    SonActif = True;
-    if (!ChargeCarteZones())
-        return false;
-    AffichePatience();
-    PointeurEcran(PointeurSablier);
-    auto *forme = new EcranPrincipal();
-    Form_Load();
-    forme->show();
-    if (Langue != 1)
-        ChargeImagesPays();
-    PointeurEcran(PointeurNormal);
-    return true;
-}
 
-void LanceNouvellePartie()
-{
-    if (!ConfirmeArrêt())
-        return;
-    Principal().HelpContextID = 10;
-    MontreNouvellePartie();
-    Jeu().RangEtape = 1;
-    DébutEtape();
-    for (int i = 1; i <= NombrePlaces; ++i)
-        for (int k = 0; k <= 4; ++k) {
-            Jeu().Cantons[i].Pertes[k] = 0;
-            Jeu().Cantons[i].Réussi[k] = False;
-        }
-    Jeu().PartieVierge = True;
-    Jeu().ModeRévision = False;
-    Jeu().ConseilFicheDonné = False;
-    AjusteCarte();
-    if (Jeu().Etape == TEtape::Aucune) {
-        CacheZoneJeu();
-        CacheMarques();
-        return;
-    }
-    MontreCantons();
-    Jeu().Score = 999999;
-    AffichePanneau();
-    AfficheScore();
-    AfficheRestants(Jeu().RestantsEtape);
-    QuestionSuivante();
-}
 
 void DébutEtape()
 {
-    auto &E = Principal();
-    E.BarreH->setValue(0);
-    E.BarreV->setValue(0);
-    E.DrapeauPays[0]->hide();
-
     Jeu().RestantsEtape = 0;
     Jeu().NombreCantons = 0;
-
-    const int t = E.QueFaire->Top() + E.QueFaire->Height() + 5;
-    if ((Jeu().Etape == TEtape::Cantons && Jeu().Niveau != TNiveau::Moyen) || Jeu().Etape == TEtape::ChefsLieux) {
-        E.ElémentRecherché->hide();
-        E.ImageRecherchée->hide();
-        E.TexteAChercher->show();
-        E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
-        E.TexteAChercher->setTop(t);
-        E.TexteAChercher->setTailleFonte(10);
-    } else if (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen) {
-        E.ElémentRecherché->show();
-        E.ElémentRecherché->setLeft(E.QueFaire->Left());
-        E.ElémentRecherché->setTop(t);
-        E.ImageRecherchée->show();
-        E.TexteAChercher->show();
-        E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
-        E.TexteAChercher->setTop(E.ElémentRecherché->Top() + E.ElémentRecherché->Height() + 5);
-        E.TexteAChercher->setTailleFonte(10);
-    } else if (Jeu().Etape == TEtape::Drapeaux) {
-        E.ElémentRecherché->show();
-        E.ElémentRecherché->setLeft(E.QueFaire->Left());
-        E.ElémentRecherché->setTop(t);
-        E.ImageRecherchée->show();
-        E.ImageRecherchée->setPicture(E.drapeau[1]->Picture());
-        E.TexteAChercher->hide();
-    } else if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché) {
-        E.ElémentRecherché->hide();
-        E.ImageRecherchée->hide();
-        E.TexteAChercher->hide();
-    }
-    DébutEtapeSpécifique();
-
-    Jeu().AssistanceUtilisée = False;
-
+    Jeu().AssistanceUtilisée = false;
     for (int i = 1; i <= NombrePlaces; ++i) {
         TCanton &c = Jeu().Cantons[i];
-        E.rond[i]->setToolTip(Jeu().Etape == TEtape::Révision ? c.ChefLieu : QString());
         if (c.Inhibé) {
             c.Trouvé = True;
         } else {
@@ -329,70 +229,21 @@ void DébutEtape()
             Jeu().RestantsEtape = Jeu().RestantsEtape + 1;
             Jeu().NombreCantons = Jeu().NombreCantons + 1;
         }
-        PlaceRond(static_cast<i16>(i));
-        const Image *région = E.ImageRégion[c.Région];
-        E.Pays[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
-        E.inv[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
         if (Jeu().Etape < TEtape::ParamétrageModifié)
             c.Réussi[Numéro(Jeu().Etape)] = False;
     }
-
     Jeu().ErreursQuestion = 0;
-    Jeu().PartieEnregistrée = False;
-    E.BoutonGruge->hide();
-    E.BoutonPasse->hide();
+    Jeu().PartieEnregistrée = false;
     Jeu().CantonRecherché = 0;
-    Jeu().ScoresFinPartie = False;
+    Jeu().ScoresFinPartie = false;
+    Vue().EtapeCommencée();
 }
 
-void AffichePanneau()
-{
-    auto &E = Principal();
-    if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché)
-        AfficheParamétrage();
-    else
-        CacheParamétrage();
-
-    auto boîtesDuCompte = [&E](bool visible) {
-        E.QueFaire->setVisible(visible);
-        E.BoîteRestants->setVisible(visible);
-        for (int i = 1; i <= 3; ++i)
-            E.Reste[i]->setVisible(visible);
-    };
-    auto boîtesDuScore = [&E](bool visible) {
-        E.BoîteScore->setVisible(visible);
-        for (int i = 0; i <= 6; ++i) {
-            E.Digit[i]->setVisible(visible);
-            if (visible)
-                E.Digit[i]->raise();
-        }
-    };
-    auto cadreQuestion = [&E](bool visible) {
-        E.ImageRecherchée->setVisible(visible);
-        E.ElémentRecherché->setVisible(visible);
-    };
-
-    if (Jeu().Etape == TEtape::Aucune) {
-        boîtesDuCompte(false);
-        boîtesDuScore(false);
-    } else if (Jeu().Etape >= TEtape::ParamétrageModifié) {
-        boîtesDuCompte(false);
-        boîtesDuScore(false);
-        E.TexteAChercher->hide();
-        cadreQuestion(false);
-    } else if (Jeu().Etape <= TEtape::Drapeaux) {
-        boîtesDuCompte(true);
-        boîtesDuScore(!Jeu().ModeApprentissage);
-        E.TexteAChercher->setVisible(Jeu().Etape != TEtape::Drapeaux);
-        cadreQuestion(Jeu().Etape == TEtape::Drapeaux || (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen));
-    }
-    ZoneQuestionSpécifique();
-}
 
 void QuestionSuivante()
 {
     if (Jeu().RestantsEtape < 1) {
-        QuestionSpécifique();
+        Vue().QuestionPosée();
         return;
     }
     const float tirage = Rnd();
@@ -413,31 +264,7 @@ void QuestionSuivante()
         c = rangParmiRestants(r);
     }
     Jeu().CantonRecherché = c;
-
-    auto &E = Principal();
-    auto remplitCadre = [&E](const Image *source) {
-        const int h = source->Height();
-        const int w = source->Width();
-        E.ImageRecherchée->setTop(Arrondi((HauteurVignette - h) / 2.0));
-        E.ImageRecherchée->setHeight(h);
-        E.ImageRecherchée->setLeft(Arrondi((LargeurVignette - w) / 2.0));
-        E.ImageRecherchée->setWidth(w);
-        E.ImageRecherchée->setPicture(source->Picture());
-    };
-    if (Jeu().Etape == TEtape::Cantons) {
-        E.TexteAChercher->setText(Jeu().Cantons[c].Nom);
-        if (Jeu().Niveau == TNiveau::Moyen && c != 0) {
-            const Image *source = E.inv[c];
-            if ((source->Width() > LargeurVignette - 2 || source->Height() > HauteurVignette - 2) && E.miniature[c])
-                source = E.miniature[c];
-            remplitCadre(source);
-        }
-    } else if (Jeu().Etape == TEtape::ChefsLieux) {
-        E.TexteAChercher->setText(Jeu().Cantons[c].ChefLieu);
-    } else if (Jeu().Etape == TEtape::Drapeaux && c != 0) {
-        remplitCadre(E.drapeau[c]);
-    }
-    QuestionSpécifique();
+    Vue().QuestionPosée();
 }
 
 void FinEtape()
@@ -453,13 +280,13 @@ void FinEtape()
     const QString annonce = MessageTransition(Jeu().Etape, suivante);
 
     if (suivante != TEtape::Aucune) {
-        JoueSon(SonEtape);
-        Boîte(annonce, StyleInformation, Messages[20]);
+        Vue().Son(TSon::Etape);
+        Vue().Message(annonce, StyleInformation, Messages[20]);
         Jeu().Etape = suivante;
         DébutEtape();
-        MontreCantons();
-        AfficheScore();
-        AfficheRestants(Jeu().RestantsEtape);
+        Vue().MontreCantons();
+        Vue().AfficheScore();
+        Vue().AfficheRestants(Jeu().RestantsEtape);
         QuestionSuivante();
         return;
     }
@@ -472,58 +299,24 @@ void RetourAuRepos()
     Jeu().Etape = TEtape::Aucune;
     DébutEtape();
     Jeu().PartieVierge = True;
-    CacheMarques();
-    CacheZoneJeu();
+    Vue().CacheMarques();
+    Vue().CacheZoneJeu();
 }
 
 // A game that is over, won or lost: its result dealt with, the map and the panel cleared.
 void TerminePartie()
 {
     Jeu().Etape = TEtape::Aucune;
-    EnregistreScore();
+    Vue().EnregistreScore();
     DébutEtape();
     Jeu().PartieVierge = True;
-    CacheMarques();
-    CacheZoneJeu();
+    Vue().CacheMarques();
+    Vue().CacheZoneJeu();
     Jeu().PartieEnregistrée = True;
 }
 
-void MontreCantons()
-{
-    auto &E = Principal();
-    E.ImageRégion[0]->setEnabled(true);
-    PointeurEcran(PointeurSablier);
-    for (int i = 1; i <= NombrePlaces; ++i)
-        MontreCanton(static_cast<i16>(i));
-    PointeurEcran(PointeurNormal);
-}
 
-void CacheMarques()
-{
-    auto &E = Principal();
-    for (int i = 1; i <= NombrePlaces; ++i) {
-        E.inv[i]->hide();
-        E.Pays[i]->hide();
-        E.rond[i]->hide();
-    }
-}
 
-void CacheZoneJeu()
-{
-    auto &E = Principal();
-    E.QueFaire->hide();
-    E.BoîteScore->hide();
-    E.ElémentRecherché->hide();
-    E.ImageRecherchée->hide();
-    E.TexteAChercher->hide();
-    E.BoîteRestants->hide();
-    for (int i = 0; i <= 6; ++i)
-        E.Digit[i]->hide();
-    for (int i = 1; i <= 3; ++i)
-        E.Reste[i]->hide();
-    E.BoutonPasse->hide();
-    E.BoutonGruge->hide();
-}
 
 // ---------------------------------------------------------------- judging
 
@@ -538,22 +331,15 @@ void TraiteClic(i16 c, i16 x, i16 y)
         Jeu().PartieVierge = False;
     if (Jeu().Etape == TEtape::ParamétrageModifié) {
         Jeu().Cantons[c].Trouvé = Booléen(!Jeu().Cantons[c].Trouvé);
-        PlaceRond(c);
+        Vue().PlaceRond(c);
         return;
     }
     if (Jeu().Etape == TEtape::ParamétrageAffiché)
         return;
     if (Jeu().Etape == TEtape::Révision) {
-        JoueSon(SonInfo);
+        Vue().Son(TSon::Info);
         Jeu().CantonFiche = c;
-        if (x == 0 && y == 0) {
-            const auto &E = Principal();
-            x = static_cast<i16>(Jeu().Cantons[c].VilleGauche + E.RondVille->Width() / 2);
-            y = static_cast<i16>(Jeu().Cantons[c].VilleHaut + E.RondVille->Height() / 2);
-        }
-        PlaceRond(c, true, x, y);
-        MontrePompe();
-        PlaceRond(c);
+        Vue().MontreFiche(true, x, y);
         return;
     }
     CorrectionZone(c);
@@ -566,9 +352,9 @@ void TraiteClic(i16 c, i16 x, i16 y)
     }
     // The canton is out of play in this step.
     if (Jeu().ModeApprentissage) {
-        JoueSon(SonInfo);
+        Vue().Son(TSon::Info);
         Jeu().CantonFiche = c;
-        MontrePompe();
+        Vue().MontreFiche(false, 0, 0);
         return;
     }
     if (Jeu().Niveau != TNiveau::Difficile && Jeu().Niveau != TNiveau::Expert)
@@ -580,44 +366,43 @@ void TraiteClic(i16 c, i16 x, i16 y)
 
 void BonneRéponse()
 {
-    auto &E = Principal();
     const i16 c = Jeu().CantonRecherché;
     if (Jeu().Niveau == TNiveau::Facile) {
-        E.BoutonPasse->hide();
+        Vue().MontreBoutonPasse(false);
         if (!Jeu().AssistanceUtilisée)
             Jeu().Cantons[c].Trouvé = True;
     } else {
         Jeu().Cantons[c].Trouvé = True;
     }
-    MontreCanton(c);
+    Vue().MontreCanton(c);
     if (!Jeu().AssistanceUtilisée) {
-        PlaceRond(c);
+        Vue().PlaceRond(c);
         Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
         if (Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques)
             Jeu().Cantons[c].Réussi[Numéro(Jeu().Etape)] = True;
-        AfficheRestants(Jeu().RestantsEtape);
+        Vue().AfficheRestants(Jeu().RestantsEtape);
         if (Jeu().RestantsEtape == 0) {
             FinEtape();
             return;
         }
-        JoueSon(SonBravo);
+        Vue().Son(TSon::Bravo);
         if (Jeu().RestantsEtape == Jeu().NombreCantons - 1 && Jeu().ModeApprentissage && !Jeu().ConseilFicheDonné) {
-            Boîte(Messages[137], StyleInformation, Messages[17]);
+            Vue().Message(Messages[137], StyleInformation, Messages[17]);
             Jeu().ConseilFicheDonné = True;
         }
         QuestionSuivante();
         Jeu().ErreursQuestion = 0;
-        E.BoutonGruge->hide();
+        Vue().MontreBoutonGruge(false);
         return;
     }
     // The answer was given away: the canton comes back later, and the question is paid in full.
     Jeu().AssistanceUtilisée = False;
-    PlaceRond(c);
+    Vue().PlaceRond(c);
     if (SoldeQuestion() > 0) {
-        JoueSon(SonBravo);
+        Vue().Son(TSon::Bravo);
         QuestionSuivante();
         Jeu().ErreursQuestion = 0;
-        E.BoutonGruge->hide();
+        Vue().MontreBoutonGruge(false);
     } else {
         PartiePerdue();
     }
@@ -625,34 +410,33 @@ void BonneRéponse()
 
 void MauvaiseRéponse()
 {
-    auto &E = Principal();
     Jeu().Score = Pénalité(Jeu().Score, Jeu().ErreursQuestion);
     if (Jeu().Score <= 0) {
         PartiePerdue();
         return;
     }
-    AfficheScore();
+    Vue().AfficheScore();
     Jeu().ErreursQuestion = Jeu().ErreursQuestion + 1;
     if (Jeu().ErreursQuestion < 9) {
-        JoueSon(SonErreur);
+        Vue().Son(TSon::Erreur);
         if (Jeu().ErreursQuestion == 1 && Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage)
-            E.BoutonPasse->show();
+            Vue().MontreBoutonPasse(true);
         if (Jeu().ErreursQuestion == 3 && Jeu().ModeApprentissage)
-            E.BoutonGruge->show();
+            Vue().MontreBoutonGruge(true);
         return;
     }
-    JoueSon(SonPerdu);
+    Vue().Son(TSon::Perdu);
     if (Jeu().AssistanceUtilisée) {
-        Boîte(Messages[36], StyleExclamation, Messages[37]);
+        Vue().Message(Messages[36], StyleExclamation, Messages[37]);
         Jeu().AssistanceUtilisée = False;
-        PlaceRond(Jeu().CantonRecherché);
+        Vue().PlaceRond(Jeu().CantonRecherché);
     } else {
-        Boîte(Messages[38], StyleExclamation, Messages[37]);
+        Vue().Message(Messages[38], StyleExclamation, Messages[37]);
     }
     Jeu().ErreursQuestion = 0;
     QuestionSuivante();
-    E.BoutonGruge->hide();
-    E.BoutonPasse->hide();
+    Vue().MontreBoutonGruge(false);
+    Vue().MontreBoutonPasse(false);
 }
 
 // ---------------------------------------------------------------- score and clock
@@ -674,26 +458,11 @@ i32 SoldeQuestion()
     if (Jeu().ErreursQuestion != 0)
         for (i16 k = Jeu().ErreursQuestion; k <= 8; ++k)
             Jeu().Score = Pénalité(Jeu().Score, k);
-    AfficheScore();
+    Vue().AfficheScore();
     return Jeu().Score;
 }
 
-void AfficheScore()
-{
-    auto &E = Principal();
-    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<qint64>(Jeu().Score)) % 1000000, 6, 10, QLatin1Char('0'));
-    for (int i = 1; i <= 6; ++i)
-        E.Digit[i]->setText(chiffres.mid(6 - i, 1));
-    E.Digit[0]->setText(Jeu().Score < 0 ? QStringLiteral("-") : QString());
-}
 
-void AfficheRestants(i16 n)
-{
-    auto &E = Principal();
-    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<int>(n)) % 1000, 3, 10, QLatin1Char('0'));
-    for (int i = 1; i <= 3; ++i)
-        E.Reste[i]->setText(chiffres.mid(3 - i, 1));
-}
 
 void ScoreAbandon()
 {
@@ -715,9 +484,9 @@ void ScoreAbandon()
 void PartiePerdue()
 {
     ScoreAbandon();
-    AfficheScore();
-    JoueSon(SonPerdu);
-    Boîte(Messages[34], StyleCritique, Messages[35]);
+    Vue().AfficheScore();
+    Vue().Son(TSon::Perdu);
+    Vue().Message(Messages[34], StyleCritique, Messages[35]);
     TerminePartie();
 }
 
@@ -741,150 +510,12 @@ void BoutonPasse_Click()
         PartiePerdue();
         return;
     }
-    AfficheScore();
-    JoueSon(SonPerdu);
+    Vue().AfficheScore();
+    Vue().Son(TSon::Perdu);
     Jeu().ErreursQuestion = 0;
     QuestionSuivante();
-    Principal().BoutonPasse->hide();
+    Vue().MontreBoutonPasse(false);
 }
 
-void BoutonGruge_Click()
-{
-    AmèneEnVue(Jeu().CantonRecherché);
-    Jeu().AssistanceUtilisée = True;
-    PlaceRond(Jeu().CantonRecherché);
-}
 
-void AmèneEnVue(i16 c)
-{
-    if (c < 1 || c > NombrePlaces)
-        return;
-    auto &E = Principal();
-    auto amène = [](BarreDéfilement *barre, double p, double h, auto H, auto M, auto T) {
-        if (p < -T())
-            barre->setValue(p < H() / 2.0 ? 0 : Arrondi(p - H() / 2.0));
-        if (p + h > H() - T())
-            barre->setValue((M() - p) - h < H() / 2.0 ? Arrondi(M() - H()) : Arrondi((p + h) - H() / 2.0));
-    };
-    if (E.BarreV->Visible())
-        amène(E.BarreV, Jeu().Cantons[c].PaysHaut, E.Pays[c]->Height(),
-              [&] { return double(E.Carte->Height()); }, [&] { return double(E.ImageRégion[0]->Height()); },
-              [&] { return double(E.ImageRégion[0]->Top()); });
-    if (E.BarreH->Visible())
-        amène(E.BarreH, Jeu().Cantons[c].PaysGauche, E.Pays[c]->Width(),
-              [&] { return double(E.Carte->Width()); }, [&] { return double(E.ImageRégion[0]->Width()); },
-              [&] { return double(E.ImageRégion[0]->Left()); });
-}
 
-// ---------------------------------------------------------------- markers
-
-// Which of a canton's pictures show in the steps after "Cantons"; the plate step follows the same rule.
-void MontreCantonEtapesSuivantes(i16 i)
-{
-    auto &E = Principal();
-    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
-    const bool I = Jeu().Cantons[i].Inhibé;
-    switch (Jeu().Niveau) {
-    case TNiveau::Facile: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
-    case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
-    case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
-    case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
-    default: break;
-    }
-}
-
-void MontreCanton(i16 i)
-{
-    auto &E = Principal();
-    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
-    const bool I = Jeu().Cantons[i].Inhibé;
-    switch (Jeu().Etape) {
-    case TEtape::Aucune:
-        E.Pays[i]->hide();
-        E.inv[i]->hide();
-        E.rond[i]->hide();
-        break;
-    case TEtape::Cantons:
-        switch (Jeu().Niveau) {
-        case TNiveau::Facile: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
-        case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
-        case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
-        case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
-        default: break;
-        }
-        break;
-    case TEtape::ChefsLieux:
-    case TEtape::Drapeaux:
-        MontreCantonEtapesSuivantes(i);
-        break;
-    case TEtape::ParamétrageModifié:
-    case TEtape::ParamétrageAffiché:
-    case TEtape::Révision:
-        E.Pays[i]->show();
-        E.inv[i]->hide();
-        E.rond[i]->show();
-        break;
-    default:
-        break;
-    }
-    MontreCantonSpécifique(i);
-}
-
-namespace {
-void Centre(Image *r, const TCanton &c)
-{
-    auto &E = Principal();
-    const Image *région = E.ImageRégion[c.Région];
-    r->move(région->Left() + c.VilleGauche - (r->Width() - E.RondVille->Width()) / 2,
-            région->Top() + c.VilleHaut - (r->Height() - E.RondVille->Height()) / 2);
-}
-
-void Pose(Image *r, const Image *modèle, const TCanton &c)
-{
-    r->setPicture(modèle->Picture());
-    Centre(r, c);
-}
-} // namespace
-
-// The dot of one canton during a game; the plate step follows the same rule.
-void MarqueRondPartie(i16 i)
-{
-    auto &E = Principal();
-    Image *r = E.rond[i];
-    const TCanton &c = Jeu().Cantons[i];
-    if (Jeu().AssistanceUtilisée && i == Jeu().CantonRecherché)
-        Pose(r, E.Rondnoir, c);
-    if (Jeu().Niveau == TNiveau::Facile) {
-        if (c.Trouvé)
-            Pose(r, E.RondPref, c);
-        r->setToolTip(c.Trouvé && Jeu().ModeApprentissage ? c.ChefLieu : QString());
-    } else if (Jeu().Niveau == TNiveau::Moyen) {
-        if (c.Trouvé)
-            Pose(r, E.RondPref, c);
-    }
-    if (c.Inhibé)
-        Pose(r, E.RondPref, c);
-}
-
-void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
-{
-    if (i < 1 || i > NombrePlaces)
-        return;
-    auto &E = Principal();
-    Image *r = E.rond[i];
-    const TCanton &c = Jeu().Cantons[i];
-    const bool visible = r->Visible();
-    r->hide();
-    Pose(r, E.RondVille, c);
-    if (Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Drapeaux) {
-        MarqueRondPartie(i);
-    } else if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché) {
-        Pose(r, c.Trouvé ? E.Rondrouge : E.Rondjaune, c);
-    } else if (Jeu().Etape == TEtape::Révision && Cible) {
-        r->setPicture(E.Rondcible->Picture());
-        r->move(x - E.Rondcible->Width() / 2 - 1 - E.BarreH->Value(),
-                y - E.Rondcible->Height() / 2 - 1 - E.BarreV->Value());
-    }
-    PlaceRondSpécifique(i);
-    r->setVisible(visible);
-}

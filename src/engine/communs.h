@@ -34,21 +34,15 @@ extern QString CheminFichierZones;
 bool ChargeCarteZones();
 // The zone under map pixel (x, y), 0 outside the country or the table.
 i16 ZoneEn(int Région, int x, int y);
-void CliqueCarte(int Région);
+// A click at map pixel (x, y), scroll included: the level's filter, then the judging.
+void CliqueCarte(int Région, int x, int y);
 
 // Turn cycle.
-// The program's start; false when it must end at once.
-bool Main();
-void LanceNouvellePartie();
 void DébutEtape();
-void AffichePanneau();
 void QuestionSuivante();
 void FinEtape();
 void TerminePartie();
 void RetourAuRepos();
-void MontreCantons();
-void CacheMarques();
-void CacheZoneJeu();
 
 // Judging.
 void rond_Click(i16 Index);
@@ -61,8 +55,6 @@ extern i16 PoidsEtapes[5];
 extern i32 PointsParCanton;
 i32 Pénalité(i32 S, i16 k);
 i32 SoldeQuestion();
-void AfficheScore();
-void AfficheRestants(i16 n);
 void ScoreAbandon();
 void PartiePerdue();
 // Seconds since midnight, rounded to a whole number.
@@ -72,15 +64,3 @@ i32 DuréeDepuis(i32 heureDépart);
 
 // Help buttons.
 void BoutonPasse_Click();
-void BoutonGruge_Click();
-void AmèneEnVue(i16 c);
-
-// Markers.
-void MontreCanton(i16 i);
-void PlaceRond(i16 i, bool Cible = false, i16 x = 0, i16 y = 0);
-// The rules of the steps after "Cantons", which the plate step shares.
-void MontreCantonEtapesSuivantes(i16 i);
-void MarqueRondPartie(i16 i);
-
-// Leaving a running game.
-bool ConfirmeArrêt();

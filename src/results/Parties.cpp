@@ -1,5 +1,6 @@
 #include "results/Parties.h"
 
+#include "screen/VueJeu.h"
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "results/FichierEnregistrements.h"

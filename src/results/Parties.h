@@ -14,6 +14,8 @@ void FichierLire_Click();
 QString RépertoireDe(const QString &Chemin);
 // A game counts as under way once clicked, until its result is dealt with.
 bool PartieEnCours();
+// Asks before a running game is left, scores it and clears the map; false keeps it.
+bool ConfirmeArrêt();
 
 // The score file's path as a saved game in dossierPartie notes it so as to give it back
 // exactly: full, or else from that folder; empty when neither fits a record unchanged.

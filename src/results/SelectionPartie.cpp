@@ -1,5 +1,6 @@
 #include "results/SelectionPartie.h"
 
+#include "screen/VueJeu.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"

@@ -1,5 +1,6 @@
 #include "screen/Commandes.h"
 
+#include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "platform/Boites.h"
 #include "results/AffichageScores.h"

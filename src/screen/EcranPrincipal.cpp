@@ -1,5 +1,6 @@
 #include "screen/EcranPrincipal.h"
 
+#include "results/Parties.h"
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "platform/Ecran.h"
@@ -8,6 +9,7 @@
 #include "results/Resultats.h"
 #include "screen/Commandes.h"
 #include "screen/Parametrage.h"
+#include "screen/VueJeu.h"
 #include "services/Aide.h"
 #include "services/Chemins.h"
 #include "services/Fiches.h"
@@ -229,12 +231,15 @@ EcranPrincipal::EcranPrincipal()
         Bouton[i]->setProperty("HelpContextID", 65);
     Relie();
     InstalleToucheAide();
+    InstalleVueEcran(true);
 }
 
 EcranPrincipal::~EcranPrincipal()
 {
-    if (forme == this)
+    if (forme == this) {
         forme = nullptr;
+        InstalleVueEcran(false);
+    }
 }
 
 Image *EcranPrincipal::CréeDepuisModèle(Image *modèle)

@@ -1,5 +1,6 @@
 #include "screen/Palette.h"
 
+#include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"

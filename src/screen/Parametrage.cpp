@@ -1,5 +1,6 @@
 #include "screen/Parametrage.h"
 
+#include "screen/VueJeu.h"
 #include "platform/Boites.h"
 #include "results/Parties.h"
 #include "results/Scores.h"

@@ -1,5 +1,7 @@
 #include "services/Edition.h"
 
+#include "results/Parties.h"
+#include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"

@@ -1,5 +1,6 @@
 #include "services/Langues.h"
 
+#include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "platform/Boites.h"

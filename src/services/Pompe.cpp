@@ -1,5 +1,6 @@
 #include "services/Pompe.h"
 
+#include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "platform/Formes.h"

@@ -1,0 +1,43 @@
+#pragma once
+// What the game tells the screen. The rules change the game and then say here what
+// the player must see or hear; the screen, which reads the game, does the rest.
+// With no screen installed nothing is shown, so the rules run alone in tests.
+#include "engine/Partie.h"
+
+#include <QString>
+
+enum class TSon { Erreur, Bravo, Etape, Perdu, Info };
+
+class VueJeu {
+public:
+    virtual ~VueJeu() = default;
+
+    virtual void Son(TSon) {}
+    // A message box of the given style (see platform/Boites.h); returns the answer.
+    virtual int Message(const QString &texte, int style, const QString &titre) { return 0; }
+
+    // A step begins: the question's zone and every marker laid out for it.
+    virtual void EtapeCommencée() {}
+    // The question of CantonRecherché, or none when the step has no canton left.
+    virtual void QuestionPosée() {}
+    virtual void AfficheScore() {}
+    virtual void AfficheRestants(i16 n) {}
+    virtual void MontreCanton(i16 i) {}
+    virtual void MontreCantons() {}
+    virtual void PlaceRond(i16 i, bool cible = false, i16 x = 0, i16 y = 0) {}
+    virtual void CacheMarques() {}
+    virtual void CacheZoneJeu() {}
+    virtual void MontreBoutonPasse(bool visible) {}
+    virtual void MontreBoutonGruge(bool visible) {}
+    virtual void AmèneEnVue(i16 c) {}
+    // The information card of CantonFiche, shown modally; with `cible`, the target
+    // stands on the map where the player clicked (x, y in map pixels, 0 0 for the town).
+    virtual void MontreFiche(bool cible, i16 x, i16 y) {}
+    // The game is over: its score ranked, written and shown.
+    virtual void EnregistreScore() {}
+};
+
+// The screen the game talks to; a silent one until a screen installs itself.
+VueJeu &Vue();
+// nullptr puts the silent one back.
+void InstalleVue(VueJeu *vue);

@@ -1,0 +1,529 @@
+#include "screen/VueJeu.h"
+
+#include "results/Parties.h"
+#include "engine/Vue.h"
+#include "engine/specifiques.h"
+#include "platform/Boites.h"
+#include "platform/Ecran.h"
+#include "results/Resultats.h"
+#include "screen/Commandes.h"
+#include "screen/EcranPrincipal.h"
+#include "screen/Parametrage.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/Patience.h"
+#include "services/Pompe.h"
+#include "services/Sons.h"
+
+#include <cmath>
+
+namespace {
+// Values assigned to a whole-number property round to the nearest, halves to even.
+int Arrondi(double v) { return static_cast<int>(std::lrint(v)); }
+bool EtapeDeJeu() { return ::EtapeDeJeu(Jeu().Etape); }
+} // namespace
+
+// ---------------------------------------------------------------- the game's screen
+
+// The screen's part of the start of a step: the bars back to 0, the question's zone
+// laid out for the kind of step, and every marker placed.
+void PrépareEtape()
+{
+    auto &E = Principal();
+    E.BarreH->setValue(0);
+    E.BarreV->setValue(0);
+    E.DrapeauPays[0]->hide();
+
+    const int t = E.QueFaire->Top() + E.QueFaire->Height() + 5;
+    if ((Jeu().Etape == TEtape::Cantons && Jeu().Niveau != TNiveau::Moyen) || Jeu().Etape == TEtape::ChefsLieux) {
+        E.ElémentRecherché->hide();
+        E.ImageRecherchée->hide();
+        E.TexteAChercher->show();
+        E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
+        E.TexteAChercher->setTop(t);
+        E.TexteAChercher->setTailleFonte(10);
+    } else if (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen) {
+        E.ElémentRecherché->show();
+        E.ElémentRecherché->setLeft(E.QueFaire->Left());
+        E.ElémentRecherché->setTop(t);
+        E.ImageRecherchée->show();
+        E.TexteAChercher->show();
+        E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
+        E.TexteAChercher->setTop(E.ElémentRecherché->Top() + E.ElémentRecherché->Height() + 5);
+        E.TexteAChercher->setTailleFonte(10);
+    } else if (Jeu().Etape == TEtape::Drapeaux) {
+        E.ElémentRecherché->show();
+        E.ElémentRecherché->setLeft(E.QueFaire->Left());
+        E.ElémentRecherché->setTop(t);
+        E.ImageRecherchée->show();
+        E.ImageRecherchée->setPicture(E.drapeau[1]->Picture());
+        E.TexteAChercher->hide();
+    } else if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché) {
+        E.ElémentRecherché->hide();
+        E.ImageRecherchée->hide();
+        E.TexteAChercher->hide();
+    }
+    DébutEtapeSpécifique();
+
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        const TCanton &c = Jeu().Cantons[i];
+        E.rond[i]->setToolTip(Jeu().Etape == TEtape::Révision ? c.ChefLieu : QString());
+        PlaceRond(static_cast<i16>(i));
+        const Image *région = E.ImageRégion[c.Région];
+        E.Pays[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
+        E.inv[i]->move(région->Left() + c.PaysGauche, région->Top() + c.PaysHaut);
+    }
+    E.BoutonGruge->hide();
+    E.BoutonPasse->hide();
+}
+
+// The question drawn, in the panel: a name, a town, a border or a flag.
+void MontreQuestion()
+{
+    const i16 c = Jeu().CantonRecherché;
+    auto &E = Principal();
+    auto remplitCadre = [&E](const Image *source) {
+        const int h = source->Height();
+        const int w = source->Width();
+        E.ImageRecherchée->setTop(Arrondi((HauteurVignette - h) / 2.0));
+        E.ImageRecherchée->setHeight(h);
+        E.ImageRecherchée->setLeft(Arrondi((LargeurVignette - w) / 2.0));
+        E.ImageRecherchée->setWidth(w);
+        E.ImageRecherchée->setPicture(source->Picture());
+    };
+    if (Jeu().RestantsEtape >= 1) {
+        if (Jeu().Etape == TEtape::Cantons) {
+            E.TexteAChercher->setText(Jeu().Cantons[c].Nom);
+            if (Jeu().Niveau == TNiveau::Moyen && c != 0) {
+                const Image *source = E.inv[c];
+                if ((source->Width() > LargeurVignette - 2 || source->Height() > HauteurVignette - 2) && E.miniature[c])
+                    source = E.miniature[c];
+                remplitCadre(source);
+            }
+        } else if (Jeu().Etape == TEtape::ChefsLieux) {
+            E.TexteAChercher->setText(Jeu().Cantons[c].ChefLieu);
+        } else if (Jeu().Etape == TEtape::Drapeaux && c != 0) {
+            remplitCadre(E.drapeau[c]);
+        }
+    }
+    QuestionSpécifique();
+}
+
+void CliqueCarte(int Région)
+{
+    if (Jeu().Etape == TEtape::Aucune)
+        return;
+    // The click's place on the map, scroll included.
+    auto &E = Principal();
+    const QRect rectangle = RectangleEcranDe(E.Carte);
+    const QPoint curseur = PositionCurseur();
+    CliqueCarte(Région, curseur.x() - rectangle.left() + E.BarreH->Value(), curseur.y() - rectangle.top() + E.BarreV->Value());
+}
+
+bool Main()
+{
+    HauteurFenêtre = 0;
+    LargeurFenêtre = 0;
+    FinDeLigne = QStringLiteral("\r\n");
+    RépertoireApplication = DossierProgramme();
+    LitParamètres();
+    if (!ParamètresLus)
+        return false;
+    SonActif = True;
+    if (!ChargeCarteZones())
+        return false;
+    AffichePatience();
+    PointeurEcran(PointeurSablier);
+    auto *forme = new EcranPrincipal();
+    Form_Load();
+    forme->show();
+    if (Langue != 1)
+        ChargeImagesPays();
+    PointeurEcran(PointeurNormal);
+    return true;
+}
+
+void LanceNouvellePartie()
+{
+    if (!ConfirmeArrêt())
+        return;
+    Principal().HelpContextID = 10;
+    MontreNouvellePartie();
+    Jeu().RangEtape = 1;
+    DébutEtape();
+    for (int i = 1; i <= NombrePlaces; ++i)
+        for (int k = 0; k <= 4; ++k) {
+            Jeu().Cantons[i].Pertes[k] = 0;
+            Jeu().Cantons[i].Réussi[k] = False;
+        }
+    Jeu().PartieVierge = True;
+    Jeu().ModeRévision = False;
+    Jeu().ConseilFicheDonné = False;
+    AjusteCarte();
+    if (Jeu().Etape == TEtape::Aucune) {
+        CacheZoneJeu();
+        CacheMarques();
+        return;
+    }
+    MontreCantons();
+    Jeu().Score = 999999;
+    AffichePanneau();
+    AfficheScore();
+    AfficheRestants(Jeu().RestantsEtape);
+    QuestionSuivante();
+}
+
+void AffichePanneau()
+{
+    auto &E = Principal();
+    if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché)
+        AfficheParamétrage();
+    else
+        CacheParamétrage();
+
+    auto boîtesDuCompte = [&E](bool visible) {
+        E.QueFaire->setVisible(visible);
+        E.BoîteRestants->setVisible(visible);
+        for (int i = 1; i <= 3; ++i)
+            E.Reste[i]->setVisible(visible);
+    };
+    auto boîtesDuScore = [&E](bool visible) {
+        E.BoîteScore->setVisible(visible);
+        for (int i = 0; i <= 6; ++i) {
+            E.Digit[i]->setVisible(visible);
+            if (visible)
+                E.Digit[i]->raise();
+        }
+    };
+    auto cadreQuestion = [&E](bool visible) {
+        E.ImageRecherchée->setVisible(visible);
+        E.ElémentRecherché->setVisible(visible);
+    };
+
+    if (Jeu().Etape == TEtape::Aucune) {
+        boîtesDuCompte(false);
+        boîtesDuScore(false);
+    } else if (Jeu().Etape >= TEtape::ParamétrageModifié) {
+        boîtesDuCompte(false);
+        boîtesDuScore(false);
+        E.TexteAChercher->hide();
+        cadreQuestion(false);
+    } else if (Jeu().Etape <= TEtape::Drapeaux) {
+        boîtesDuCompte(true);
+        boîtesDuScore(!Jeu().ModeApprentissage);
+        E.TexteAChercher->setVisible(Jeu().Etape != TEtape::Drapeaux);
+        cadreQuestion(Jeu().Etape == TEtape::Drapeaux || (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen));
+    }
+    ZoneQuestionSpécifique();
+}
+
+void MontreCantons()
+{
+    auto &E = Principal();
+    E.ImageRégion[0]->setEnabled(true);
+    PointeurEcran(PointeurSablier);
+    for (int i = 1; i <= NombrePlaces; ++i)
+        MontreCanton(static_cast<i16>(i));
+    PointeurEcran(PointeurNormal);
+}
+
+void CacheMarques()
+{
+    auto &E = Principal();
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        E.inv[i]->hide();
+        E.Pays[i]->hide();
+        E.rond[i]->hide();
+    }
+}
+
+void CacheZoneJeu()
+{
+    auto &E = Principal();
+    E.QueFaire->hide();
+    E.BoîteScore->hide();
+    E.ElémentRecherché->hide();
+    E.ImageRecherchée->hide();
+    E.TexteAChercher->hide();
+    E.BoîteRestants->hide();
+    for (int i = 0; i <= 6; ++i)
+        E.Digit[i]->hide();
+    for (int i = 1; i <= 3; ++i)
+        E.Reste[i]->hide();
+    E.BoutonPasse->hide();
+    E.BoutonGruge->hide();
+}
+
+void AfficheScore()
+{
+    auto &E = Principal();
+    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<qint64>(Jeu().Score)) % 1000000, 6, 10, QLatin1Char('0'));
+    for (int i = 1; i <= 6; ++i)
+        E.Digit[i]->setText(chiffres.mid(6 - i, 1));
+    E.Digit[0]->setText(Jeu().Score < 0 ? QStringLiteral("-") : QString());
+}
+
+void AfficheRestants(i16 n)
+{
+    auto &E = Principal();
+    const QString chiffres = QStringLiteral("%1").arg(std::abs(static_cast<int>(n)) % 1000, 3, 10, QLatin1Char('0'));
+    for (int i = 1; i <= 3; ++i)
+        E.Reste[i]->setText(chiffres.mid(3 - i, 1));
+}
+
+void AmèneEnVue(i16 c)
+{
+    if (c < 1 || c > NombrePlaces)
+        return;
+    auto &E = Principal();
+    auto amène = [](BarreDéfilement *barre, double p, double h, auto H, auto M, auto T) {
+        if (p < -T())
+            barre->setValue(p < H() / 2.0 ? 0 : Arrondi(p - H() / 2.0));
+        if (p + h > H() - T())
+            barre->setValue((M() - p) - h < H() / 2.0 ? Arrondi(M() - H()) : Arrondi((p + h) - H() / 2.0));
+    };
+    if (E.BarreV->Visible())
+        amène(E.BarreV, Jeu().Cantons[c].PaysHaut, E.Pays[c]->Height(),
+              [&] { return double(E.Carte->Height()); }, [&] { return double(E.ImageRégion[0]->Height()); },
+              [&] { return double(E.ImageRégion[0]->Top()); });
+    if (E.BarreH->Visible())
+        amène(E.BarreH, Jeu().Cantons[c].PaysGauche, E.Pays[c]->Width(),
+              [&] { return double(E.Carte->Width()); }, [&] { return double(E.ImageRégion[0]->Width()); },
+              [&] { return double(E.ImageRégion[0]->Left()); });
+}
+
+// Which of a canton's pictures show in the steps after "Cantons"; the plate step follows the same rule.
+void MontreCantonEtapesSuivantes(i16 i)
+{
+    auto &E = Principal();
+    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
+    const bool I = Jeu().Cantons[i].Inhibé;
+    switch (Jeu().Niveau) {
+    case TNiveau::Facile: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
+    case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
+    case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
+    case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
+    default: break;
+    }
+}
+
+void MontreCanton(i16 i)
+{
+    auto &E = Principal();
+    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
+    const bool I = Jeu().Cantons[i].Inhibé;
+    switch (Jeu().Etape) {
+    case TEtape::Aucune:
+        E.Pays[i]->hide();
+        E.inv[i]->hide();
+        E.rond[i]->hide();
+        break;
+    case TEtape::Cantons:
+        switch (Jeu().Niveau) {
+        case TNiveau::Facile: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
+        case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
+        case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
+        case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
+        default: break;
+        }
+        break;
+    case TEtape::ChefsLieux:
+    case TEtape::Drapeaux:
+        MontreCantonEtapesSuivantes(i);
+        break;
+    case TEtape::ParamétrageModifié:
+    case TEtape::ParamétrageAffiché:
+    case TEtape::Révision:
+        E.Pays[i]->show();
+        E.inv[i]->hide();
+        E.rond[i]->show();
+        break;
+    default:
+        break;
+    }
+    MontreCantonSpécifique(i);
+}
+
+namespace {
+void Centre(Image *r, const TCanton &c)
+{
+    auto &E = Principal();
+    const Image *région = E.ImageRégion[c.Région];
+    r->move(région->Left() + c.VilleGauche - (r->Width() - E.RondVille->Width()) / 2,
+            région->Top() + c.VilleHaut - (r->Height() - E.RondVille->Height()) / 2);
+}
+
+void Pose(Image *r, const Image *modèle, const TCanton &c)
+{
+    r->setPicture(modèle->Picture());
+    Centre(r, c);
+}
+} // namespace
+
+// The dot of one canton during a game; the plate step follows the same rule.
+void MarqueRondPartie(i16 i)
+{
+    auto &E = Principal();
+    Image *r = E.rond[i];
+    const TCanton &c = Jeu().Cantons[i];
+    if (Jeu().AssistanceUtilisée && i == Jeu().CantonRecherché)
+        Pose(r, E.Rondnoir, c);
+    if (Jeu().Niveau == TNiveau::Facile) {
+        if (c.Trouvé)
+            Pose(r, E.RondPref, c);
+        r->setToolTip(c.Trouvé && Jeu().ModeApprentissage ? c.ChefLieu : QString());
+    } else if (Jeu().Niveau == TNiveau::Moyen) {
+        if (c.Trouvé)
+            Pose(r, E.RondPref, c);
+    }
+    if (c.Inhibé)
+        Pose(r, E.RondPref, c);
+}
+
+void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
+{
+    if (i < 1 || i > NombrePlaces)
+        return;
+    auto &E = Principal();
+    Image *r = E.rond[i];
+    const TCanton &c = Jeu().Cantons[i];
+    const bool visible = r->Visible();
+    r->hide();
+    Pose(r, E.RondVille, c);
+    if (Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Drapeaux) {
+        MarqueRondPartie(i);
+    } else if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché) {
+        Pose(r, c.Trouvé ? E.Rondrouge : E.Rondjaune, c);
+    } else if (Jeu().Etape == TEtape::Révision && Cible) {
+        r->setPicture(E.Rondcible->Picture());
+        r->move(x - E.Rondcible->Width() / 2 - 1 - E.BarreH->Value(),
+                y - E.Rondcible->Height() / 2 - 1 - E.BarreV->Value());
+    }
+    PlaceRondSpécifique(i);
+    r->setVisible(visible);
+}
+
+void BoutonGruge_Click()
+{
+    AmèneEnVue(Jeu().CantonRecherché);
+    Jeu().AssistanceUtilisée = True;
+    PlaceRond(Jeu().CantonRecherché);
+}
+
+// ---------------------------------------------------------------- this game's own screen
+
+void DébutEtapeSpécifique()
+{
+    if (Jeu().Etape != TEtape::Plaques)
+        return;
+    // The plate letters stand where a town's name would, under the panel's head.
+    auto &E = Principal();
+    E.ElémentRecherché->hide();
+    E.ImageRecherchée->hide();
+    E.TexteAChercher->show();
+    E.TexteAChercher->setLeft(E.ElémentRecherché->Left());
+    E.TexteAChercher->setTop(E.QueFaire->Top() + E.QueFaire->Height() + 5);
+    E.TexteAChercher->setTailleFonte(10);
+}
+
+void QuestionSpécifique()
+{
+    if (Jeu().Etape == TEtape::Plaques)
+        Principal().TexteAChercher->setText(Plaques[Jeu().CantonRecherché]);
+}
+
+void ZoneQuestionSpécifique()
+{
+    if (Jeu().Etape != TEtape::Plaques)
+        return;
+    auto &E = Principal();
+    E.QueFaire->show();
+    E.BoîteRestants->show();
+    for (int i = 1; i <= 3; ++i)
+        E.Reste[i]->show();
+    E.BoîteScore->setVisible(!Jeu().ModeApprentissage);
+    for (int i = 0; i <= 6; ++i) {
+        E.Digit[i]->setVisible(!Jeu().ModeApprentissage);
+        if (!Jeu().ModeApprentissage)
+            E.Digit[i]->raise();
+    }
+    E.TexteAChercher->show();
+    E.ImageRecherchée->hide();
+    E.ElémentRecherché->hide();
+}
+
+void PlaceTexteSpécifique()
+{
+    if (Jeu().Etape != TEtape::Plaques)
+        return;
+    auto &E = Principal();
+    E.TexteAChercher->setTop(E.QueFaire->Top() + E.QueFaire->Height() + 5);
+}
+
+void PlaceRondSpécifique(i16 i)
+{
+    if (Jeu().Etape == TEtape::Plaques)
+        MarqueRondPartie(i);
+}
+
+void MontreCantonSpécifique(i16 i)
+{
+    if (Jeu().Etape == TEtape::Plaques)
+        MontreCantonEtapesSuivantes(i);
+}
+
+void LibelléSpécifique() { Principal().LBLParam[7]->setText(Messages[162]); }
+
+namespace {
+// The game's screen: what the rules tell it, drawn on the main window.
+class VueEcran : public VueJeu {
+public:
+    void Son(TSon son) override
+    {
+        switch (son) {
+        case TSon::Erreur: JoueSon(SonErreur); break;
+        case TSon::Bravo: JoueSon(SonBravo); break;
+        case TSon::Etape: JoueSon(SonEtape); break;
+        case TSon::Perdu: JoueSon(SonPerdu); break;
+        case TSon::Info: JoueSon(SonInfo); break;
+        }
+    }
+    int Message(const QString &texte, int style, const QString &titre) override { return Boîte(texte, style, titre); }
+    void EtapeCommencée() override { PrépareEtape(); }
+    void QuestionPosée() override { MontreQuestion(); }
+    void AfficheScore() override { ::AfficheScore(); }
+    void AfficheRestants(i16 n) override { ::AfficheRestants(n); }
+    void MontreCanton(i16 i) override { ::MontreCanton(i); }
+    void MontreCantons() override { ::MontreCantons(); }
+    void PlaceRond(i16 i, bool cible, i16 x, i16 y) override { ::PlaceRond(i, cible, x, y); }
+    void CacheMarques() override { ::CacheMarques(); }
+    void CacheZoneJeu() override { ::CacheZoneJeu(); }
+    void MontreBoutonPasse(bool visible) override { Principal().BoutonPasse->setVisible(visible); }
+    void MontreBoutonGruge(bool visible) override { Principal().BoutonGruge->setVisible(visible); }
+    void AmèneEnVue(i16 c) override { ::AmèneEnVue(c); }
+    void MontreFiche(bool cible, i16 x, i16 y) override
+    {
+        const i16 c = Jeu().CantonFiche;
+        if (cible) {
+            // The target stands where the player clicked, or on the town for a click on its dot.
+            if (x == 0 && y == 0) {
+                const auto &E = Principal();
+                x = static_cast<i16>(Jeu().Cantons[c].VilleGauche + E.RondVille->Width() / 2);
+                y = static_cast<i16>(Jeu().Cantons[c].VilleHaut + E.RondVille->Height() / 2);
+            }
+            ::PlaceRond(c, true, x, y);
+            MontrePompe();
+            ::PlaceRond(c);
+            return;
+        }
+        MontrePompe();
+    }
+    void EnregistreScore() override { ::EnregistreScore(); }
+};
+} // namespace
+
+void InstalleVueEcran(bool installée)
+{
+    static VueEcran vue;
+    InstalleVue(installée ? &vue : nullptr);
+}

@@ -1,0 +1,36 @@
+#pragma once
+// The game on the main window: the markers on the map, the question panel, the
+// digits, and the screen's answers to what the rules tell it.
+#include "engine/communs.h"
+
+// The main window becomes the game's screen, or stops being it.
+void InstalleVueEcran(bool installée);
+
+// The click on the map read from the pointer and the scroll bars.
+void CliqueCarte(int Région);
+void PrépareEtape();
+void MontreQuestion();
+void AffichePanneau();
+void MontreCantons();
+void CacheMarques();
+void CacheZoneJeu();
+void AfficheScore();
+void AfficheRestants(i16 n);
+void AmèneEnVue(i16 c);
+void MontreCanton(i16 i);
+void MontreCantonEtapesSuivantes(i16 i);
+void MarqueRondPartie(i16 i);
+void PlaceRond(i16 i, bool Cible = false, i16 x = 0, i16 y = 0);
+void BoutonGruge_Click();
+void LanceNouvellePartie();
+// The program's start; false when it must end at once.
+bool Main();
+
+// This game's own screen: the plate step's place in the panel and its markers.
+void DébutEtapeSpécifique();
+void QuestionSpécifique();
+void ZoneQuestionSpécifique();
+void PlaceTexteSpécifique();
+void PlaceRondSpécifique(i16 i);
+void MontreCantonSpécifique(i16 i);
+void LibelléSpécifique();
