@@ -162,50 +162,45 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
     }
 }
 
-// An ordinary run reads everything; it writes `date` only, after a reminder or over a date it can't read.
+// An ordinary run reads everything, the language as a number; it writes `date` only, after a reminder or
+// over a date it can't read.
 TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWritesNothingElse)
 {
     struct Cas {
         const char *stocké, *maintenant;
         bool rappel, renouvelée;
+        const char *langue;
+        short lue;
     };
     // 2024 is a leap year: 1 January to 29 February is 59 days; 23:59 to 00:01 is a whole day.
     // A date ahead of the clock never reminds; one that can't be read is renewed without a reminder.
-    const Cas cas[] = {
-        {"2024-01-01 12:00:00", "2024-02-29 12:00:00", false, false}, {"2024-01-01 12:00:00", "2024-03-01 00:00:01", true, true},
-        {"2024-01-01 00:00:00", "2024-02-29 23:59:59", false, false}, {"2024-01-01 23:59:00", "2024-03-01 00:01:00", true, true},
-        {"2023-01-01 08:00:00", "2024-05-10 08:00:00", true, true}, {"2030-01-01 08:00:00", "2024-05-10 08:00:00", false, false},
-        {"10/05/2023", "2024-05-10 08:00:00", false, true}, {"2023-02-30 10:00:00", "2024-05-10 08:00:00", false, true},
-        {"", "2024-05-10 08:00:00", false, true}, {nullptr, "2024-05-10 08:00:00", false, true}};
+    const Cas cas[] = {{"2024-01-01 12:00:00", "2024-02-29 12:00:00", false, false, " 2", 2},
+                       {"2024-01-01 12:00:00", "2024-03-01 00:00:01", true, true, "2x", 2},
+                       {"2024-01-01 00:00:00", "2024-02-29 23:59:59", false, false, "0", 1},
+                       {"2024-01-01 23:59:00", "2024-03-01 00:01:00", true, true, "de", 1},
+                       {"2023-01-01 08:00:00", "2024-05-10 08:00:00", true, true, "", 1},
+                       {"2030-01-01 08:00:00", "2024-05-10 08:00:00", false, false, "-2", 1},
+                       {"10/05/2023", "2024-05-10 08:00:00", false, true, "7", 1},
+                       {"2023-02-30 10:00:00", "2024-05-10 08:00:00", false, true, "99999999999", 1},
+                       {"", "2024-05-10 08:00:00", false, true, "1", 1},
+                       {nullptr, "2024-05-10 08:00:00", false, true, "2", 2}};
     for (const Cas &c : cas) {
-        SCOPED_TRACE(std::string(c.stocké ? c.stocké : "no date") + " -> " + c.maintenant);
+        SCOPED_TRACE(std::string(c.stocké ? c.stocké : "no date") + " -> " + c.maintenant + ", language " + c.langue);
         NouveauMagasin();
-        InstallationExistante(ChaîneTable(1000), c.stocké);
+        InstallationExistante(ChaîneTable(1000), c.stocké, c.langue);
         maintenant = QDateTime::fromString(S(c.maintenant), FormatDate);
         const QByteArray avant = Contenu();
+        Langue = 2;
         LitParamètres();
         EXPECT_EQ(Vues(), c.rappel ? Boîtes{123} : Boîtes{});
         EXPECT_EQ(Lit("date", CléFamille), S(c.renouvelée ? c.maintenant : c.stocké));
         if (!c.renouvelée) {
             EXPECT_EQ(Contenu(), avant);
         }
-        EXPECT_EQ(QStringList({Jeu().NomJoueur, RépertoireSauvegarde, FichierLancement, RépertoireInfo, QDir::currentPath()}),
-                  QStringList({"Zoé", choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
-    }
-}
-
-TEST_F(Paramètres, TheStoredLanguageIsReadAsANumberAndLeftAsItIs)
-{
-    for (const auto &[stocké, langue] : {std::pair{" 2", 2}, {"2x", 2}, {"0", 1}, {"de", 1}, {"", 1}, {"-2", 1},
-                                         {"7", 1}, {"99999999999", 1}}) {
-        SCOPED_TRACE(stocké);
-        NouveauMagasin();
-        InstallationExistante(ChaîneTable(1000), "2024-05-01 08:00:00", stocké);
-        Langue = 2;
-        LitParamètres();
-        EXPECT_EQ(Langue, langue);
-        EXPECT_EQ(Messages[0], ChaîneTable(langue == 2 ? 1250 : 1000));
-        EXPECT_EQ(Lit("langue"), S(stocké));
+        EXPECT_EQ(Langue, c.lue);
+        EXPECT_EQ(Messages[0], ChaîneTable(c.lue == 2 ? 1250 : 1000));
+        EXPECT_EQ(QStringList({Lit("langue"), Jeu().NomJoueur, RépertoireSauvegarde, FichierLancement, RépertoireInfo, QDir::currentPath()}),
+                  QStringList({S(c.langue), "Zoé", choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
     }
 }
 
@@ -244,19 +239,6 @@ TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheRemin
                            QDir::currentPath()}),
               QStringList({choisi, choisi + "/KELMOR.SCS", dossier.filePath(QStringLiteral("programme.bin/")),
                            "KELMOR.SCS", choisi}));
-}
-
-TEST_F(Paramètres, InstalledGamesAreTheFamilysOtherKeysOneLevelDown)
-{
-    Pose("version", S("Version 5.12 du 14/03/2007"), CléFamille + S("\\Arvenne"));
-    ASSERT_EQ(CréeClé(CléFamille + S("\\Brisolie\\Cartes")), 0);
-    Pose("Kelmor", S("6.07"), CléFamille + S("\\Updates"));
-    LitParamètres();
-    QStringList installés;
-    for (i16 i = 1; i <= NombreJeux; ++i)
-        if (!JeuxFamille[i].VersionInstallée.isEmpty())
-            installés << JeuxFamille[i].Nom + '=' + JeuxFamille[i].VersionInstallée;
-    EXPECT_EQ(installés, QStringList({"Arvenne=5.12", "Brisolie=0.00", "Kelmor=6.07"}));
 }
 
 TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLeftAsItIs)
