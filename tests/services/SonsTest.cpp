@@ -2,6 +2,7 @@
 #include "Fixtures.h"
 
 #include "engine/communs.h"
+#include "services/Langues.h"
 #include "services/Registre.h"
 #include "services/Sons.h"
 #include "screen/Commandes.h"
@@ -39,13 +40,13 @@ TEST_F(Sons, TheSwitchSilencesTheGameAndSaysSoInTheMenu)
 {
     NouvellePartieAuNiveau(3);
     Menuson_Click();
-    EXPECT_EQ(Principal().Menuson->text(), "Mettre le son");
+    EXPECT_EQ(Principal().Menuson->text(), Messages[158]);
     RépondFaux();
     EXPECT_TRUE(sons.joués.empty());
     Menuson_Click();
     RépondFaux();
     EXPECT_EQ(sons.joués, std::vector<QString>({SonErreur}));
-    EXPECT_EQ(Principal().Menuson->text(), "Couper le son");
+    EXPECT_EQ(Principal().Menuson->text(), Messages[157]);
 }
 
 } // namespace
