@@ -21,14 +21,9 @@ TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
         bool rouge;
         QString conseil;
     };
-    const std::vector<TMode> beaucoup = [] {
-        std::vector<TMode> m(50, TMode{1024, 768, 32});
-        m.push_back({1280, 1024, 16});
-        m.push_back({1280, 1024, 32});
-        m.push_back({1280, 1024, 24});
-        m.push_back({1600, 1200, 8}); // too few colours, however wide
-        return m;
-    }();
+    // Past the list's first 36 places; 1600 x 1200 has too few colours, however wide.
+    std::vector<TMode> beaucoup(50, TMode{1024, 768, 32});
+    beaucoup.insert(beaucoup.end(), {{1280, 1024, 16}, {1280, 1024, 32}, {1280, 1024, 24}, {1600, 1200, 8}});
     const Cas cas[] = {
         {1024, {{1024, 768, 32}}, false, Messages[98]},
         {800, {{800, 600, 32}}, true, Messages[99]},
