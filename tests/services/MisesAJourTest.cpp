@@ -173,12 +173,6 @@ TEST_F(MisesAJour, TheListComesFromTheTableAndUpdatesKeepsTheHigherVersionBothWa
 TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
 {
     ChargeListeJeux();
-    boîtes.journal.clear();
-    AfficheRappel();
-    const QString rien = RappelVu();
-    EXPECT_EQ(rien.count(S(" : version ")), 12) << "nothing installed: every game is listed";
-    EXPECT_TRUE(rien.contains(S("\r\nLes cantons kelmors : version 6.07 du 01/01/2008\r\n")));
-
     Installe("Arvenne", "Version 5.12 du 14/03/2007");     // as published
     Installe("Brisolie", nullptr);                        // no version: behind
     Installe("Corvalie", "Version 3.10 du 01/02/2007");   // ahead of the table: becomes the known one
@@ -234,7 +228,6 @@ TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)
     Installe("Arvenne", "Version 5.12 du 14/03/2007");
     LitParamètres();
     const QString premier = RappelVu();
-    EXPECT_TRUE(premier.startsWith(Messages[123] + "\r\n\r\n" + Messages[146]));
     EXPECT_EQ(premier.count(S(" : version ")), 10) << "all but this game and the one installed";
     EXPECT_FALSE(premier.contains(S("kelmors"))) << "the copy that runs is up to date";
     EXPECT_TRUE(premier.contains(S("\r\nLes états dunmarkois : version 2.41 du 09/09/2004\r\n")));
@@ -243,14 +236,12 @@ TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)
     Pose(Updates, "Kelmor", "6.10");
     maintenant = maintenant.addDays(59);
     LitParamètres();
-    EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(Jeu("Kelmor")->VersionDisponible, "6.10");
+    EXPECT_EQ(Jeu("Kelmor")->VersionDisponible, "6.10") << "read at every start, before the reminder is due";
     maintenant = maintenant.addDays(1);
     LitParamètres();
     const QString rappel = RappelVu();
     EXPECT_TRUE(rappel.contains(S("\r\nLes cantons kelmors : version 6.10 du 01/01/2008\r\n"))) << "old date, newer version";
     EXPECT_EQ(rappel.count(S(" : version ")), 11);
-    EXPECT_EQ(Lit(CléFamille, S("date")), maintenant.toString(FormatDate));
 }
 
 TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
@@ -306,6 +297,8 @@ TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
     ChargeListeJeux();
     AfficheRappel();
     const QString connu = RappelVu();
+    EXPECT_EQ(connu.count(S(" : version ")), 12) << "nothing installed: every game is listed";
+    EXPECT_TRUE(connu.contains(S("\r\nLes cantons kelmors : version 6.07 du 01/01/2008\r\n")));
     const QByteArray jeu = "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->";
 
     Serveur absent(QByteArray("-"));
