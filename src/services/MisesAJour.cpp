@@ -49,14 +49,6 @@ int AnnéeComplète(const QString &chiffres)
     return chiffres.size() > 2 ? a : a < 30 ? 2000 + a : 1900 + a;
 }
 
-// The page as the site sends it: UTF-8, or Windows-1252 as the family's pages were once written.
-QString DécodePage(const QByteArray &octets)
-{
-    QStringDecoder utf8(QStringConverter::Utf8);
-    const QString texte = utf8(octets);
-    return utf8.hasError() ? DepuisAnsi(octets) : texte;
-}
-
 QNetworkAccessManager *GestionnaireRéseau()
 {
     // Made at the first look at the page, not at start: most runs never fetch it.
@@ -70,6 +62,15 @@ QNetworkAccessManager *GestionnaireRéseau()
     return seul;
 }
 } // namespace
+
+QString DécodePage(const QByteArray &octets)
+{
+    // A character cut short at the page's end is no UTF-8: without this the decoder keeps
+    // it for a next piece that never comes, and the page's last bytes are lost.
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    const QString texte = utf8(octets);
+    return utf8.hasError() ? DepuisAnsi(octets) : texte;
+}
 
 bool LitDate(const QString &texte, QDate &date)
 {

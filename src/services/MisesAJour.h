@@ -55,6 +55,10 @@ i16 IndiceJeu(const QString &nom);
 // merged into the list; any other comment is passed over.
 void LitListePage(const QString &page);
 
+// The page as the site sends it: UTF-8 (a leading byte-order mark dropped), or
+// Windows-1252 as the family's pages were once written.
+QString DécodePage(const QByteArray &octets);
+
 // The longest page read: positions in it are 16-bit numbers.
 constexpr qsizetype LongueurMaxPage = 32767;
 // The site's root, as message 1123 shows it; the list is the page jeux/listejeux.htm.

@@ -334,6 +334,8 @@ TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
     ASSERT_NE(Jeu("Nordhal"), nullptr);
     EXPECT_EQ(Jeu("Nordhal")->Description, S("Les fjords de l'été"));
     EXPECT_TRUE(RappelVu().contains(S("Les fjords de l'été : version 1.00 du 15/06/2009")));
+    // Windows-1252 to the last byte, though all before it could be UTF-8.
+    EXPECT_EQ(DécodePage("<p>Les jeux du caf\xE9"), S("<p>Les jeux du café"));
 }
 
 TEST_F(MisesAJour, TheListsAddressIsOnTheSiteUnlessAnotherRootIsGiven)
