@@ -12,7 +12,7 @@
 #include <cstring>
 
 namespace {
-QTemporaryDir *dossier;
+QString fichier;
 BoîtesScriptées *boîtes;
 TPointSegment avant[NombreCartes][MaxSegments];
 } // namespace
@@ -20,17 +20,19 @@ TPointSegment avant[NombreCartes][MaxSegments];
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     static QCoreApplication application(*argc, *argv);
-    dossier = new QTemporaryDir();
+    // In memory, and taken away at the end: the raster is rewritten at every run.
+    static QTemporaryDir dossier(QStringLiteral("/dev/shm/zones-XXXXXX"));
     boîtes = new BoîtesScriptées();
     InstalleBoîtes(boîtes);
     ChargeChaînes();
-    RépertoireApplication = dossier->path();
+    RépertoireApplication = dossier.path();
+    fichier = dossier.filePath(QStringLiteral("KELMOR.pts"));
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille)
 {
-    QFile f(dossier->filePath(QStringLiteral("KELMOR.pts")));
+    QFile f(fichier);
     if (!f.open(QIODevice::WriteOnly))
         std::abort();
     f.write(reinterpret_cast<const char *>(octets), qint64(taille));

@@ -7,19 +7,20 @@
 #include <cstdlib>
 
 namespace {
-QTemporaryDir *dossier;
+QString chemin;
 }
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     static QCoreApplication application(*argc, *argv);
-    dossier = new QTemporaryDir();
+    // In memory: the file is rewritten at every run, and a rewrite on disk waits for the disk.
+    static QTemporaryDir dossier(QStringLiteral("/dev/shm/registre-XXXXXX"));
+    chemin = dossier.filePath(QStringLiteral("registre.ini"));
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille)
 {
-    const QString chemin = dossier->filePath(QStringLiteral("registre.ini"));
     QFile f(chemin);
     if (!f.open(QIODevice::WriteOnly))
         std::abort();
