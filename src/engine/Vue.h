@@ -4,17 +4,24 @@
 // With no screen installed nothing is shown, so the rules run alone in tests.
 #include "engine/Partie.h"
 
-#include <QString>
-
 enum class TSon { Erreur, Bravo, Etape, Perdu, Info };
+
+// What the player is told in a box, in the words of the language in use.
+enum class TAnnonce {
+    ConseilFiche,           // the first right answer of an Apprentissage game: the cards exist
+    QuestionPerdue,         // the ninth error: the question is lost
+    QuestionPerdueAssistée, // the same, after the answer was given away
+    PartiePerdue,           // the score ran out
+};
 
 class VueJeu {
 public:
     virtual ~VueJeu() = default;
 
     virtual void Son(TSon) {}
-    // A message box of the given style (see platform/Boites.h); returns the answer.
-    virtual int Message(const QString &texte, int style, const QString &titre) { return 0; }
+    virtual void Annonce(TAnnonce) {}
+    // The step `finie` is over and `suivante` begins.
+    virtual void AnnonceEtape(TEtape finie, TEtape suivante) {}
 
     // A step begins: the question's zone and every marker laid out for it.
     virtual void EtapeCommencée() {}

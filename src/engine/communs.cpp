@@ -277,11 +277,10 @@ void FinEtape()
             pos = i;
     const TEtape suivante = (pos == 0 || pos == 4) ? TEtape::Aucune : Jeu().OrdreEtapes[pos + 1];
     Jeu().RangEtape = static_cast<i16>(pos + 1);
-    const QString annonce = MessageTransition(Jeu().Etape, suivante);
 
     if (suivante != TEtape::Aucune) {
         Vue().Son(TSon::Etape);
-        Vue().Message(annonce, StyleInformation, Messages[20]);
+        Vue().AnnonceEtape(Jeu().Etape, suivante);
         Jeu().Etape = suivante;
         DébutEtape();
         Vue().MontreCantons();
@@ -387,7 +386,7 @@ void BonneRéponse()
         }
         Vue().Son(TSon::Bravo);
         if (Jeu().RestantsEtape == Jeu().NombreCantons - 1 && Jeu().ModeApprentissage && !Jeu().ConseilFicheDonné) {
-            Vue().Message(Messages[137], StyleInformation, Messages[17]);
+            Vue().Annonce(TAnnonce::ConseilFiche);
             Jeu().ConseilFicheDonné = True;
         }
         QuestionSuivante();
@@ -427,11 +426,11 @@ void MauvaiseRéponse()
     }
     Vue().Son(TSon::Perdu);
     if (Jeu().AssistanceUtilisée) {
-        Vue().Message(Messages[36], StyleExclamation, Messages[37]);
+        Vue().Annonce(TAnnonce::QuestionPerdueAssistée);
         Jeu().AssistanceUtilisée = False;
         Vue().PlaceRond(Jeu().CantonRecherché);
     } else {
-        Vue().Message(Messages[38], StyleExclamation, Messages[37]);
+        Vue().Annonce(TAnnonce::QuestionPerdue);
     }
     Jeu().ErreursQuestion = 0;
     QuestionSuivante();
@@ -486,7 +485,7 @@ void PartiePerdue()
     ScoreAbandon();
     Vue().AfficheScore();
     Vue().Son(TSon::Perdu);
-    Vue().Message(Messages[34], StyleCritique, Messages[35]);
+    Vue().Annonce(TAnnonce::PartiePerdue);
     TerminePartie();
 }
 

@@ -17,26 +17,6 @@ void CorrectionZone(i16 &) {}
 
 i16 NuméroPlace(i16 c) { return c; }
 
-QString MessageTransition(TEtape étape, TEtape suivante)
-{
-    QString tête;
-    switch (étape) {
-    case TEtape::Cantons: tête = Messages[21]; break;
-    case TEtape::ChefsLieux: tête = Messages[22]; break;
-    case TEtape::Drapeaux: tête = Messages[23]; break;
-    case TEtape::Plaques: tête = Messages[163]; break;
-    default: break;
-    }
-    QString queue;
-    switch (suivante) {
-    case TEtape::Cantons: queue = Messages[24]; break;
-    case TEtape::ChefsLieux: queue = Messages[25]; break;
-    case TEtape::Drapeaux: queue = Messages[26]; break;
-    case TEtape::Plaques: queue = Messages[165]; break;
-    default: break;
-    }
-    return tête + queue;
-}
 
 void PoidsSpécifiques()
 {

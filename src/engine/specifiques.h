@@ -9,5 +9,4 @@ void ChargePlaques();
 void InitialisationSpécifique();
 void CorrectionZone(i16 &c);
 i16 NuméroPlace(i16 c);
-QString MessageTransition(TEtape étape, TEtape suivante);
 void PoidsSpécifiques();

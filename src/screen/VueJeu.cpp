@@ -412,6 +412,27 @@ void BoutonGruge_Click()
 
 // ---------------------------------------------------------------- this game's own screen
 
+QString MessageTransition(TEtape étape, TEtape suivante)
+{
+    QString tête;
+    switch (étape) {
+    case TEtape::Cantons: tête = Messages[21]; break;
+    case TEtape::ChefsLieux: tête = Messages[22]; break;
+    case TEtape::Drapeaux: tête = Messages[23]; break;
+    case TEtape::Plaques: tête = Messages[163]; break;
+    default: break;
+    }
+    QString queue;
+    switch (suivante) {
+    case TEtape::Cantons: queue = Messages[24]; break;
+    case TEtape::ChefsLieux: queue = Messages[25]; break;
+    case TEtape::Drapeaux: queue = Messages[26]; break;
+    case TEtape::Plaques: queue = Messages[165]; break;
+    default: break;
+    }
+    return tête + queue;
+}
+
 void DébutEtapeSpécifique()
 {
     if (Jeu().Etape != TEtape::Plaques)
@@ -488,7 +509,19 @@ public:
         case TSon::Info: JoueSon(SonInfo); break;
         }
     }
-    int Message(const QString &texte, int style, const QString &titre) override { return Boîte(texte, style, titre); }
+    void Annonce(TAnnonce annonce) override
+    {
+        switch (annonce) {
+        case TAnnonce::ConseilFiche: Boîte(Messages[137], StyleInformation, Messages[17]); break;
+        case TAnnonce::QuestionPerdue: Boîte(Messages[38], StyleExclamation, Messages[37]); break;
+        case TAnnonce::QuestionPerdueAssistée: Boîte(Messages[36], StyleExclamation, Messages[37]); break;
+        case TAnnonce::PartiePerdue: Boîte(Messages[34], StyleCritique, Messages[35]); break;
+        }
+    }
+    void AnnonceEtape(TEtape finie, TEtape suivante) override
+    {
+        Boîte(MessageTransition(finie, suivante), StyleInformation, Messages[20]);
+    }
     void EtapeCommencée() override { PrépareEtape(); }
     void QuestionPosée() override { MontreQuestion(); }
     void AfficheScore() override { ::AfficheScore(); }

@@ -34,3 +34,5 @@ void PlaceTexteSpécifique();
 void PlaceRondSpécifique(i16 i);
 void MontreCantonSpécifique(i16 i);
 void LibelléSpécifique();
+// What is said between two steps, the plate step included.
+QString MessageTransition(TEtape étape, TEtape suivante);
