@@ -21,7 +21,8 @@ TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
         bool rouge;
         QString conseil;
     };
-    // Past the list's first 36 places; 1600 x 1200 has too few colours, however wide.
+    // The best modes lie past the list's first 36 places, so it must grow to find them;
+    // 1600 x 1200 has too few colours, however wide.
     std::vector<TMode> beaucoup(50, TMode{1024, 768, 32});
     beaucoup.insert(beaucoup.end(), {{1280, 1024, 16}, {1280, 1024, 32}, {1280, 1024, 24}, {1600, 1200, 8}});
     const Cas cas[] = {
@@ -37,9 +38,6 @@ TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
         EXPECT_EQ(p.Conseil->text(), c.conseil) << c.largeur;
         EXPECT_EQ(p.Conseil->styleSheet().contains("ff0000"), c.rouge) << c.largeur;
         EXPECT_TRUE(p.Commentaire->text().endsWith(QStringLiteral("%1x600  [").arg(c.largeur) + Messages[97] + " 24 bits]"));
-        if (c.largeur == 800 && c.modes.size() > 40) {
-            EXPECT_EQ(CapacitéModes, 56) << "the list grows by ten past its first 36 places";
-        }
     }
     InstalleModesAffichage(nullptr);
 }
