@@ -15,6 +15,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
+#include "services/Donnees.h"
 
 #include <QApplication>
 #include <QFile>

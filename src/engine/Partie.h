@@ -48,8 +48,28 @@ constexpr int Numéro(TEtape e) { return static_cast<int>(e); }
 constexpr int Numéro(TNiveau n) { return static_cast<int>(n); }
 constexpr bool EtapeDeJeu(TEtape e) { return e >= TEtape::Cantons && e <= TEtape::Plaques; }
 
+// The raster of the map: each row of the map, from its top, is a list of runs, a run
+// giving the canton met from X on (0 outside the country).
+struct TPointSegment {
+    u8 NuméroCarte = 0;
+    i16 X = 0;
+    u8 Zone = 0;
+};
+constexpr int NombreCartes = 1;
+constexpr int MaxSegments = 3920;
+constexpr int MaxLignes = 458;
+// The map picture, in pixels: the raster must give every row of it.
+constexpr int LargeurCarte = 652;
+constexpr int HauteurCarte = 456;
+struct TCarteZones {
+    TPointSegment PointsSegments[NombreCartes][MaxSegments] = {};
+    i16 DébutsLignes[NombreCartes][MaxLignes] = {}; // the first run of each row, and the end of the last
+};
+
 struct Partie {
     TCanton Cantons[NombrePlaces + 1]; // element 0 stays empty
+    QString Plaques[NombrePlaces + 1]; // the plate letters, 1..26
+    TCarteZones Carte;
 
     TEtape Etape = TEtape::Aucune;
     TNiveau Niveau = TNiveau::Aucun;

@@ -2,24 +2,14 @@
 
 #include "engine/specifiques.h"
 #include "engine/Vue.h"
-#include "platform/Boites.h"
 #include "platform/Horloge.h"
-#include "services/Chemins.h"
-#include "services/Langues.h"
-#include "services/Parametres.h"
-#include "services/TableChaines.h"
 
-#include <QFile>
 #include <cmath>
-#include <cstring>
 
 i16 HauteurVignette = 188;
 i16 LargeurVignette = 200;
 QString FinDeLigne = QStringLiteral("\r\n");
 
-TPointSegment PointsSegments[NombreCartes][MaxSegments];
-i16 DébutsLignes[NombreCartes][MaxLignes];
-QString CheminFichierZones;
 
 i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};
 i32 PointsParCanton = 0;
@@ -68,125 +58,20 @@ i32 ValeurEnTête(const QString &champ)
     return static_cast<i32>(v);
 }
 
-void ChargeCantons()
-{
-    const int décalage = 200 * (Langue - 1);
-    for (int i = 1; i <= NombrePlaces; ++i) {
-        TCanton &c = Jeu().Cantons[i];
-        const QString ville = ChaîneTable(4000 + i);
-        c.ChefLieu = LitChamp(ChaîneTable(4000 + décalage + i), 1);
-        c.VilleGauche = static_cast<i16>(ValeurEnTête(LitChamp(ville, 2)));
-        c.VilleHaut = static_cast<i16>(ValeurEnTête(LitChamp(ville, 3)));
-        const QString canton = ChaîneTable(2000 + i);
-        c.Nom = LitChamp(ChaîneTable(2000 + décalage + i), 1);
-        c.Région = static_cast<u8>(ValeurEnTête(LitChamp(canton, 2)));
-        c.PaysGauche = static_cast<i16>(ValeurEnTête(LitChamp(canton, 3)));
-        c.PaysHaut = static_cast<i16>(ValeurEnTête(LitChamp(canton, 4)));
-    }
-    ChargePlaques();
-}
 
 // ---------------------------------------------------------------- the raster
 
-bool ChargeCarteZones()
-{
-    CheminFichierZones = ComposeChemin(RépertoireApplication, QStringLiteral("KELMOR.pts"));
-    if (!QFile::exists(CheminFichierZones)) {
-        Boîte(Messages[132], StyleInformation, Messages[46]);
-        return false;
-    }
-    auto refuse = [] {
-        Boîte(Messages[27], StyleCritique, CheminFichierZones);
-        return false;
-    };
-
-    QFile fichier(CheminFichierZones);
-    // Any valid file fits in a header, the row marks and the runs of the tables; a
-    // cut last record is left unread.
-    constexpr qint64 RecordsMax = 1 + MaxLignes + MaxSegments;
-    if (!fichier.open(QIODevice::ReadOnly) || fichier.size() / 4 > RecordsMax)
-        return refuse();
-    const QByteArray octets = fichier.readAll();
-    fichier.close();
-    if (octets.size() != fichier.size())
-        return refuse();
-
-    // Filled aside, so that a refused file leaves the tables as they were.
-    static TPointSegment segments[NombreCartes][MaxSegments];
-    static i16 débuts[NombreCartes][MaxLignes];
-    std::memset(segments, 0, sizeof segments);
-    std::memset(débuts, 0, sizeof débuts);
-
-    int carte = -1; // none yet
-    int ligne = -1;
-    int compte = 0;
-    const auto *p = reinterpret_cast<const unsigned char *>(octets.constData());
-    const qsizetype nombre = octets.size() / 4;
-    for (qsizetype n = 0; n < nombre; ++n, p += 4) {
-        TPointSegment r;
-        r.NuméroCarte = p[0];
-        r.X = static_cast<i16>(static_cast<std::uint16_t>(p[1] | (p[2] << 8)));
-        r.Zone = p[3];
-
-        if (r.NuméroCarte != carte && r.NuméroCarte != 255) {
-            if (r.NuméroCarte >= NombreCartes)
-                return refuse();
-            if (carte >= 0) {
-                ligne = ligne + 1;
-                if (ligne >= MaxLignes)
-                    return refuse();
-                débuts[carte][ligne] = static_cast<i16>(compte);
-            }
-            carte = r.NuméroCarte;
-            ligne = -1;
-            compte = 0;
-        }
-        if (carte < 0)
-            return refuse(); // 255 can't open the file: it names the map of the records before
-        if (n == 0) {
-            if (r.Zone != 4 || r.X != 0)
-                return refuse();
-        } else if (r.Zone == 0 && r.X == 0) {
-            ligne = ligne + 1;
-            if (ligne >= MaxLignes)
-                return refuse();
-            débuts[carte][ligne] = static_cast<i16>(compte);
-        } else {
-            if (compte >= MaxSegments)
-                return refuse();
-            segments[carte][compte] = r;
-            compte = compte + 1;
-        }
-    }
-    // A file that stops before the last row is closed, or leaves a canton without a
-    // pixel, would start a game in which some click never finds its canton.
-    if (carte != 0 || ligne < HauteurCarte)
-        return refuse();
-    bool couvert[NombrePlaces + 1] = {};
-    for (int y = 0; y < HauteurCarte; ++y)
-        for (int s = débuts[0][y]; s < débuts[0][y + 1]; ++s) {
-            const int fin = s + 1 < débuts[0][y + 1] ? segments[0][s + 1].X : LargeurCarte - 1;
-            const int zone = segments[0][s].Zone;
-            if (zone <= NombrePlaces && std::max(segments[0][s].X + 1, 0) <= std::min(fin, LargeurCarte - 1))
-                couvert[zone] = true;
-        }
-    for (int c = 1; c <= NombrePlaces; ++c)
-        if (!couvert[c])
-            return refuse();
-    std::memcpy(PointsSegments, segments, sizeof segments);
-    std::memcpy(DébutsLignes, débuts, sizeof débuts);
-    return true;
-}
 
 i16 ZoneEn(int Région, int x, int y)
 {
     if (Région < 0 || Région >= NombreCartes || y < 0 || y + 1 >= MaxLignes)
         return 0;
-    const int premier = DébutsLignes[Région][y];
-    const int dernier = std::min<int>(DébutsLignes[Région][y + 1] - 1, MaxSegments - 1);
+    const TCarteZones &carte = Jeu().Carte;
+    const int premier = carte.DébutsLignes[Région][y];
+    const int dernier = std::min<int>(carte.DébutsLignes[Région][y + 1] - 1, MaxSegments - 1);
     i16 c = 0;
     for (int s = std::max(premier, 0); s <= dernier; ++s) {
-        const TPointSegment &r = PointsSegments[Région][s];
+        const TPointSegment &r = carte.PointsSegments[Région][s];
         if (r.X >= x)
             break;
         c = r.Zone;

@@ -14,24 +14,7 @@ extern QString FinDeLigne;
 QString LitChamp(const QString &Texte, i16 Rang);
 // The digits at the head of a field make its value; no digits is 0.
 i32 ValeurEnTête(const QString &champ);
-void ChargeCantons();
 
-// The raster of the map.
-struct TPointSegment {
-    u8 NuméroCarte = 0;
-    i16 X = 0;
-    u8 Zone = 0;
-};
-constexpr int NombreCartes = 1;
-constexpr int MaxSegments = 3920;
-constexpr int MaxLignes = 458;
-// The map picture, in pixels: the raster must give every row of it.
-constexpr int LargeurCarte = 652;
-constexpr int HauteurCarte = 456;
-extern TPointSegment PointsSegments[NombreCartes][MaxSegments];
-extern i16 DébutsLignes[NombreCartes][MaxLignes];
-extern QString CheminFichierZones;
-bool ChargeCarteZones();
 // The zone under map pixel (x, y), 0 outside the country or the table.
 i16 ZoneEn(int Région, int x, int y);
 // A click at map pixel (x, y), scroll included: the level's filter, then the judging.

@@ -1,22 +1,10 @@
 #include "engine/specifiques.h"
 
-#include "services/Langues.h"
-#include "services/TableChaines.h"
-
-QString Plaques[NombrePlaces + 1];
-
-void ChargePlaques()
-{
-    for (int i = 1; i <= NombrePlaces; ++i)
-        Plaques[i] = LitChamp(ChaîneTable(2000 + i), 5);
-}
-
 void InitialisationSpécifique() {}
 
 void CorrectionZone(i16 &) {}
 
 i16 NuméroPlace(i16 c) { return c; }
-
 
 void PoidsSpécifiques()
 {

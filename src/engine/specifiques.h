@@ -3,9 +3,6 @@
 // fourth step kind, the plate letters, which the common code doesn't know.
 #include "engine/communs.h"
 
-extern QString Plaques[NombrePlaces + 1]; // 1..26
-
-void ChargePlaques();
 void InitialisationSpécifique();
 void CorrectionZone(i16 &c);
 i16 NuméroPlace(i16 c);

@@ -17,6 +17,7 @@
 #include "services/Parametres.h"
 #include "services/Patience.h"
 #include "services/Sons.h"
+#include "services/Donnees.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -14,6 +14,7 @@
 #include "services/Patience.h"
 #include "services/Pompe.h"
 #include "services/Sons.h"
+#include "services/Donnees.h"
 
 #include <cmath>
 
@@ -450,7 +451,7 @@ void DébutEtapeSpécifique()
 void QuestionSpécifique()
 {
     if (Jeu().Etape == TEtape::Plaques)
-        Principal().TexteAChercher->setText(Plaques[Jeu().CantonRecherché]);
+        Principal().TexteAChercher->setText(Jeu().Plaques[Jeu().CantonRecherché]);
 }
 
 void ZoneQuestionSpécifique()

@@ -12,6 +12,7 @@
 #include "services/Registre.h"
 #include "services/Sons.h"
 #include "services/TableChaines.h"
+#include "services/Donnees.h"
 
 #include <QAction>
 #include <QCoreApplication>

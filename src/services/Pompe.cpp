@@ -134,7 +134,7 @@ Pompe::Pompe() : QDialog(FormePrincipale())
     }
     move(place.gauche, place.haut);
 
-    LBLPays->setText(Jeu().Cantons[i].Nom + QStringLiteral(" (") + Plaques[i] + QLatin1Char(')'));
+    LBLPays->setText(Jeu().Cantons[i].Nom + QStringLiteral(" (") + Jeu().Plaques[i] + QLatin1Char(')'));
     IMGDrapeau->setPicture(E.drapeau[i]->Picture());
     IMGDrapeau->setLeft(Moitié(width() - IMGDrapeau->Width()));
     LBLCapitale->setText(Messages[115] + QStringLiteral(" : ") + Jeu().Cantons[i].ChefLieu);

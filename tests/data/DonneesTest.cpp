@@ -8,6 +8,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/TableChaines.h"
+#include "services/Donnees.h"
 
 #include <QDir>
 #include <QFile>

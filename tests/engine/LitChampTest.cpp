@@ -2,6 +2,7 @@
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "services/Langues.h"
+#include "services/Donnees.h"
 
 #include <gtest/gtest.h>
 
@@ -44,7 +45,7 @@ TEST(ChargeCantons, GermanNamesSameCoordinatesAndPlates)
     EXPECT_EQ(berneFr.VilleGauche, 218);
     EXPECT_EQ(berneFr.VilleHaut, 198);
     EXPECT_EQ(Jeu().Cantons[5].ChefLieu, QString::fromUtf8("Bâle"));
-    EXPECT_EQ(Plaques[26], "ZH");
+    EXPECT_EQ(Jeu().Plaques[26], "ZH");
 
     Langue = 2;
     ChargeChaînes();
@@ -54,7 +55,7 @@ TEST(ChargeCantons, GermanNamesSameCoordinatesAndPlates)
     EXPECT_EQ(Jeu().Cantons[10].Nom, QString::fromUtf8("Graubünden"));
     EXPECT_EQ(Jeu().Cantons[6].PaysGauche, berneFr.PaysGauche);
     EXPECT_EQ(Jeu().Cantons[6].VilleHaut, berneFr.VilleHaut);
-    EXPECT_EQ(Plaques[6], "BE");
+    EXPECT_EQ(Jeu().Plaques[6], "BE");
     // A change of language keeps what the game knows of the canton.
     EXPECT_EQ(Jeu().Cantons[6].Trouvé, True);
     EXPECT_EQ(Jeu().Cantons[6].Pertes[2], 17);

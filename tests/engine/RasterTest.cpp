@@ -4,6 +4,7 @@
 #include "engine/communs.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "services/Donnees.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -83,7 +84,7 @@ TEST_F(Raster, MapNumber255BelongsToTheMapInProgress)
 TEST_F(Raster, BadFilesAreRefusedWithTheFormatMessageAndLeaveTheTablesAlone)
 {
     ASSERT_TRUE(Charge(RasterBandes() + QByteArray(2, '\x01'))) << "a cut last record is left unread";
-    const QByteArray avant(reinterpret_cast<const char *>(PointsSegments), sizeof PointsSegments);
+    const QByteArray avant(reinterpret_cast<const char *>(Jeu().Carte.PointsSegments), sizeof Jeu().Carte.PointsSegments);
 
     QByteArray tropDeSegments = Tête() + Ligne();
     for (int i = 0; i <= MaxSegments; ++i)
@@ -107,7 +108,7 @@ TEST_F(Raster, BadFilesAreRefusedWithTheFormatMessageAndLeaveTheTablesAlone)
         boîtes.journal.clear();
         EXPECT_FALSE(Charge(contenu));
         EXPECT_TRUE(RefuséPourFormat());
-        EXPECT_EQ(std::memcmp(avant.constData(), PointsSegments, sizeof PointsSegments), 0);
+        EXPECT_EQ(std::memcmp(avant.constData(), Jeu().Carte.PointsSegments, sizeof Jeu().Carte.PointsSegments), 0);
     }
 }
 
@@ -134,7 +135,7 @@ TEST_F(Raster, AMaximalFileFitsTheTablesExactly)
     ASSERT_EQ(runs, MaxSegments);
     ASSERT_TRUE(Charge(f));
     EXPECT_EQ(ZoneEn(0, 11, 0), 1);
-    EXPECT_EQ(DébutsLignes[0][457], MaxSegments);
+    EXPECT_EQ(Jeu().Carte.DébutsLignes[0][457], MaxSegments);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "platform/Boites.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "services/Donnees.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -37,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
         std::abort();
     f.write(reinterpret_cast<const char *>(octets), qint64(taille));
     f.close();
-    std::memcpy(avant, PointsSegments, sizeof avant);
+    std::memcpy(avant, Jeu().Carte.PointsSegments, sizeof avant);
     boîtes->journal.clear();
     if (ChargeCarteZones()) {
         if (!boîtes->journal.empty())
@@ -47,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
                 const i16 z = ZoneEn(0, x, y);
                 (void)z;
             }
-    } else if (boîtes->journal.size() != 1 || std::memcmp(avant, PointsSegments, sizeof avant) != 0) {
+    } else if (boîtes->journal.size() != 1 || std::memcmp(avant, Jeu().Carte.PointsSegments, sizeof avant) != 0) {
         std::abort();
     }
     boîtes->journal.clear();

@@ -1,0 +1,57 @@
+#include "services/Donnees.h"
+
+#include "engine/communs.h"
+#include "files/CarteZones.h"
+#include "platform/Boites.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Parametres.h"
+#include "services/TableChaines.h"
+
+#include <QFile>
+
+QString CheminFichierZones;
+
+void ChargeCantons()
+{
+    const int décalage = 200 * (Langue - 1);
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        TCanton &c = Jeu().Cantons[i];
+        const QString ville = ChaîneTable(4000 + i);
+        c.ChefLieu = LitChamp(ChaîneTable(4000 + décalage + i), 1);
+        c.VilleGauche = static_cast<i16>(ValeurEnTête(LitChamp(ville, 2)));
+        c.VilleHaut = static_cast<i16>(ValeurEnTête(LitChamp(ville, 3)));
+        const QString canton = ChaîneTable(2000 + i);
+        c.Nom = LitChamp(ChaîneTable(2000 + décalage + i), 1);
+        c.Région = static_cast<u8>(ValeurEnTête(LitChamp(canton, 2)));
+        c.PaysGauche = static_cast<i16>(ValeurEnTête(LitChamp(canton, 3)));
+        c.PaysHaut = static_cast<i16>(ValeurEnTête(LitChamp(canton, 4)));
+    }
+    ChargePlaques();
+}
+
+void ChargePlaques()
+{
+    for (int i = 1; i <= NombrePlaces; ++i)
+        Jeu().Plaques[i] = LitChamp(ChaîneTable(2000 + i), 5);
+}
+
+bool ChargeCarteZones()
+{
+    CheminFichierZones = ComposeChemin(RépertoireApplication, QStringLiteral("KELMOR.pts"));
+    if (!QFile::exists(CheminFichierZones)) {
+        Boîte(Messages[132], StyleInformation, Messages[46]);
+        return false;
+    }
+    QFile fichier(CheminFichierZones);
+    // More than the tables could hold is refused before it is read.
+    constexpr qint64 OctetsMax = 4 * (1 + MaxLignes + MaxSegments) + 3;
+    QByteArray octets;
+    if (fichier.open(QIODevice::ReadOnly) && fichier.size() <= OctetsMax)
+        octets = fichier.readAll();
+    if (octets.size() != fichier.size() || !fichier.isOpen() || !LitCarteZones(octets, Jeu().Carte)) {
+        Boîte(Messages[27], StyleCritique, CheminFichierZones);
+        return false;
+    }
+    return true;
+}
