@@ -1,5 +1,6 @@
 // Figures behind the game's speed: the hit test, the start-up to the idle window,
 // a click judged with the map repainted.
+#include "Doublures.h"
 #include "engine/communs.h"
 #include "screen/VueJeu.h"
 #include "platform/Boites.h"

@@ -1,7 +1,6 @@
 #pragma once
 // A game on the offscreen main form, with every service of the desktop scripted.
-#include "platform/Boites.h"
-#include "platform/Son.h"
+#include "Doublures.h"
 #include "results/Parties.h"
 #include "screen/VueJeu.h"
 

@@ -1,9 +1,7 @@
 #pragma once
 // Message boxes by style number, as the game asks its questions.
 #include <QString>
-#include <deque>
 #include <functional>
-#include <vector>
 
 // Styles: buttons + icon. 16 OK/stop, 36 Yes-No/question, 48 OK/exclamation, 64 OK/information.
 constexpr int StyleCritique = 16;
@@ -30,21 +28,3 @@ public:
 // nullptr puts the real boxes back.
 void InstalleBoîtes(FournisseurBoîtes *fournisseur);
 
-// For tests: answers queued in order, every box logged. With the queue empty a
-// question gets `siVide` and any other box OK.
-class BoîtesScriptées : public FournisseurBoîtes {
-public:
-    struct Entrée {
-        QString texte;
-        QString titre;
-        int style;
-    };
-    std::deque<int> réponses;
-    std::vector<Entrée> journal;
-    int siVide = RéponseOui;
-    // Runs while the box is open, as a player could act on the screen meanwhile.
-    std::function<void(const Entrée &)> pendant;
-
-    int Montre(const QString &texte, int style, const QString &titre) override;
-    bool ADit(const QString &morceau) const;
-};

@@ -46,10 +46,3 @@ void JoueFichierSon(const QString &chemin) { Lecteur().Joue(chemin); }
 
 void InstalleSons(LecteurSons *lecteur) { lecteurActuel = lecteur; }
 
-bool SonsEnregistrés::AJoué(const QString &fin) const
-{
-    for (const auto &s : joués)
-        if (s.endsWith(fin))
-            return true;
-    return false;
-}

@@ -1,5 +1,6 @@
 // What ships with the game: the map's raster, the pictures at 100 % and 200 %,
 // the flags, the sounds, the information cards and the help pages.
+#include "Doublures.h"
 #include "engine/communs.h"
 #include "platform/Ansi.h"
 #include "platform/Boites.h"

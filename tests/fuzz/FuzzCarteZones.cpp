@@ -1,5 +1,6 @@
 // Any file in place of the map's raster: no crash, no write outside the tables,
 // and a refused file leaves the tables as they were.
+#include "Doublures.h"
 #include "engine/communs.h"
 #include "platform/Boites.h"
 #include "services/Langues.h"

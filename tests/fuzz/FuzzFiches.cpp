@@ -1,6 +1,7 @@
 // Any bytes as an information file: no crash, every record read as its two lengths
 // say or refused when they run past it, a card read writes back, and a damaged
 // record is one message and an empty card.
+#include "Doublures.h"
 #include "platform/Boites.h"
 #include "services/Fiches.h"
 #include "services/Langues.h"

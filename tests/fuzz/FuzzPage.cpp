@@ -2,6 +2,7 @@
 // nor shorter than a third of them; the list only grows, a known game's version and
 // date never go back, a game read has a name, a version, a date and a title; the
 // dates and versions read from any line are real ones; the reminder is one box.
+#include "Doublures.h"
 #include "platform/Boites.h"
 #include "services/Langues.h"
 #include "services/MisesAJour.h"

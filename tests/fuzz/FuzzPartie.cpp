@@ -1,4 +1,5 @@
 // Any bytes as a saved game: no crash, and a refused file changes nothing.
+#include "Doublures.h"
 #include "engine/communs.h"
 #include "platform/Boites.h"
 #include "platform/Formes.h"

@@ -1,4 +1,5 @@
 // The stand-ins for the desktop's services: code page, draws, boxes, folders.
+#include "Doublures.h"
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "platform/Horloge.h"

@@ -1,5 +1,6 @@
 // The folder form: what OK writes in each use, the folders it refuses, the subfolder
 // made from it and the folders it can't show, on temporary folders.
+#include "Doublures.h"
 #include "engine/communs.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
