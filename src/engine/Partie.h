@@ -93,6 +93,10 @@ struct Partie {
     bool ModeRévision = false;
     i16 CantonFiche = 0;
     bool ScoresFinPartie = false;
+
+    // What a step kind and a canton weigh in the score of a game left before its end.
+    i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};
+    i32 PointsParCanton = 0;
 };
 
 // The program's one game.

@@ -6,13 +6,8 @@
 
 #include <cmath>
 
-i16 HauteurVignette = 188;
-i16 LargeurVignette = 200;
-QString FinDeLigne = QStringLiteral("\r\n");
 
 
-i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};
-i32 PointsParCanton = 0;
 
 namespace {
 
@@ -357,11 +352,11 @@ void ScoreAbandon()
         if (étape == TEtape::Aucune)
             break;
         if (étape == Jeu().Etape) {
-            Jeu().Score += (Jeu().NombreCantons - Jeu().RestantsEtape) * PoidsEtapes[Numéro(Jeu().Etape)] * PointsParCanton;
+            Jeu().Score += (Jeu().NombreCantons - Jeu().RestantsEtape) * Jeu().PoidsEtapes[Numéro(Jeu().Etape)] * Jeu().PointsParCanton;
             break;
         }
         if (EtapeDeJeu(étape))
-            Jeu().Score += PoidsEtapes[Numéro(étape)] * Jeu().NombreCantons * PointsParCanton;
+            Jeu().Score += Jeu().PoidsEtapes[Numéro(étape)] * Jeu().NombreCantons * Jeu().PointsParCanton;
     }
 }
 

@@ -6,9 +6,8 @@
 
 #include <QString>
 
-extern i16 HauteurVignette;
-extern i16 LargeurVignette;
-extern QString FinDeLigne;
+// Lines of the game's text files end as on the desktop the files come from.
+inline const QString FinDeLigne = QStringLiteral("\r\n");
 
 // Field number Rang (from 1) of a string with "#" between its fields.
 QString LitChamp(const QString &Texte, i16 Rang);
@@ -34,8 +33,6 @@ void BonneRéponse();
 void MauvaiseRéponse();
 
 // Score and clock.
-extern i16 PoidsEtapes[5];
-extern i32 PointsParCanton;
 i32 Pénalité(i32 S, i16 k);
 i32 SoldeQuestion();
 void ScoreAbandon();

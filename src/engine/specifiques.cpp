@@ -8,11 +8,11 @@ i16 NuméroPlace(i16 c) { return c; }
 
 void PoidsSpécifiques()
 {
-    PoidsEtapes[1] = 1;
-    PoidsEtapes[2] = 2;
-    PoidsEtapes[3] = 4;
-    PoidsEtapes[4] = 1;
-    const int somme = PoidsEtapes[1] + PoidsEtapes[2] + PoidsEtapes[3] + PoidsEtapes[4];
-    PointsParCanton = Jeu().NombreCantons > 0 ? 999999 / (somme * Jeu().NombreCantons) : 0;
+    Jeu().PoidsEtapes[1] = 1;
+    Jeu().PoidsEtapes[2] = 2;
+    Jeu().PoidsEtapes[3] = 4;
+    Jeu().PoidsEtapes[4] = 1;
+    const int somme = Jeu().PoidsEtapes[1] + Jeu().PoidsEtapes[2] + Jeu().PoidsEtapes[3] + Jeu().PoidsEtapes[4];
+    Jeu().PointsParCanton = Jeu().NombreCantons > 0 ? 999999 / (somme * Jeu().NombreCantons) : 0;
 }
 

@@ -29,6 +29,8 @@
 int LargeurEcran = 0;
 int HauteurEcran = 0;
 int BasZoneTravail = 0;
+i16 HauteurVignette = 188;
+i16 LargeurVignette = 200;
 short HauteurFenêtre = 0;
 short LargeurFenêtre = 0;
 TRectangle RectangleEcran;

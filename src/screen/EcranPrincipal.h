@@ -1,6 +1,7 @@
 #pragma once
 // The game's one main window: the map with its markers, the question panel,
 // the score boxes, the parameterisation panel and the menus, under their names.
+#include "engine/Partie.h"
 #include "platform/Controles.h"
 
 #include <QMainWindow>
@@ -104,6 +105,8 @@ void ChargeEcranPrincipal();
 // Screen fit and scrolling.
 extern int LargeurEcran, HauteurEcran;
 extern int BasZoneTravail;
+// The size of the question's picture frame, read at load before a question changes it.
+extern i16 HauteurVignette, LargeurVignette;
 extern short HauteurFenêtre, LargeurFenêtre;
 struct TRectangle { int Left = 0, Top = 0, Right = 0, Bottom = 0; };
 extern TRectangle RectangleEcran;

@@ -125,7 +125,6 @@ bool Main()
 {
     HauteurFenêtre = 0;
     LargeurFenêtre = 0;
-    FinDeLigne = QStringLiteral("\r\n");
     RépertoireApplication = DossierProgramme();
     LitParamètres();
     if (!ParamètresLus)

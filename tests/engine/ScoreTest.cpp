@@ -38,14 +38,14 @@ TEST_F(Score_, ScoreOfAStoppedGame)
     Jeu().NombreCantons = 26;
     Jeu().RestantsEtape = 16;
     ScoreAbandon();
-    EXPECT_EQ(PointsParCanton, 4807);
+    EXPECT_EQ(Jeu().PointsParCanton, 4807);
     EXPECT_EQ(Jeu().Score, -432773);
 
     Jeu().NombreCantons = 20;
     Jeu().RestantsEtape = 20;
     Jeu().Etape = TEtape::Cantons;
     ScoreAbandon();
-    EXPECT_EQ(PointsParCanton, 6249);
+    EXPECT_EQ(Jeu().PointsParCanton, 6249);
     EXPECT_EQ(Jeu().Score, -999999);
 
     // A set of the single step Plaques: the weights not played stay in the divisor.
