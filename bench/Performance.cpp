@@ -178,9 +178,9 @@ void BM_FichierScoresEcritEtLu(benchmark::State &state)
     QTemporaryDir dossier;
     FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
     for (int n = 1; n <= 4; ++n) {
-        NombreScores[n] = 10;
+        Jeu().NombreScores[n] = 10;
         for (int r = 1; r <= 10; ++r)
-            MeilleursScores[n][r] = TLigneScore{QStringLiteral("Joueuse %1").arg(r), 999999 - r, 600 + r};
+            Jeu().MeilleursScores[n][r] = TLigneScore{QStringLiteral("Joueuse %1").arg(r), 999999 - r, 600 + r};
     }
     for (auto _ : state) {
         EcritFichierScores(true);

@@ -66,6 +66,13 @@ struct TCarteZones {
     i16 DébutsLignes[NombreCartes][MaxLignes] = {}; // the first run of each row, and the end of the last
 };
 
+// A line of a best-ten list.
+struct TLigneScore {
+    QString Nom;     // at most 20 characters
+    i32 Points = 0;
+    i32 Durée = 0;   // whole seconds
+};
+
 struct Partie {
     TCanton Cantons[NombrePlaces + 1]; // element 0 stays empty
     QString Plaques[NombrePlaces + 1]; // the plate letters, 1..26
@@ -93,6 +100,11 @@ struct Partie {
     bool ModeRévision = false;
     i16 CantonFiche = 0;
     bool ScoresFinPartie = false;
+
+    // The best ten of each scored level for the parameter set in use: first index the
+    // level 0..4, second the rank 0..10; row 0 and rank 0 stay empty.
+    TLigneScore MeilleursScores[5][11];
+    i16 NombreScores[5] = {0, 0, 0, 0, 0};
 
     // What a step kind and a canton weigh in the score of a game left before its end.
     i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};

@@ -111,7 +111,7 @@ AffichageScores::AffichageScores() : QDialog(FormePrincipale(), CadreDialogueFix
 
     for (int i = 1; i <= 10; ++i) {
         // A line of 0 points is an empty place, whatever the count says.
-        const TLigneScore &ligne = (NiveauAffiché >= 1 && NiveauAffiché <= 4) ? MeilleursScores[NiveauAffiché][i]
+        const TLigneScore &ligne = (NiveauAffiché >= 1 && NiveauAffiché <= 4) ? Jeu().MeilleursScores[NiveauAffiché][i]
                                                                              : TLigneScore{};
         if (ligne.Points != 0) {
             nomjoueur[i]->setText(ligne.Nom);

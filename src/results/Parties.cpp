@@ -3,7 +3,7 @@
 #include "screen/VueJeu.h"
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
-#include "results/FichierEnregistrements.h"
+#include "files/FichierEnregistrements.h"
 #include "results/Scores.h"
 #include "results/SelectionPartie.h"
 #include "screen/EcranPrincipal.h"
@@ -69,10 +69,10 @@ QByteArray ContenuPartie(const QString &FichierNoté)
     if (FichierLancement == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
             f.Entier(Jeu().OrdreEtapes[i]);
-        f.Entier(static_cast<i16>(NombreScores[1] + NombreScores[2] + NombreScores[3] + NombreScores[4]));
+        f.Entier(static_cast<i16>(Jeu().NombreScores[1] + Jeu().NombreScores[2] + Jeu().NombreScores[3] + Jeu().NombreScores[4]));
         for (int n = 1; n <= 4; ++n)
-            for (int r = 1; r <= NombreScores[n]; ++r)
-                f.LigneScore(MeilleursScores[n][r], static_cast<i16>(n));
+            for (int r = 1; r <= Jeu().NombreScores[n]; ++r)
+                f.LigneScore(Jeu().MeilleursScores[n][r], static_cast<i16>(n));
     }
     f.Entier(Jeu().Etape);
     f.Chaîne(Jeu().NomJoueur);
@@ -177,8 +177,8 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
         for (int i = 1; i <= 4; ++i)
             Jeu().OrdreEtapes[i] = static_cast<TEtape>(ordre[i]);
         for (const auto &[l, n] : lignes) {
-            NombreScores[n] = NombreScores[n] + 1;
-            MeilleursScores[n][NombreScores[n]] = l;
+            Jeu().NombreScores[n] = Jeu().NombreScores[n] + 1;
+            Jeu().MeilleursScores[n][Jeu().NombreScores[n]] = l;
         }
     } else {
         ChargeScores();

@@ -3,7 +3,8 @@
 #include "platform/Boites.h"
 #include "platform/Horloge.h"
 #include "results/AffichageScores.h"
-#include "results/FichierEnregistrements.h"
+#include "files/FichierEnregistrements.h"
+#include "files/FichierScores.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
@@ -12,50 +13,34 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
-TLigneScore MeilleursScores[5][11];
-i16 NombreScores[5] = {0, 0, 0, 0, 0};
 i16 NiveauAffiché = 0;
 
-namespace {
-// A step order may be made by hand: a kind twice, or kinds behind a 0, are the file's
-// to say. Only a kind the game hasn't is refused.
-bool OrdreValable(const i16 ordre[5])
-{
-    for (int i = 1; i <= 4; ++i)
-        if (ordre[i] < 0 || ordre[i] > 4)
-            return false;
-    return true;
-}
-} // namespace
 
 void RazScores()
 {
     for (int n = 1; n <= 4; ++n) {
-        NombreScores[n] = 0;
+        Jeu().NombreScores[n] = 0;
         for (int r = 1; r <= 10; ++r) {
-            MeilleursScores[n][r].Points = 0;
-            MeilleursScores[n][r].Nom.clear();
+            Jeu().MeilleursScores[n][r].Points = 0;
+            Jeu().MeilleursScores[n][r].Nom.clear();
         }
     }
 }
 
 QByteArray ContenuScores(bool AvecScores)
 {
-    EcritureEnregistrements f;
-    f.Chaîne(VersionJeu);
-    f.Entier(Langue);
-    f.Entier(4);
-    f.Entier(NombrePlaces);
+    TFichierScores f;
+    f.Version = VersionJeu;
+    f.Langue = Langue;
     for (int i = 1; i <= 4; ++i)
-        f.Entier(Jeu().OrdreEtapes[i]);
+        f.OrdreEtapes[i] = Jeu().OrdreEtapes[i];
     for (int i = 1; i <= NombrePlaces; ++i)
-        f.Entier(Jeu().Cantons[i].Inhibé ? True : False);
-    if (AvecScores)
-        for (int n = 1; n <= 4; ++n)
-            for (int r = 1; r <= NombreScores[n]; ++r)
-                f.LigneScore(MeilleursScores[n][r], static_cast<i16>(n));
-    return f.Octets();
+        f.Inhibé[i] = Jeu().Cantons[i].Inhibé != False;
+    std::copy(&Jeu().MeilleursScores[0][0], &Jeu().MeilleursScores[0][0] + 5 * 11, &f.Lignes[0][0]);
+    std::copy(Jeu().NombreScores, Jeu().NombreScores + 5, f.Nombres);
+    return OctetsScores(f, AvecScores);
 }
 
 bool EcritFichierScores(bool AvecScores)
@@ -70,38 +55,15 @@ bool EcritFichierScores(bool AvecScores)
 
 bool LitScores(const QByteArray &contenu)
 {
-    LectureEnregistrements f(contenu);
-    for (int i = 1; i <= 4; ++i)
-        Jeu().OrdreEtapes[i] = static_cast<TEtape>(i);
-    QString version;
-    i16 langue = 0, places = 0, cantons = 0;
-    if (!f.Chaîne(version) || !f.Entier(langue) || !f.Entier(places) || !f.Entier(cantons))
+    TFichierScores f;
+    if (!LitOctetsScores(contenu, f))
         return false;
-    if (places != 4 || cantons != NombrePlaces)
-        return false;
-    i16 ordre[5] = {0, 0, 0, 0, 0};
     for (int i = 1; i <= 4; ++i)
-        if (!f.Entier(ordre[i]))
-            return false;
-    i16 inhibés[NombrePlaces + 1] = {};
+        Jeu().OrdreEtapes[i] = f.OrdreEtapes[i];
     for (int i = 1; i <= NombrePlaces; ++i)
-        if (!f.Entier(inhibés[i]))
-            return false;
-    if (!OrdreValable(ordre))
-        return false;
-    for (int i = 1; i <= 4; ++i)
-        Jeu().OrdreEtapes[i] = static_cast<TEtape>(ordre[i]);
-    for (int i = 1; i <= NombrePlaces; ++i)
-        Jeu().Cantons[i].Inhibé = Booléen(inhibés[i] != 0);
-
-    while (!f.Fin()) {
-        TLigneScore ligne;
-        i16 n = 0;
-        if (!f.LigneScore(ligne, n) || n < 0 || n > 4 || NombreScores[n] >= 10)
-            return false;
-        NombreScores[n] = NombreScores[n] + 1;
-        MeilleursScores[n][NombreScores[n]] = ligne;
-    }
+        Jeu().Cantons[i].Inhibé = Booléen(f.Inhibé[i]);
+    std::copy(&f.Lignes[0][0], &f.Lignes[0][0] + 5 * 11, &Jeu().MeilleursScores[0][0]);
+    std::copy(f.Nombres, f.Nombres + 5, Jeu().NombreScores);
     return true;
 }
 
@@ -165,25 +127,25 @@ void EnregistreScore()
         Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
         const int niveau = Numéro(Jeu().Niveau);
         int pos = 1;
-        for (int i = 1; i <= NombreScores[niveau]; ++i) {
-            const TLigneScore &l = MeilleursScores[niveau][i];
+        for (int i = 1; i <= Jeu().NombreScores[niveau]; ++i) {
+            const TLigneScore &l = Jeu().MeilleursScores[niveau][i];
             if (l.Points < Jeu().Score || (l.Points == Jeu().Score && l.Durée > Jeu().DuréePartie)) {
                 pos = i;
                 break;
             }
             pos = pos + 1;
         }
-        if (NombreScores[niveau] != 10)
-            NombreScores[niveau] = NombreScores[niveau] + 1;
-        for (int r = NombreScores[niveau]; r > pos; --r)
-            MeilleursScores[niveau][r] = MeilleursScores[niveau][r - 1];
-        if (pos <= NombreScores[niveau]) {
+        if (Jeu().NombreScores[niveau] != 10)
+            Jeu().NombreScores[niveau] = Jeu().NombreScores[niveau] + 1;
+        for (int r = Jeu().NombreScores[niveau]; r > pos; --r)
+            Jeu().MeilleursScores[niveau][r] = Jeu().MeilleursScores[niveau][r - 1];
+        if (pos <= Jeu().NombreScores[niveau]) {
             JoueSon(SonEtape);
             if (Jeu().Score > 0)
                 Boîte(Messages[39], StyleInformation, Messages[40]);
             else
                 Boîte(Messages[41], StyleInformation, Messages[42]);
-            MeilleursScores[niveau][pos] = TLigneScore{Jeu().NomJoueur, Jeu().Score, Jeu().DuréePartie};
+            Jeu().MeilleursScores[niveau][pos] = TLigneScore{Jeu().NomJoueur, Jeu().Score, Jeu().DuréePartie};
             EcritFichierScores(true);
         } else {
             JoueSon(SonPerdu);

@@ -2,7 +2,7 @@
 
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
-#include "results/FichierEnregistrements.h"
+#include "files/FichierEnregistrements.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/ParametrageRepertoires.h"

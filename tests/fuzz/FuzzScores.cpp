@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
     RazScores();
     LitScores(QByteArray(reinterpret_cast<const char *>(octets), qsizetype(taille)));
     for (int n = 0; n <= 4; ++n)
-        if (NombreScores[n] < 0 || NombreScores[n] > 10)
+        if (Jeu().NombreScores[n] < 0 || Jeu().NombreScores[n] > 10)
             std::abort();
     for (int i = 1; i <= 4; ++i)
         if (Jeu().OrdreEtapes[i] < TEtape::Aucune || Jeu().OrdreEtapes[i] > TEtape::Plaques)
@@ -27,6 +27,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
     // What was read writes back without trouble.
     if (ContenuScores(true).size() % 128 != 0)
         std::abort();
-    NombreScores[0] = 0;
+    Jeu().NombreScores[0] = 0;
     return 0;
 }

@@ -69,29 +69,29 @@ protected:
 
 TEST_F(Meilleurs, ThreeLinesShowThreeRowsAndSevenEmptyOnes)
 {
-    NombreScores[2] = 3;
-    MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
-    MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
-    MeilleursScores[2][3] = {QStringLiteral("Lou"), -4321, 42};
-    MeilleursScores[3][1] = {QStringLiteral("Autre niveau"), 7, 7};
+    Jeu().NombreScores[2] = 3;
+    Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
+    Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
+    Jeu().MeilleursScores[2][3] = {QStringLiteral("Lou"), -4321, 42};
+    Jeu().MeilleursScores[3][1] = {QStringLiteral("Autre niveau"), 7, 7};
     EXPECT_EQ(Affiche(2).lignes,
               Lignes({"Zoé|812345|1h02mn05s", "Marc-André Weißmüller|1500|2mn05s", "Lou|-4321|42s"}));
 }
 
 TEST_F(Meilleurs, ALineOfZeroPointsIsAnEmptyRowThoughItCounts)
 {
-    NombreScores[4] = 3;
-    MeilleursScores[4][1] = {QStringLiteral("Ana"), 5000, 300};
-    MeilleursScores[4][2] = {QStringLiteral("Nul"), 0, 77};
-    MeilleursScores[4][3] = {QStringLiteral("Max"), -20, 50};
+    Jeu().NombreScores[4] = 3;
+    Jeu().MeilleursScores[4][1] = {QStringLiteral("Ana"), 5000, 300};
+    Jeu().MeilleursScores[4][2] = {QStringLiteral("Nul"), 0, 77};
+    Jeu().MeilleursScores[4][3] = {QStringLiteral("Max"), -20, 50};
     EXPECT_EQ(Affiche(4).lignes, Lignes({"Ana|5000|5mn00s", "||", "Max|-20|50s"}));
 }
 
 TEST_F(Meilleurs, NoLevelYetAsksThenShowsFacileAndEachLevelHasItsTitle)
 {
     Jeu().Niveau = TNiveau::Aucun; // no game yet in this run: the menu's current level
-    MeilleursScores[1][1] = {QStringLiteral("Ana"), 999, 61};
-    MeilleursScores[2][1] = {QStringLiteral("Pas ici"), 5, 5};
+    Jeu().MeilleursScores[1][1] = {QStringLiteral("Ana"), 999, 61};
+    Jeu().MeilleursScores[2][1] = {QStringLiteral("Pas ici"), 5, 5};
     const Vu v = Affiche(Numéro(Jeu().Niveau));
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(v.boîtesAvant, 1u) << "the box comes before the list";

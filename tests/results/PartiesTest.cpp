@@ -110,8 +110,8 @@ TEST_F(Sauvegarde, TheScoreFileComesBackExactlyOrTheGameIsNotSaved)
     for (const Cas &c : {Cas{loin, loin, true}, Cas{long_, long_, true}, Cas{loin, ".", false}, Cas{long_, ".", false}}) {
         QDir(dossier.path()).mkdir(c.scores);
         FichierLancement = dossier.filePath(c.scores + "/KELMOR.SCS");
-        NombreScores[2] = 1;
-        MeilleursScores[2][1] = {"Ola", 5, 5};
+        Jeu().NombreScores[2] = 1;
+        Jeu().MeilleursScores[2][1] = {"Ola", 5, 5};
         ASSERT_TRUE(EcritFichierScores(true));
         const QString chemin = dossier.filePath(c.partie + "/p.CAS"), avant = FichierLancement;
         boîtes.journal.clear();
@@ -123,7 +123,7 @@ TEST_F(Sauvegarde, TheScoreFileComesBackExactlyOrTheGameIsNotSaved)
             continue;
         ASSERT_TRUE(LitPartie(chemin));
         EXPECT_EQ(FichierLancement, avant);
-        EXPECT_EQ(MeilleursScores[2][1].Nom, "Ola");
+        EXPECT_EQ(Jeu().MeilleursScores[2][1].Nom, "Ola");
         QFile::remove(chemin);
     }
 }
@@ -134,11 +134,11 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
     RépondJuste();
     FichierLancement = "~tmp.~cf";
     Jeu().OrdreEtapes[1] = TEtape::Cantons; Jeu().OrdreEtapes[2] = TEtape::Plaques; Jeu().OrdreEtapes[3] = TEtape::Aucune; Jeu().OrdreEtapes[4] = TEtape::Aucune;
-    NombreScores[2] = 2;
-    MeilleursScores[2][1] = {"A", 10, 1};
-    MeilleursScores[2][2] = {"B", 5, 2};
-    NombreScores[4] = 1;
-    MeilleursScores[4][1] = {"C", 3, 3};
+    Jeu().NombreScores[2] = 2;
+    Jeu().MeilleursScores[2][1] = {"A", 10, 1};
+    Jeu().MeilleursScores[2][2] = {"B", 5, 2};
+    Jeu().NombreScores[4] = 1;
+    Jeu().MeilleursScores[4][1] = {"C", 3, 3};
     const QByteArray o = ContenuPartie();
     EXPECT_EQ(o.size(), (295 + 5 + 3) * 128);
     EXPECT_EQ(std::vector<int>({Entier(o, 4), Entier(o, 5), Entier(o, 8), Entier(o, 12)}), std::vector<int>({1, 4, 3, 1}))
@@ -148,8 +148,8 @@ TEST_F(Sauvegarde, AnUnsavedParameterSetTravelsInTheFile)
     RazScores();
     ASSERT_TRUE(RestaurePartie(o));
     EXPECT_EQ(Jeu().OrdreEtapes[2], TEtape::Plaques);
-    EXPECT_EQ(NombreScores[2], 2);
-    EXPECT_EQ(MeilleursScores[4][1].Nom, "C");
+    EXPECT_EQ(Jeu().NombreScores[2], 2);
+    EXPECT_EQ(Jeu().MeilleursScores[4][1].Nom, "C");
     for (int k = 1; k <= 4; ++k)
         Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
 }

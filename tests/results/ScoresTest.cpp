@@ -86,11 +86,11 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
 {
     Jeu().OrdreEtapes[1] = TEtape::ChefsLieux; Jeu().OrdreEtapes[2] = TEtape::Drapeaux; Jeu().OrdreEtapes[3] = TEtape::Aucune; Jeu().OrdreEtapes[4] = TEtape::Aucune;
     Jeu().Cantons[5].Inhibé = True;
-    NombreScores[2] = 2;
-    MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 999998, 125};
-    MeilleursScores[2][2] = {"Max", -432773, 3725};
-    NombreScores[4] = 1;
-    MeilleursScores[4][1] = {QString::fromUtf8("Jürg"), 12, 0};
+    Jeu().NombreScores[2] = 2;
+    Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 999998, 125};
+    Jeu().MeilleursScores[2][2] = {"Max", -432773, 3725};
+    Jeu().NombreScores[4] = 1;
+    Jeu().MeilleursScores[4][1] = {QString::fromUtf8("Jürg"), 12, 0};
     ASSERT_TRUE(EcritFichierScores(true));
     const QByteArray attendu =
         Octets{}.Tête(2, 3, 0, 0, {5}).Ligne("Zo\xE9", 999998, 125, 2).Ligne("Max", -432773, 3725, 2).Ligne("J\xFCrg", 12, 0, 4).o;
@@ -105,9 +105,9 @@ TEST_F(Store, WrittenByteByByteAndReadFromBytesBuiltByHand)
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
     EXPECT_EQ(std::vector<int>({Numéro(Jeu().OrdreEtapes[1]), Numéro(Jeu().OrdreEtapes[2]), Numéro(Jeu().OrdreEtapes[3]), Jeu().Cantons[3].Inhibé, Jeu().Cantons[26].Inhibé,
-                                Jeu().Cantons[4].Inhibé, NombreScores[1], MeilleursScores[1][2].Durée, NombreScores[3]}),
+                                Jeu().Cantons[4].Inhibé, Jeu().NombreScores[1], Jeu().MeilleursScores[1][2].Durée, Jeu().NombreScores[3]}),
               std::vector<int>({4, 1, 0, True, True, False, 2, 70, 1}));
-    EXPECT_EQ(MeilleursScores[1][2].Nom, "Ben");
+    EXPECT_EQ(Jeu().MeilleursScores[1][2].Nom, "Ben");
     EXPECT_EQ(FichierLancement, dossier.filePath("KELMOR.SCS"));
 
     // Orders made by hand: a kind twice, a kind behind a 0.
@@ -124,7 +124,7 @@ TEST_F(Store, AnotherMinorVersionIsReadAnotherMajorRefused)
     Ecrit(Octets{}.Tête(1, 2, 3, 4, {}, "Version 6.12 du 01/02/2011", 2).Ligne("Lou", 9, 9, 2).o);
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(NombreScores[2], 1);
+    EXPECT_EQ(Jeu().NombreScores[2], 1);
 
     Ecrit(Octets{}.Tête(1, 2, 3, 4, {}, "Version 7.12 du 01/02/2011", 2).Ligne("Lou", 9, 9, 2).o);
     const QString nom = FichierLancement;
@@ -133,7 +133,7 @@ TEST_F(Store, AnotherMinorVersionIsReadAnotherMajorRefused)
     EXPECT_EQ(boîtes.journal[0].texte, nom + " : " + Messages[27]);
     EXPECT_EQ(boîtes.journal[0].titre, "Erreur de format");
     EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-    EXPECT_EQ(NombreScores[2], 0);
+    EXPECT_EQ(Jeu().NombreScores[2], 0);
     EXPECT_EQ(FichierLancement, ComposeChemin(RépertoireSauvegarde, "KELMOR.SCS"));
 }
 
@@ -166,14 +166,14 @@ TEST_F(Store, DamagedFilesFallBackToTheDefaultSet)
         EXPECT_EQ(Jeu().OrdreEtapes[4], TEtape::Plaques);
         for (int i = 1; i <= 26; ++i)
             EXPECT_EQ(Jeu().Cantons[i].Inhibé, False);
-        EXPECT_EQ(NombreScores[3], 1);
+        EXPECT_EQ(Jeu().NombreScores[3], 1);
     }
     // No file at all: no message, nothing created.
     FichierLancement = dossier.filePath("absent.SCS");
     boîtes.journal.clear();
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(MeilleursScores[3][1].Nom, "Def");
+    EXPECT_EQ(Jeu().MeilleursScores[3][1].Nom, "Def");
     EXPECT_FALSE(QFile::exists(dossier.filePath("absent.SCS")));
 }
 
@@ -187,8 +187,8 @@ TEST_F(Store, RankingIntoTheBestTen)
     EXPECT_EQ(FormesMontrées().back(), "AffichageScores");
     EXPECT_EQ(NiveauAffiché, 2);
     EXPECT_TRUE(Jeu().ScoresFinPartie);
-    ASSERT_EQ(NombreScores[2], 10);
-    EXPECT_EQ(MeilleursScores[2][1].Points, 590);
+    ASSERT_EQ(Jeu().NombreScores[2], 10);
+    EXPECT_EQ(Jeu().MeilleursScores[2][1].Points, 590);
 
     const QByteArray avant = Lit();
     Termine(2, 499, 10); // an eleventh below the tenth: nothing changes, the list shows all the same
@@ -196,25 +196,25 @@ TEST_F(Store, RankingIntoTheBestTen)
     Termine(2, 500, 100); // equal in points and length: the older line stays
     EXPECT_EQ(boîtes.journal[0].texte, Messages[43]);
     EXPECT_EQ(Lit(), avant);
-    EXPECT_EQ(MeilleursScores[2][10].Points, 500);
+    EXPECT_EQ(Jeu().MeilleursScores[2][10].Points, 500);
     Termine(2, 500, 99); // equal in points, shorter: takes the tenth place
-    EXPECT_EQ(MeilleursScores[2][10].Durée, 99);
+    EXPECT_EQ(Jeu().MeilleursScores[2][10].Durée, 99);
     EXPECT_NE(Lit(), avant);
     Termine(2, 555, 50);
-    EXPECT_EQ(std::vector<int>({MeilleursScores[2][5].Points, MeilleursScores[2][6].Points, MeilleursScores[2][10].Points}),
+    EXPECT_EQ(std::vector<int>({Jeu().MeilleursScores[2][5].Points, Jeu().MeilleursScores[2][6].Points, Jeu().MeilleursScores[2][10].Points}),
               std::vector<int>({555, 550, 510}));
 
     // Negative, across midnight.
     Termine(3, -432773, 500, 86000);
-    EXPECT_EQ(MeilleursScores[3][1].Points, -432773);
-    EXPECT_EQ(MeilleursScores[3][1].Durée, 500);
+    EXPECT_EQ(Jeu().MeilleursScores[3][1].Points, -432773);
+    EXPECT_EQ(Jeu().MeilleursScores[3][1].Durée, 500);
     EXPECT_EQ(boîtes.journal.back().texte, Messages[41]);
     // Apprentissage keeps no score.
     boîtes.journal.clear();
     Jeu().ScoreGelé = True;
     Jeu().Niveau = TNiveau::Facile;
     EnregistreScore();
-    EXPECT_EQ(NombreScores[1], 0);
+    EXPECT_EQ(Jeu().NombreScores[1], 0);
     EXPECT_EQ(boîtes.journal.at(0).texte, Messages[44]);
     EXPECT_TRUE(Jeu().PartieEnregistrée);
 }
@@ -226,7 +226,7 @@ TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
     boîtes.réponses = {RéponseOui};
     ConfirmeRazScores();
     EXPECT_EQ(boîtes.journal.back().style, StyleQuestion);
-    EXPECT_EQ(NombreScores[1], 0);
+    EXPECT_EQ(Jeu().NombreScores[1], 0);
     EXPECT_EQ(Lit(), Octets{}.Tête(3, 1, 0, 0).o);
 
     FichierLancement = dossier.filePath("nulle/part/KELMOR.SCS");
@@ -234,7 +234,7 @@ TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
     ASSERT_GE(boîtes.journal.size(), 2u);
     EXPECT_TRUE(boîtes.journal[1].texte.startsWith(Messages[134]));
     EXPECT_TRUE(boîtes.journal[1].texte.contains(Messages[147]));
-    EXPECT_EQ(NombreScores[4], 1);
+    EXPECT_EQ(Jeu().NombreScores[4], 1);
 }
 
 } // namespace

@@ -86,8 +86,8 @@ TEST_F(Parametrage, TheGridKeepsOneKindPerRankNoGapAndAFirstRank)
 
 TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
 {
-    NombreScores[1] = 1;
-    MeilleursScores[1][1] = {"Ancien", 900000, 60};
+    Jeu().NombreScores[1] = 1;
+    Jeu().MeilleursScores[1][1] = {"Ancien", 900000, 60};
     DéfinitParamétrage();
     // Two red dots, one flipped back: only Zoug stays out. One step of plates.
     for (int c : {25, 3, 3})
@@ -110,7 +110,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
     EXPECT_EQ(FichierLancement, dossier.filePath("plaques.SCS"));
     EXPECT_EQ(Jeu().Cantons[25].Inhibé, True);
     EXPECT_EQ(Jeu().Cantons[3].Inhibé, False);
-    EXPECT_EQ(NombreScores[1], 0);
+    EXPECT_EQ(Jeu().NombreScores[1], 0);
     QFile f(FichierLancement);
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_EQ(f.size(), 34 * 128) << "the set alone, without lists";
@@ -151,7 +151,7 @@ TEST_F(Parametrage, AnUnsavedSetReplacesTheTemporaryFileAndEmptiesTheLists)
     ASSERT_TRUE(vieux.open(QIODevice::WriteOnly));
     vieux.write("vieux");
     vieux.close();
-    NombreScores[2] = 1;
+    Jeu().NombreScores[2] = 1;
     DéfinitParamétrage();
     TraiteClic(7, 1, 1);
     Principal().Bouton[17]->setChecked(false);
@@ -163,7 +163,7 @@ TEST_F(Parametrage, AnUnsavedSetReplacesTheTemporaryFileAndEmptiesTheLists)
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(FichierLancement, "~tmp.~cf");
-    EXPECT_EQ(NombreScores[2], 0);
+    EXPECT_EQ(Jeu().NombreScores[2], 0);
     EXPECT_EQ(QFileInfo(dossier.filePath("~tmp.~cf")).size(), 34 * 128);
 }
 

@@ -1,7 +1,6 @@
-#include "results/FichierEnregistrements.h"
+#include "files/FichierEnregistrements.h"
 
 #include "platform/Ansi.h"
-#include "results/Scores.h"
 
 #include <QFile>
 #include <QSaveFile>

@@ -1,12 +1,10 @@
 #pragma once
-#include <type_traits>
 // The record file of scores and saved games: 128-byte records with one value at
 // the start of each, little-endian, text in Windows-1252.
-#include "engine/communs.h"
+#include "engine/Partie.h"
 
 #include <QByteArray>
-
-struct TLigneScore;
+#include <type_traits>
 
 constexpr int TailleEnregistrement = 128;
 // A String's text must fit its record with its length.
