@@ -1,7 +1,7 @@
 #pragma once
 // This game's own part: the size and filling of the canton table, and the
 // fourth step kind, the plate letters, which the common code doesn't know.
-#include "engine/communs.h"
+#include "engine/Partie.h"
 
 void InitialisationSpécifique();
 void CorrectionZone(i16 &c);
