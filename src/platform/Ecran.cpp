@@ -6,6 +6,10 @@
 #include <QScreen>
 #include <QWidget>
 
+int LargeurEcran = 0;
+int HauteurEcran = 0;
+int BasZoneTravail = 0;
+
 namespace {
 std::optional<InfoEcran> écranSimulé;
 int pointeur = PointeurNormal;

@@ -18,6 +18,10 @@ InfoEcran MesureEcran();
 // A simulated screen for tests; std::nullopt puts the real one back.
 void InstalleEcran(std::optional<InfoEcran> écran);
 
+// The screen in pixels as the last form measured it, and the bottom of its work area.
+extern int LargeurEcran, HauteurEcran;
+extern int BasZoneTravail;
+
 // A window's own geometry is counted in twips, 15 to the pixel.
 constexpr int TwipsPerPixelX = 15;
 constexpr int TwipsPerPixelY = 15;

@@ -21,3 +21,11 @@ int ExécuteModal(QDialog &forme)
 }
 
 void InstalleFormesModales(std::function<int(QDialog &)> script) { scriptModal = std::move(script); }
+
+namespace {
+QWidget *principale = nullptr;
+} // namespace
+
+QWidget *FenêtrePrincipale() { return principale; }
+
+void InstalleFenêtrePrincipale(QWidget *fenêtre) { principale = fenêtre; }

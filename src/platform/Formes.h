@@ -6,6 +6,11 @@
 #include <vector>
 
 class QDialog;
+class QWidget;
+
+// The program's main window, the parent of its dialogs; nullptr before it is made.
+QWidget *FenêtrePrincipale();
+void InstalleFenêtrePrincipale(QWidget *fenêtre);
 
 // A fixed dialog's frame: its title and close box, no minimise, maximise or help button.
 inline constexpr Qt::WindowFlags CadreDialogueFixe =

@@ -77,7 +77,7 @@ void LanceRévision()
 void AfficheAide()
 {
     // The general topic, whatever the panel shows; the form keeps it afterwards.
-    Principal().HelpContextID = 10;
+    Principal().setHelpContextID(10);
     OuvreAide(10);
 }
 

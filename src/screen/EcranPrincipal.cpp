@@ -4,6 +4,7 @@
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "platform/Ecran.h"
+#include "platform/Formes.h"
 #include "platform/Horloge.h"
 #include "platform/Images.h"
 #include "results/Resultats.h"
@@ -24,11 +25,7 @@
 #include <QFileInfo>
 #include <QLayout>
 #include <QMenuBar>
-#include <QTextEdit>
 
-int LargeurEcran = 0;
-int HauteurEcran = 0;
-int BasZoneTravail = 0;
 i16 HauteurVignette = 188;
 i16 LargeurVignette = 200;
 short HauteurFenêtre = 0;
@@ -101,6 +98,8 @@ int IndiceEcranPrincipal()
 EcranPrincipal::EcranPrincipal()
 {
     forme = this;
+    InstalleFenêtrePrincipale(this);
+    setProperty("HelpContextID", 10);
     setObjectName(QStringLiteral("EcranPrincipal"));
     setWindowTitle(QStringLiteral("Les cantons kelmors"));
     // A fixed window: its close box, and neither minimise nor maximise.
@@ -226,9 +225,6 @@ EcranPrincipal::EcranPrincipal()
     BTN[1]->hide();
     BTN[2]->hide();
 
-    RichTextBox1 = new QTextEdit(surface);
-    RichTextBox1->setGeometry(16, 336, 25, 25);
-    RichTextBox1->hide();
 
     for (int i : {11, 12, 15, 16})
         Bouton[i]->setProperty("HelpContextID", 65);
@@ -241,6 +237,7 @@ EcranPrincipal::~EcranPrincipal()
 {
     if (forme == this) {
         forme = nullptr;
+        InstalleFenêtrePrincipale(nullptr);
         InstalleVueEcran(false);
     }
 }

@@ -10,8 +10,6 @@
 
 class QAction;
 class QMenu;
-class QTextEdit;
-class QNetworkAccessManager;
 
 class EcranPrincipal : public QMainWindow {
 public:
@@ -30,7 +28,9 @@ public:
     // The client area in pixels.
     int ScaleWidth() const;
     int ScaleHeight() const;
-    int HelpContextID = 10;
+    // The help page F1 opens: 10 in a game, 65 in parameterisation.
+    int HelpContextID() const { return property("HelpContextID").toInt(); }
+    void setHelpContextID(int contexte) { setProperty("HelpContextID", contexte); }
 
     // Map, children of Carte.
     BoîteImage *Carte;
@@ -60,9 +60,6 @@ public:
     std::array<CaseACocher *, 19> Bouton{}; // 1..18
     std::array<QPushButton *, 3> BTN{};     // 1..2
 
-    // Used only by the update check.
-    QTextEdit *RichTextBox1;
-    QNetworkAccessManager *Inet1 = nullptr; // made at the first look for new versions
 
     // Menus.
     QMenu *MenuFichier, *MenuParamétrer, *MenuScores, *MenuLangue;
@@ -103,8 +100,6 @@ bool Form_Unload();
 void ChargeEcranPrincipal();
 
 // Screen fit and scrolling.
-extern int LargeurEcran, HauteurEcran;
-extern int BasZoneTravail;
 // The size of the question's picture frame, read at load before a question changes it.
 extern i16 HauteurVignette, LargeurVignette;
 extern short HauteurFenêtre, LargeurFenêtre;

@@ -45,7 +45,7 @@ void MenusDeJeu(bool actifs)
 // What the four commands share once the step is set.
 void SéquenceEntrée()
 {
-    Principal().HelpContextID = 65;
+    Principal().setHelpContextID(65);
     DébutEtape();
     AffichePanneau();
     Jeu().PartieVierge = True;

@@ -147,7 +147,7 @@ void LanceNouvellePartie()
 {
     if (!ConfirmeArrêt())
         return;
-    Principal().HelpContextID = 10;
+    Principal().setHelpContextID(10);
     MontreNouvellePartie();
     Jeu().RangEtape = 1;
     DébutEtape();

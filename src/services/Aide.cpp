@@ -1,6 +1,6 @@
 #include "services/Aide.h"
 
-#include "screen/EcranPrincipal.h"
+#include "platform/Formes.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
 
@@ -46,14 +46,15 @@ QString PageAide(int contexte)
 
 int ContexteDe(QWidget *contrôle)
 {
+    // The control's own context, or that of the first form or control above it.
     for (QWidget *w = contrôle; w; w = w->parentWidget()) {
-        if (w == FormePrincipale())
-            return FormePrincipale()->HelpContextID;
         const int c = w->property("HelpContextID").toInt();
         if (c > 0)
             return c;
     }
-    return FormePrincipale() ? FormePrincipale()->HelpContextID : 10;
+    const QWidget *principale = FenêtrePrincipale();
+    const int c = principale ? principale->property("HelpContextID").toInt() : 0;
+    return c > 0 ? c : 10;
 }
 
 void OuvreAide(int contexte)

@@ -3,7 +3,6 @@
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
-#include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
@@ -52,14 +51,8 @@ int AnnéeComplète(const QString &chiffres)
 QNetworkAccessManager *GestionnaireRéseau()
 {
     // Made at the first look at the page, not at start: most runs never fetch it.
-    if (EcranPrincipal *forme = FormePrincipale()) {
-        if (!forme->Inet1)
-            forme->Inet1 = new QNetworkAccessManager(forme);
-        return forme->Inet1;
-    }
-    // Before the main form exists, or without one.
-    static QNetworkAccessManager *seul = new QNetworkAccessManager(QCoreApplication::instance());
-    return seul;
+    static QNetworkAccessManager *gestionnaire = new QNetworkAccessManager(QCoreApplication::instance());
+    return gestionnaire;
 }
 } // namespace
 
@@ -334,8 +327,6 @@ void ChercheVersions()
 {
     // A page that can't be had counts as one without any game: the reminder tells what is known.
     const QString page = ChargePage();
-    if (EcranPrincipal *forme = FormePrincipale())
-        forme->RichTextBox1->setPlainText(page);
     LitListePage(page);
     SauveMisesAJour();
     ExploreJeux();

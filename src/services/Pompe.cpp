@@ -3,6 +3,7 @@
 #include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "engine/specifiques.h"
+#include "platform/Ecran.h"
 #include "platform/Formes.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Fiches.h"

@@ -134,7 +134,7 @@ TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
     InstalleAide([&](int c) { ouverts.push_back(c); });
     auto &E = Principal();
     Tape(E, nullptr, Qt::Key_F1);
-    E.HelpContextID = 65; // as after a parameterisation command
+    E.setHelpContextID(65); // as after a parameterisation command
     for (int b : {3, 11})
         E.Bouton[b]->show(), Tape(E, E.Bouton[b], Qt::Key_F1);
     E.MenuAide->trigger();

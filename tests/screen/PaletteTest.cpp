@@ -2,6 +2,7 @@
 #include "Fixtures.h"
 
 #include "engine/communs.h"
+#include "platform/Ecran.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Palette.h"
 

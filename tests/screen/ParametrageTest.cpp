@@ -142,7 +142,7 @@ TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChan
     EXPECT_FALSE(Principal().Bouton[3]->isEnabled());
     EXPECT_TRUE(Principal().BTN[1]->isHidden());
     EXPECT_EQ(Principal().LBLParam[2]->text(), Messages[70]);
-    EXPECT_EQ(Principal().HelpContextID, 65);
+    EXPECT_EQ(Principal().HelpContextID(), 65);
 }
 
 TEST_F(Parametrage, AnUnsavedSetReplacesTheTemporaryFileAndEmptiesTheLists)
