@@ -2,6 +2,7 @@
 // a click judged with the map repainted.
 #include "Doublures.h"
 #include "engine/communs.h"
+#include "screen/Etiquettes.h"
 #include "screen/VueJeu.h"
 #include "platform/Boites.h"
 #include "platform/Horloge.h"

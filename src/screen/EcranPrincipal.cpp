@@ -1,3 +1,4 @@
+#include "screen/Etiquettes.h"
 #include "screen/EcranPrincipal.h"
 
 #include "results/Parties.h"

@@ -1,3 +1,4 @@
+#include "screen/Etiquettes.h"
 #include "screen/VueJeu.h"
 
 #include "results/Parties.h"

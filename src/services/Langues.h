@@ -1,5 +1,5 @@
 #pragma once
-// The messages of the language in use, and the change of language at any moment.
+// The messages of the language in use.
 #include <QString>
 #include <vector>
 
@@ -17,9 +17,8 @@ extern std::vector<QString> CheminsInfo;
 extern QString FichierAide;               // the help file of the language in use
 
 void ChargeChaînes();
-void ChargeImagesPays();
-void EtiquetteEcran();
-void ChangeLangue(int n);
+// The messages of Langue, Qt's own words in the dialogs too.
+void ChargeMessages();
 
 // The name picture of canton k in language l, as the hidden form of names holds it.
 QString NomImagePays(int k, int langue);
