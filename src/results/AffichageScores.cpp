@@ -6,7 +6,6 @@
 #include "platform/Images.h"
 #include "results/Scores.h"
 #include "results/Stats.h"
-#include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 
 #include <QFontMetrics>
@@ -64,7 +63,7 @@ void AjusteColonne(const std::array<::Etiquette *, 11> &colonne)
 
 } // namespace
 
-AffichageScores::AffichageScores() : QDialog(FormePrincipale(), CadreDialogueFixe)
+AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("AffichageScores"));
     setFixedSize(9075 / TwipsPerPixelX, 5595 / TwipsPerPixelY);

@@ -14,7 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-NouvellePartie::NouvellePartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
+NouvellePartie::NouvellePartie() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("NouvellePartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4545 / TwipsPerPixelY);

@@ -40,7 +40,7 @@ QString SansSéparateurFinal(QString d)
 }
 } // namespace
 
-SélectionPartie::SélectionPartie() : QDialog(FormePrincipale(), CadreDialogueFixe)
+SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("SélectionPartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);

@@ -5,7 +5,6 @@
 #include "platform/Ecran.h"
 #include "platform/Formes.h"
 #include "platform/Images.h"
-#include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
@@ -85,7 +84,7 @@ QColor CouleurAbsence(i16 k)
     return CouleurNeutre();
 }
 
-Stats::Stats() : QDialog(FormePrincipale(), CadreDialogueFixe)
+Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("Stats"));
     setFixedSize(8250 / TwipsPerPixelX, 7125 / TwipsPerPixelY);

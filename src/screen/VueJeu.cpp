@@ -546,11 +546,10 @@ public:
                 y = static_cast<i16>(Jeu().Cantons[c].VilleHaut + E.RondVille->Height() / 2);
             }
             ::PlaceRond(c, true, x, y);
-            MontrePompe();
-            ::PlaceRond(c);
-            return;
         }
         MontrePompe();
+        // The card's target goes with it.
+        ::PlaceRond(c);
     }
     void EnregistreScore() override { ::EnregistreScore(); }
 };

@@ -29,7 +29,7 @@ BoutonGraphique *BoutonFlèche(QWidget *parent, const QString &image, int gauche
 int Moitié(int n) { return n >= 0 ? n / 2 : -((-n + 1) / 2); }
 } // namespace
 
-Edition::Edition() : QDialog(FormePrincipale())
+Edition::Edition() : QDialog(FenêtrePrincipale())
 {
     setObjectName(QStringLiteral("Edition"));
     // A title and no close box.

@@ -3,7 +3,6 @@
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"
-#include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
@@ -43,7 +42,7 @@ bool Listable(const QString &dossier)
 }
 } // namespace
 
-ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FormePrincipale(), CadreDialogueFixe)
+ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("ParamétrageRépertoires"));
     setFixedSize(284, 345);

@@ -3,7 +3,6 @@
 #include "platform/Controles.h"
 #include "platform/Ecran.h"
 #include "platform/Images.h"
-#include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 
 #include <QCloseEvent>

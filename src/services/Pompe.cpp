@@ -1,6 +1,5 @@
 #include "services/Pompe.h"
 
-#include "screen/VueJeu.h"
 #include "engine/communs.h"
 #include "engine/specifiques.h"
 #include "platform/Ecran.h"
@@ -88,7 +87,7 @@ TPlaceFiche PlaceFiche(int x, int w, int s, int h, int W, int bas, int cadre, in
     return p;
 }
 
-Pompe::Pompe() : QDialog(FormePrincipale())
+Pompe::Pompe() : QDialog(FenêtrePrincipale())
 {
     setObjectName(QStringLiteral("Pompe"));
     // A small fixed window with a title and a close box.
@@ -161,6 +160,4 @@ void MontrePompe()
         Pompe forme;
         ExécuteModal(forme);
     }
-    // The card's target goes with it.
-    PlaceRond(Jeu().CantonFiche);
 }

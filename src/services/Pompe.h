@@ -41,5 +41,5 @@ struct TPlaceFiche {
 };
 TPlaceFiche PlaceFiche(int x, int w, int s, int h, int W, int bas, int cadre, int hauteurMinimale);
 
-// The card of canton CantonFiche, shown modally; its dot is put back at rest afterwards.
+// The card of canton CantonFiche, shown modally.
 void MontrePompe();
