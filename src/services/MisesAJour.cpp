@@ -4,7 +4,7 @@
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
 #include "services/Langues.h"
-#include "services/Parametres.h"
+#include "services/Reglages.h"
 #include "services/Registre.h"
 #include "services/TableChaines.h"
 

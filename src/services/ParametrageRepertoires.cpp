@@ -5,7 +5,7 @@
 #include "platform/Formes.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
-#include "services/Parametres.h"
+#include "services/Reglages.h"
 #include "services/Registre.h"
 
 #include <QComboBox>

@@ -12,16 +12,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
-QString RépertoireApplication;
-QString RépertoireSauvegarde;
-QString RépertoireInfo;
-QString FichierLancement;
-QString VersionJeu;
-bool ParamètresLus = false;
 
 namespace {
-QString dossierInstallé;
-std::function<QDateTime()> maintenantScripté;
 
 const QString Version = QStringLiteral("version");
 const QString Date = QStringLiteral("date");
@@ -100,19 +92,6 @@ void MessageCléImpossible()
 }
 } // namespace
 
-QString DossierProgramme()
-{
-    QString d = dossierInstallé.isEmpty() ? QCoreApplication::applicationDirPath() : dossierInstallé;
-    while (d.size() > 1 && d.endsWith(SéparateurChemin))
-        d.chop(1);
-    return d;
-}
-
-void InstalleDossierProgramme(const QString &dossier) { dossierInstallé = dossier; }
-
-QDateTime Maintenant() { return maintenantScripté ? maintenantScripté() : QDateTime::currentDateTime(); }
-
-void InstalleMaintenant(std::function<QDateTime()> maintenant) { maintenantScripté = std::move(maintenant); }
 
 void DossiersParDéfaut()
 {

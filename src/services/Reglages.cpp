@@ -1,0 +1,31 @@
+#include "services/Reglages.h"
+
+#include "services/Chemins.h"
+
+#include <QCoreApplication>
+
+QString RépertoireApplication;
+QString RépertoireSauvegarde;
+QString RépertoireInfo;
+QString FichierLancement;
+QString VersionJeu;
+bool ParamètresLus = false;
+
+namespace {
+QString dossierInstallé;
+std::function<QDateTime()> maintenantScripté;
+} // namespace
+
+QString DossierProgramme()
+{
+    QString d = dossierInstallé.isEmpty() ? QCoreApplication::applicationDirPath() : dossierInstallé;
+    while (d.size() > 1 && d.endsWith(SéparateurChemin))
+        d.chop(1);
+    return d;
+}
+
+void InstalleDossierProgramme(const QString &dossier) { dossierInstallé = dossier; }
+
+QDateTime Maintenant() { return maintenantScripté ? maintenantScripté() : QDateTime::currentDateTime(); }
+
+void InstalleMaintenant(std::function<QDateTime()> maintenant) { maintenantScripté = std::move(maintenant); }
