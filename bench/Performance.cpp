@@ -10,6 +10,7 @@
 #include "results/Parties.h"
 #include "results/Resultats.h"
 #include "results/Scores.h"
+#include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"

@@ -2,6 +2,7 @@
 // A game on the offscreen main form, with every service of the desktop scripted.
 #include "Doublures.h"
 #include "results/Parties.h"
+#include "screen/Chargement.h"
 #include "screen/Etiquettes.h"
 #include "screen/VueJeu.h"
 

@@ -7,6 +7,7 @@
 #include "platform/Horloge.h"
 #include "results/Parties.h"
 #include "results/Scores.h"
+#include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Parametrage.h"
 #include "services/Chemins.h"

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <array>
+#include <functional>
 
 class QAction;
 class QMenu;
@@ -79,9 +80,12 @@ protected:
     void changeEvent(QEvent *e) override;
     void closeEvent(QCloseEvent *e) override;
 
+public:
+    // Asked before the window closes; false keeps it open.
+    std::function<bool()> ÀLaFermeture;
+
 private:
     void ConstruitMenus();
-    void Relie();
     bool premierAffichage = true;
 };
 
@@ -92,21 +96,3 @@ EcranPrincipal &Principal();
 QSize TaillePays(int i);
 // Index of the form named "EcranPrincipal" among the top-level forms, -1 if none.
 int IndiceEcranPrincipal();
-
-void Form_Load();
-void Form_Activate();
-// False keeps the window open.
-bool Form_Unload();
-void ChargeEcranPrincipal();
-
-// Screen fit and scrolling.
-// The size of the question's picture frame, read at load before a question changes it.
-extern i16 HauteurVignette, LargeurVignette;
-extern short HauteurFenêtre, LargeurFenêtre;
-struct TRectangle { int Left = 0, Top = 0, Right = 0, Bottom = 0; };
-extern TRectangle RectangleEcran;
-void AjusteCarte();
-void AjusteEcran();
-void MesureCarte();
-void BarreH_Change();
-void BarreV_Change();

@@ -5,6 +5,7 @@
 #include "results/Parties.h"
 #include "results/Scores.h"
 #include "results/SelectionPartie.h"
+#include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"

@@ -8,6 +8,7 @@
 #include "platform/Ecran.h"
 #include "results/Resultats.h"
 #include "screen/Commandes.h"
+#include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Parametrage.h"
 #include "services/Langues.h"
@@ -136,6 +137,7 @@ bool Main()
     AffichePatience();
     PointeurEcran(PointeurSablier);
     auto *forme = new EcranPrincipal();
+    RelieEcranPrincipal(*forme);
     Form_Load();
     forme->show();
     if (Langue != 1)

@@ -5,6 +5,7 @@
 #include "platform/Formes.h"
 #include "results/Parties.h"
 #include "results/Scores.h"
+#include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
@@ -28,7 +29,7 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
     RépertoireApplication = dossier.path();
     LitParamètres();
-    new EcranPrincipal();
+    RelieEcranPrincipal(*new EcranPrincipal());
     Form_Load();
     return 0;
 }
