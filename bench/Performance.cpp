@@ -11,6 +11,8 @@
 #include "results/Resultats.h"
 #include "results/Scores.h"
 #include "screen/Chargement.h"
+#include "screen/Commandes.h"
+#include "screen/Relie.h"
 #include "screen/EcranPrincipal.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"

@@ -3,6 +3,8 @@
 #include "Doublures.h"
 #include "results/Parties.h"
 #include "screen/Chargement.h"
+#include "screen/Relie.h"
+#include "screen/Commandes.h"
 #include "screen/Etiquettes.h"
 #include "screen/VueJeu.h"
 

@@ -6,9 +6,7 @@
 #include "engine/specifiques.h"
 #include "platform/Ecran.h"
 #include "platform/Horloge.h"
-#include "results/Parties.h"
 #include "results/Resultats.h"
-#include "screen/Commandes.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Etiquettes.h"
 #include "screen/Parametrage.h"
@@ -24,32 +22,10 @@
 #include <QFileInfo>
 #include <QLayout>
 
-i16 HauteurVignette = 188;
-i16 LargeurVignette = 200;
 short HauteurFenêtre = 0;
 short LargeurFenêtre = 0;
 TRectangle RectangleEcran;
 
-void RelieEcranPrincipal(EcranPrincipal &E)
-{
-    for (int i = 0; i < 1; ++i)
-        E.ImageRégion[i]->Click = [i] { CliqueCarte(i); };
-    for (int i = 1; i <= NombrePlaces; ++i)
-        E.inv[i]->Click = [i] { CliqueCarte(Jeu().Cantons[i].Région); };
-    QObject::connect(E.BarreH, &QScrollBar::valueChanged, &E, [] { BarreH_Change(); });
-    QObject::connect(E.BarreV, &QScrollBar::valueChanged, &E, [] { BarreV_Change(); });
-    QObject::connect(E.BoutonPasse, &QToolButton::clicked, &E, [] { BoutonPasse_Click(); });
-    QObject::connect(E.BoutonGruge, &QToolButton::clicked, &E, [] { BoutonGruge_Click(); });
-    // A check box's change, by the player or by the program, runs its rule at once.
-    for (int k = 1; k <= 18; ++k)
-        QObject::connect(E.Bouton[k], &QCheckBox::toggled, &E, [k] { Bouton_Click(k); });
-    for (int i = 1; i <= 2; ++i)
-        QObject::connect(E.BTN[i], &QPushButton::clicked, &E, [i] { BTN_Click(i); });
-    RelieCommandes(E);
-    // Closing by the menu or the close box asks first; showing unloads the loading form.
-    E.ÀLaFermeture = Form_Unload;
-    InstalleVueEcran(true);
-}
 
 // ---------------------------------------------------------------- load
 
@@ -63,13 +39,6 @@ void Form_Load()
 
 void Form_Activate() { FermePatience(); }
 
-bool Form_Unload()
-{
-    if (!ConfirmeArrêt())
-        return false;
-    RestaureSonsSystème();
-    return true;
-}
 
 void ChargeEcranPrincipal()
 {

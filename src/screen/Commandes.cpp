@@ -18,6 +18,10 @@
 #include "services/Langues.h"
 #include "services/MisesAJour.h"
 #include "services/Sons.h"
+#include "results/Resultats.h"
+#include "platform/Ecran.h"
+#include "services/Patience.h"
+#include "services/Donnees.h"
 
 #include <QAction>
 
@@ -92,4 +96,37 @@ void Menuson_Click()
 {
     SonActif = Booléen(!SonActif);
     Principal().Menuson->setText(SonActif ? Messages[157] : Messages[158]);
+}
+
+// ---------------------------------------------------------------- the start and a new game
+
+
+void LanceNouvellePartie()
+{
+    if (!ConfirmeArrêt())
+        return;
+    Principal().setHelpContextID(10);
+    MontreNouvellePartie();
+    Jeu().RangEtape = 1;
+    DébutEtape();
+    for (int i = 1; i <= NombrePlaces; ++i)
+        for (int k = 0; k <= 4; ++k) {
+            Jeu().Cantons[i].Pertes[k] = 0;
+            Jeu().Cantons[i].Réussi[k] = False;
+        }
+    Jeu().PartieVierge = True;
+    Jeu().ModeRévision = False;
+    Jeu().ConseilFicheDonné = False;
+    AjusteCarte();
+    if (Jeu().Etape == TEtape::Aucune) {
+        CacheZoneJeu();
+        CacheMarques();
+        return;
+    }
+    MontreCantons();
+    Jeu().Score = 999999;
+    AffichePanneau();
+    AfficheScore();
+    AfficheRestants(Jeu().RestantsEtape);
+    QuestionSuivante();
 }

@@ -7,3 +7,5 @@ void LanceRévision();
 void AfficheAide();
 void AfficheAPropos();
 void Menuson_Click();
+
+void LanceNouvellePartie();

@@ -13,6 +13,9 @@
 #include <QMenuBar>
 
 
+i16 HauteurVignette = 188;
+i16 LargeurVignette = 200;
+
 namespace {
 EcranPrincipal *forme = nullptr;
 

@@ -96,3 +96,6 @@ EcranPrincipal &Principal();
 QSize TaillePays(int i);
 // Index of the form named "EcranPrincipal" among the top-level forms, -1 if none.
 int IndiceEcranPrincipal();
+
+// The size of the question's picture frame, read at load before a question changes it.
+extern i16 HauteurVignette, LargeurVignette;

@@ -1,3 +1,4 @@
+#include "screen/Parametrage.h"
 #include "screen/Etiquettes.h"
 
 #include "engine/communs.h"

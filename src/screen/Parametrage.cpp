@@ -292,3 +292,47 @@ void AnnuleParamétrage()
     AjusteCarte();
     MontreCantons();
 }
+
+void AffichePanneau()
+{
+    auto &E = Principal();
+    if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché)
+        AfficheParamétrage();
+    else
+        CacheParamétrage();
+
+    auto boîtesDuCompte = [&E](bool visible) {
+        E.QueFaire->setVisible(visible);
+        E.BoîteRestants->setVisible(visible);
+        for (int i = 1; i <= 3; ++i)
+            E.Reste[i]->setVisible(visible);
+    };
+    auto boîtesDuScore = [&E](bool visible) {
+        E.BoîteScore->setVisible(visible);
+        for (int i = 0; i <= 6; ++i) {
+            E.Digit[i]->setVisible(visible);
+            if (visible)
+                E.Digit[i]->raise();
+        }
+    };
+    auto cadreQuestion = [&E](bool visible) {
+        E.ImageRecherchée->setVisible(visible);
+        E.ElémentRecherché->setVisible(visible);
+    };
+
+    if (Jeu().Etape == TEtape::Aucune) {
+        boîtesDuCompte(false);
+        boîtesDuScore(false);
+    } else if (Jeu().Etape >= TEtape::ParamétrageModifié) {
+        boîtesDuCompte(false);
+        boîtesDuScore(false);
+        E.TexteAChercher->hide();
+        cadreQuestion(false);
+    } else if (Jeu().Etape <= TEtape::Drapeaux) {
+        boîtesDuCompte(true);
+        boîtesDuScore(!Jeu().ModeApprentissage);
+        E.TexteAChercher->setVisible(Jeu().Etape != TEtape::Drapeaux);
+        cadreQuestion(Jeu().Etape == TEtape::Drapeaux || (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen));
+    }
+    ZoneQuestionSpécifique();
+}

@@ -20,3 +20,6 @@ void Bouton_Click(int k);
 void BTN_Click(int i);
 void ValideParamétrage();
 void AnnuleParamétrage();
+
+// The side panel as the step asks: the game's boxes, the parameterisation panel, or nothing.
+void AffichePanneau();

@@ -1,22 +1,15 @@
-#include "screen/Etiquettes.h"
 #include "screen/VueJeu.h"
 
-#include "results/Parties.h"
 #include "engine/Vue.h"
 #include "engine/specifiques.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
-#include "results/Resultats.h"
-#include "screen/Commandes.h"
-#include "screen/Chargement.h"
+#include "results/Scores.h"
 #include "screen/EcranPrincipal.h"
-#include "screen/Parametrage.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
-#include "services/Patience.h"
 #include "services/Pompe.h"
 #include "services/Sons.h"
-#include "services/Donnees.h"
 
 #include <cmath>
 
@@ -123,102 +116,8 @@ void CliqueCarte(int Région)
     CliqueCarte(Région, curseur.x() - rectangle.left() + E.BarreH->Value(), curseur.y() - rectangle.top() + E.BarreV->Value());
 }
 
-bool Main()
-{
-    HauteurFenêtre = 0;
-    LargeurFenêtre = 0;
-    RépertoireApplication = DossierProgramme();
-    LitParamètres();
-    if (!ParamètresLus)
-        return false;
-    SonActif = True;
-    if (!ChargeCarteZones())
-        return false;
-    AffichePatience();
-    PointeurEcran(PointeurSablier);
-    auto *forme = new EcranPrincipal();
-    RelieEcranPrincipal(*forme);
-    Form_Load();
-    forme->show();
-    if (Langue != 1)
-        ChargeImagesPays();
-    PointeurEcran(PointeurNormal);
-    return true;
-}
 
-void LanceNouvellePartie()
-{
-    if (!ConfirmeArrêt())
-        return;
-    Principal().setHelpContextID(10);
-    MontreNouvellePartie();
-    Jeu().RangEtape = 1;
-    DébutEtape();
-    for (int i = 1; i <= NombrePlaces; ++i)
-        for (int k = 0; k <= 4; ++k) {
-            Jeu().Cantons[i].Pertes[k] = 0;
-            Jeu().Cantons[i].Réussi[k] = False;
-        }
-    Jeu().PartieVierge = True;
-    Jeu().ModeRévision = False;
-    Jeu().ConseilFicheDonné = False;
-    AjusteCarte();
-    if (Jeu().Etape == TEtape::Aucune) {
-        CacheZoneJeu();
-        CacheMarques();
-        return;
-    }
-    MontreCantons();
-    Jeu().Score = 999999;
-    AffichePanneau();
-    AfficheScore();
-    AfficheRestants(Jeu().RestantsEtape);
-    QuestionSuivante();
-}
 
-void AffichePanneau()
-{
-    auto &E = Principal();
-    if (Jeu().Etape == TEtape::ParamétrageModifié || Jeu().Etape == TEtape::ParamétrageAffiché)
-        AfficheParamétrage();
-    else
-        CacheParamétrage();
-
-    auto boîtesDuCompte = [&E](bool visible) {
-        E.QueFaire->setVisible(visible);
-        E.BoîteRestants->setVisible(visible);
-        for (int i = 1; i <= 3; ++i)
-            E.Reste[i]->setVisible(visible);
-    };
-    auto boîtesDuScore = [&E](bool visible) {
-        E.BoîteScore->setVisible(visible);
-        for (int i = 0; i <= 6; ++i) {
-            E.Digit[i]->setVisible(visible);
-            if (visible)
-                E.Digit[i]->raise();
-        }
-    };
-    auto cadreQuestion = [&E](bool visible) {
-        E.ImageRecherchée->setVisible(visible);
-        E.ElémentRecherché->setVisible(visible);
-    };
-
-    if (Jeu().Etape == TEtape::Aucune) {
-        boîtesDuCompte(false);
-        boîtesDuScore(false);
-    } else if (Jeu().Etape >= TEtape::ParamétrageModifié) {
-        boîtesDuCompte(false);
-        boîtesDuScore(false);
-        E.TexteAChercher->hide();
-        cadreQuestion(false);
-    } else if (Jeu().Etape <= TEtape::Drapeaux) {
-        boîtesDuCompte(true);
-        boîtesDuScore(!Jeu().ModeApprentissage);
-        E.TexteAChercher->setVisible(Jeu().Etape != TEtape::Drapeaux);
-        cadreQuestion(Jeu().Etape == TEtape::Drapeaux || (Jeu().Etape == TEtape::Cantons && Jeu().Niveau == TNiveau::Moyen));
-    }
-    ZoneQuestionSpécifique();
-}
 
 void MontreCantons()
 {

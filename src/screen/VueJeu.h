@@ -10,7 +10,6 @@ void InstalleVueEcran(bool installée);
 void CliqueCarte(int Région);
 void PrépareEtape();
 void MontreQuestion();
-void AffichePanneau();
 void MontreCantons();
 void CacheMarques();
 void CacheZoneJeu();
@@ -22,9 +21,6 @@ void MontreCantonEtapesSuivantes(i16 i);
 void MarqueRondPartie(i16 i);
 void PlaceRond(i16 i, bool Cible = false, i16 x = 0, i16 y = 0);
 void BoutonGruge_Click();
-void LanceNouvellePartie();
-// The program's start; false when it must end at once.
-bool Main();
 
 // This game's own screen: the plate step's place in the panel and its markers.
 void DébutEtapeSpécifique();

@@ -6,6 +6,7 @@
 #include "results/Parties.h"
 #include "results/Scores.h"
 #include "screen/Chargement.h"
+#include "screen/Relie.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
