@@ -9,6 +9,7 @@
 #include "services/Langues.h"
 
 #include <QGroupBox>
+#include <functional>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -113,3 +114,19 @@ void NouvellePartie::BoutonAnnuler_Click()
 
 // Escape and the close box cancel like the button.
 void NouvellePartie::reject() { BoutonAnnuler_Click(); }
+
+namespace {
+std::function<void()> dialogueScripté;
+}
+
+void InstalleDialogueNouvellePartie(std::function<void()> script) { dialogueScripté = std::move(script); }
+
+void MontreNouvellePartie()
+{
+    if (dialogueScripté) {
+        dialogueScripté();
+        return;
+    }
+    NouvellePartie dialogue;
+    ExécuteModal(dialogue);
+}

@@ -2,7 +2,6 @@
 
 #include "platform/Boites.h"
 #include "platform/Horloge.h"
-#include "results/AffichageScores.h"
 #include "files/FichierEnregistrements.h"
 #include "files/FichierScores.h"
 #include "services/Chemins.h"
@@ -118,45 +117,6 @@ void ChargeScores()
         Jeu().Cantons[i].Inhibé = False;
 }
 
-void EnregistreScore()
-{
-    if (Jeu().ScoreGelé) {
-        JoueSon(SonPerdu);
-        Boîte(Messages[44], StyleInformation, Messages[35]);
-    } else {
-        Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
-        const int niveau = Numéro(Jeu().Niveau);
-        int pos = 1;
-        for (int i = 1; i <= Jeu().NombreScores[niveau]; ++i) {
-            const TLigneScore &l = Jeu().MeilleursScores[niveau][i];
-            if (l.Points < Jeu().Score || (l.Points == Jeu().Score && l.Durée > Jeu().DuréePartie)) {
-                pos = i;
-                break;
-            }
-            pos = pos + 1;
-        }
-        if (Jeu().NombreScores[niveau] != 10)
-            Jeu().NombreScores[niveau] = Jeu().NombreScores[niveau] + 1;
-        for (int r = Jeu().NombreScores[niveau]; r > pos; --r)
-            Jeu().MeilleursScores[niveau][r] = Jeu().MeilleursScores[niveau][r - 1];
-        if (pos <= Jeu().NombreScores[niveau]) {
-            JoueSon(SonEtape);
-            if (Jeu().Score > 0)
-                Boîte(Messages[39], StyleInformation, Messages[40]);
-            else
-                Boîte(Messages[41], StyleInformation, Messages[42]);
-            Jeu().MeilleursScores[niveau][pos] = TLigneScore{Jeu().NomJoueur, Jeu().Score, Jeu().DuréePartie};
-            EcritFichierScores(true);
-        } else {
-            JoueSon(SonPerdu);
-            Boîte(Messages[43], StyleInformation, Messages[35]);
-        }
-    }
-    NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));
-    Jeu().PartieEnregistrée = True;
-    Jeu().ScoresFinPartie = True;
-    MontreAffichageScores();
-}
 
 void ConfirmeRazScores()
 {
