@@ -10,6 +10,7 @@
 #include "results/Parties.h"
 #include "results/Resultats.h"
 #include "results/Scores.h"
+#include "screen/Ajustement.h"
 #include "screen/Chargement.h"
 #include "screen/Commandes.h"
 #include "screen/Relie.h"

@@ -2,6 +2,7 @@
 // A game on the offscreen main form, with every service of the desktop scripted.
 #include "Doublures.h"
 #include "results/Parties.h"
+#include "screen/Ajustement.h"
 #include "screen/Chargement.h"
 #include "screen/Relie.h"
 #include "screen/Commandes.h"

@@ -34,6 +34,8 @@ public:
     virtual void PlaceRond(i16 i, bool cible = false, i16 x = 0, i16 y = 0) {}
     virtual void CacheMarques() {}
     virtual void CacheZoneJeu() {}
+    // The side panel as the step asks: the game's boxes, the parameter set, or nothing.
+    virtual void AffichePanneau() {}
     virtual void MontreBoutonPasse(bool visible) {}
     virtual void MontreBoutonGruge(bool visible) {}
     virtual void AmèneEnVue(i16 c) {}

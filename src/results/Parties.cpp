@@ -5,7 +5,6 @@
 #include "platform/Boites.h"
 #include "files/FichierEnregistrements.h"
 #include "results/Scores.h"
-#include "results/SelectionPartie.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
@@ -45,20 +44,6 @@ QString RépertoireDe(const QString &Chemin)
     return i < 0 ? QString() : Chemin.left(i + 1);
 }
 
-void EnregistrePartie()
-{
-    if (!PartieEnCours())
-        return;
-    SoldeQuestion();
-    if (Jeu().Score <= 0) {
-        PartiePerdue();
-        return;
-    }
-    Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
-    ModeRépertoires = TModeRépertoires::Sauvegarde;
-    TypeFichier = TTypeFichier::Partie;
-    MontreSélectionPartie();
-}
 
 QByteArray ContenuPartie(const QString &FichierNoté)
 {
@@ -223,15 +208,6 @@ bool LitPartie(const QString &Chemin)
     return RestaurePartie(contenu, QFileInfo(Chemin).absolutePath());
 }
 
-void FichierLire_Click()
-{
-    if (!ConfirmeArrêt())
-        return;
-    ModeRépertoires = TModeRépertoires::Chargement;
-    TypeFichier = TTypeFichier::Partie;
-    MontreSélectionPartie();
-    Jeu().ConseilFicheDonné = False;
-}
 
 bool ConfirmeArrêt()
 {

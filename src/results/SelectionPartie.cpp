@@ -7,9 +7,9 @@
 #include "platform/Horloge.h"
 #include "results/Parties.h"
 #include "results/Scores.h"
-#include "screen/Chargement.h"
+#include "screen/Ajustement.h"
 #include "screen/EcranPrincipal.h"
-#include "screen/Parametrage.h"
+#include "engine/Vue.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
@@ -27,6 +27,7 @@
 #include <cmath>
 
 TTypeFichier TypeFichier = TTypeFichier::Partie;
+i16 LancementDemandé = False;
 i16 SortieParamétrage = False;
 
 namespace {
@@ -182,7 +183,7 @@ void SélectionPartie::BoutonOK_Click()
             ProposeRépertoire();
             Jeu().ModeRévision = False;
             AjusteCarte();
-            AffichePanneau();
+            Vue().AffichePanneau();
             MontreCantons();
             AfficheScore();
             AfficheRestants(Jeu().RestantsEtape);
@@ -252,4 +253,31 @@ void MontreSélectionPartie()
 {
     SélectionPartie dialogue;
     ExécuteModal(dialogue);
+}
+
+// ---------------------------------------------------------------- the commands that open it
+
+void EnregistrePartie()
+{
+    if (!PartieEnCours())
+        return;
+    SoldeQuestion();
+    if (Jeu().Score <= 0) {
+        PartiePerdue();
+        return;
+    }
+    Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
+    ModeRépertoires = TModeRépertoires::Sauvegarde;
+    TypeFichier = TTypeFichier::Partie;
+    MontreSélectionPartie();
+}
+
+void FichierLire_Click()
+{
+    if (!ConfirmeArrêt())
+        return;
+    ModeRépertoires = TModeRépertoires::Chargement;
+    TypeFichier = TTypeFichier::Partie;
+    MontreSélectionPartie();
+    Jeu().ConseilFicheDonné = False;
 }

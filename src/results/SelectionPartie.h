@@ -15,6 +15,8 @@ class QPushButton;
 // The kind of file the file dialog works on.
 enum class TTypeFichier : i16 { Partie = 4, Paramétrage = 5 };
 extern TTypeFichier TypeFichier;
+// The parameter set being saved must become the one used at the next starts.
+extern i16 LancementDemandé;
 extern i16 SortieParamétrage;
 
 class SélectionPartie : public QDialog {

@@ -7,7 +7,7 @@
 #include "results/AffichageScores.h"
 #include "results/Parties.h"
 #include "results/Scores.h"
-#include "screen/Chargement.h"
+#include "screen/Ajustement.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Palette.h"
 #include "screen/Parametrage.h"

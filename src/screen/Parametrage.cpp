@@ -5,7 +5,7 @@
 #include "results/Parties.h"
 #include "results/Scores.h"
 #include "results/SelectionPartie.h"
-#include "screen/Chargement.h"
+#include "screen/Ajustement.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
@@ -19,7 +19,6 @@ i16 GrilleActive = False;
 i32 CodeEtapes = 0;
 i16 ParamétrageNommé = False;
 i16 ParamétrageDeLancement = False;
-i16 LancementDemandé = False;
 
 namespace {
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");

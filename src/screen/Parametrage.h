@@ -7,8 +7,6 @@ extern i16 GrilleActive;
 extern i32 CodeEtapes;
 extern i16 ParamétrageNommé;
 extern i16 ParamétrageDeLancement;
-// The set being saved must become the one used at the next starts.
-extern i16 LancementDemandé;
 
 void DéfinitParamétrage();
 void RevoitParamétrage();

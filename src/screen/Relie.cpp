@@ -2,8 +2,13 @@
 #include "screen/Relie.h"
 
 #include "engine/communs.h"
+#include "engine/Vue.h"
+#include "platform/Boites.h"
+#include "results/Scores.h"
+#include "services/Pompe.h"
 #include "platform/Ecran.h"
 #include "results/Parties.h"
+#include "screen/Ajustement.h"
 #include "screen/Chargement.h"
 #include "screen/Commandes.h"
 #include "screen/EcranPrincipal.h"
@@ -20,6 +25,72 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QToolButton>
+
+namespace {
+// The game's screen: what the rules tell it, drawn on the main window.
+class VueEcran : public VueJeu {
+public:
+    void Son(TSon son) override
+    {
+        switch (son) {
+        case TSon::Erreur: JoueSon(SonErreur); break;
+        case TSon::Bravo: JoueSon(SonBravo); break;
+        case TSon::Etape: JoueSon(SonEtape); break;
+        case TSon::Perdu: JoueSon(SonPerdu); break;
+        case TSon::Info: JoueSon(SonInfo); break;
+        }
+    }
+    void Annonce(TAnnonce annonce) override
+    {
+        switch (annonce) {
+        case TAnnonce::ConseilFiche: Boîte(Messages[137], StyleInformation, Messages[17]); break;
+        case TAnnonce::QuestionPerdue: Boîte(Messages[38], StyleExclamation, Messages[37]); break;
+        case TAnnonce::QuestionPerdueAssistée: Boîte(Messages[36], StyleExclamation, Messages[37]); break;
+        case TAnnonce::PartiePerdue: Boîte(Messages[34], StyleCritique, Messages[35]); break;
+        }
+    }
+    void AnnonceEtape(TEtape finie, TEtape suivante) override
+    {
+        Boîte(MessageTransition(finie, suivante), StyleInformation, Messages[20]);
+    }
+    void EtapeCommencée() override { PrépareEtape(); }
+    void QuestionPosée() override { MontreQuestion(); }
+    void AfficheScore() override { ::AfficheScore(); }
+    void AfficheRestants(i16 n) override { ::AfficheRestants(n); }
+    void MontreCanton(i16 i) override { ::MontreCanton(i); }
+    void MontreCantons() override { ::MontreCantons(); }
+    void PlaceRond(i16 i, bool cible, i16 x, i16 y) override { ::PlaceRond(i, cible, x, y); }
+    void CacheMarques() override { ::CacheMarques(); }
+    void CacheZoneJeu() override { ::CacheZoneJeu(); }
+    void AffichePanneau() override { ::AffichePanneau(); }
+    void MontreBoutonPasse(bool visible) override { Principal().BoutonPasse->setVisible(visible); }
+    void MontreBoutonGruge(bool visible) override { Principal().BoutonGruge->setVisible(visible); }
+    void AmèneEnVue(i16 c) override { ::AmèneEnVue(c); }
+    void MontreFiche(bool cible, i16 x, i16 y) override
+    {
+        const i16 c = Jeu().CantonFiche;
+        if (cible) {
+            // The target stands where the player clicked, or on the town for a click on its dot.
+            if (x == 0 && y == 0) {
+                const auto &E = Principal();
+                x = static_cast<i16>(Jeu().Cantons[c].VilleGauche + E.RondVille->Width() / 2);
+                y = static_cast<i16>(Jeu().Cantons[c].VilleHaut + E.RondVille->Height() / 2);
+            }
+            ::PlaceRond(c, true, x, y);
+        }
+        MontrePompe();
+        // The card's target goes with it.
+        ::PlaceRond(c);
+    }
+    void EnregistreScore() override { ::EnregistreScore(); }
+};
+} // namespace
+
+void InstalleVueEcran(bool installée)
+{
+    static VueEcran vue;
+    InstalleVue(installée ? &vue : nullptr);
+}
 
 bool Form_Unload()
 {

@@ -8,3 +8,5 @@ void RelieEcranPrincipal(EcranPrincipal &E);
 bool Form_Unload();
 // The program's start; false when it must end at once.
 bool Main();
+// The main window becomes the game's screen, or stops being it.
+void InstalleVueEcran(bool installée);

@@ -3,8 +3,6 @@
 // digits, and the screen's answers to what the rules tell it.
 #include "engine/communs.h"
 
-// The main window becomes the game's screen, or stops being it.
-void InstalleVueEcran(bool installée);
 
 // The click on the map read from the pointer and the scroll bars.
 void CliqueCarte(int Région);

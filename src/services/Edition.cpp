@@ -6,7 +6,7 @@
 #include "platform/Ecran.h"
 #include "platform/Formes.h"
 #include "platform/Images.h"
-#include "screen/Chargement.h"
+#include "screen/Ajustement.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Fiches.h"
 #include "services/Langues.h"

@@ -5,6 +5,7 @@
 #include "platform/Formes.h"
 #include "results/Parties.h"
 #include "results/Scores.h"
+#include "screen/Ajustement.h"
 #include "screen/Chargement.h"
 #include "screen/Relie.h"
 #include "screen/EcranPrincipal.h"

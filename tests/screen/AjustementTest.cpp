@@ -3,6 +3,7 @@
 
 #include "engine/communs.h"
 #include "platform/Ecran.h"
+#include "screen/Ajustement.h"
 #include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 
