@@ -12,7 +12,7 @@
 #include "screen/Palette.h"
 #include "screen/Parametrage.h"
 #include "services/Aide.h"
-#include "services/Edition.h"
+#include "screen/Edition.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Langues.h"

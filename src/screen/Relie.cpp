@@ -5,7 +5,7 @@
 #include "engine/Vue.h"
 #include "platform/Boites.h"
 #include "results/Scores.h"
-#include "services/Pompe.h"
+#include "screen/Pompe.h"
 #include "platform/Ecran.h"
 #include "results/Parties.h"
 #include "screen/Ajustement.h"

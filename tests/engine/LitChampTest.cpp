@@ -1,67 +1,42 @@
 // Fields of the table's rows, and the canton table filled from them in both languages.
 #include "engine/communs.h"
-#include "engine/specifiques.h"
 #include "services/Langues.h"
 #include "services/Donnees.h"
 
 #include <gtest/gtest.h>
 
-TEST(LitChamp, FieldsSeparatorsAndEnds)
+TEST(LitChamp, FieldsBetweenHashesAndTheirLeadingNumbers)
 {
-    const QString z = QStringLiteral("Zoug#352#152");
-    EXPECT_EQ(LitChamp(z, 1), "Zoug");
-    EXPECT_EQ(LitChamp(z, 2), "352");
-    EXPECT_EQ(LitChamp(z, 3), "152");
-    EXPECT_EQ(LitChamp(z, 4), "");
-    EXPECT_EQ(LitChamp(QString(), 1), "");
-    EXPECT_EQ(LitChamp(QString(), 3), "");
-    EXPECT_EQ(LitChamp("a##c", 2), "");
-    EXPECT_EQ(LitChamp("a##c", 3), "c");
-    EXPECT_EQ(LitChamp("seul", 1), "seul");
-    EXPECT_EQ(LitChamp("seul", 2), "");
-    EXPECT_EQ(LitChamp("a#b#", 3), "");
+    const struct { const char *texte; i16 rang; const char *champ; } champs[] = {
+        {"Zoug#352#152", 1, "Zoug"}, {"Zoug#352#152", 2, "352"}, {"Zoug#352#152", 3, "152"}, {"Zoug#352#152", 4, ""},
+        {"", 1, ""}, {"", 3, ""}, {"a##c", 2, ""}, {"a##c", 3, "c"}, {"seul", 1, "seul"}, {"seul", 2, ""}, {"a#b#", 3, ""},
+    };
+    for (const auto &c : champs)
+        EXPECT_EQ(LitChamp(QString::fromUtf8(c.texte), c.rang), QString::fromUtf8(c.champ)) << c.texte << " " << c.rang;
+    const struct { const char *champ; i32 valeur; } nombres[] = {
+        {"352", 352}, {"352px", 352}, {"x352", 0}, {"", 0}, {"99999999999", 2147483647},
+    };
+    for (const auto &n : nombres)
+        EXPECT_EQ(ValeurEnTête(QString::fromUtf8(n.champ)), n.valeur) << n.champ;
 }
 
-TEST(LitChamp, LeadingNumberConversion)
+TEST(ChargeCantons, GermanNamesOnTheSamePlacesAndAChangeKeepsWhatTheGameKnows)
 {
-    EXPECT_EQ(ValeurEnTête("352"), 352);
-    EXPECT_EQ(ValeurEnTête("352px"), 352);
-    EXPECT_EQ(ValeurEnTête("x352"), 0);
-    EXPECT_EQ(ValeurEnTête(""), 0);
-    EXPECT_EQ(ValeurEnTête("99999999999"), 2147483647);
-}
-
-TEST(ChargeCantons, GermanNamesSameCoordinatesAndPlates)
-{
-    Jeu().Cantons[6].Trouvé = True;
-    Jeu().Cantons[6].Pertes[2] = 17;
-    Langue = 1;
-    ChargeChaînes();
-    ChargeCantons();
-    const TCanton berneFr = Jeu().Cantons[6];
-    EXPECT_EQ(berneFr.Nom, "Berne");
-    EXPECT_EQ(berneFr.PaysGauche, 151);
-    EXPECT_EQ(berneFr.PaysHaut, 103);
-    EXPECT_EQ(berneFr.VilleGauche, 218);
-    EXPECT_EQ(berneFr.VilleHaut, 198);
-    EXPECT_EQ(Jeu().Cantons[5].ChefLieu, QString::fromUtf8("Bâle"));
-    EXPECT_EQ(Jeu().Plaques[26], "ZH");
-
-    Langue = 2;
-    ChargeChaînes();
-    ChargeCantons();
-    EXPECT_EQ(Jeu().Cantons[6].Nom, "Bern");
-    EXPECT_EQ(Jeu().Cantons[5].ChefLieu, "Basel");
-    EXPECT_EQ(Jeu().Cantons[10].Nom, QString::fromUtf8("Graubünden"));
-    EXPECT_EQ(Jeu().Cantons[6].PaysGauche, berneFr.PaysGauche);
-    EXPECT_EQ(Jeu().Cantons[6].VilleHaut, berneFr.VilleHaut);
-    EXPECT_EQ(Jeu().Plaques[6], "BE");
-    // A change of language keeps what the game knows of the canton.
-    EXPECT_EQ(Jeu().Cantons[6].Trouvé, True);
-    EXPECT_EQ(Jeu().Cantons[6].Pertes[2], 17);
-    EXPECT_EQ(Jeu().Cantons[0].Trouvé, False);
-
-    Langue = 1;
-    ChargeChaînes();
-    Jeu().Cantons[6] = TCanton{};
+    Jeu().Cantons[6].Trouvé = True, Jeu().Cantons[6].Pertes[2] = 17;
+    auto charge = [](int langue) { Langue = langue, ChargeChaînes(), ChargeCantons(); };
+    charge(1);
+    const std::vector<TCanton> fr(std::begin(Jeu().Cantons), std::end(Jeu().Cantons));
+    charge(2);
+    const TCanton &berne = Jeu().Cantons[6];
+    EXPECT_TRUE(fr[6].Nom == "Berne" && fr[5].ChefLieu == QString::fromUtf8("Bâle") && berne.Nom == "Bern");
+    EXPECT_TRUE(Jeu().Cantons[5].ChefLieu == "Basel" && Jeu().Cantons[10].Nom == QString::fromUtf8("Graubünden"));
+    EXPECT_TRUE(Jeu().Plaques[6] == "BE" && Jeu().Plaques[26] == "ZH");
+    for (int i = 1; i <= 26; ++i) { // on the same places
+        const TCanton &de = Jeu().Cantons[i], &f = fr[i];
+        EXPECT_TRUE(std::tie(de.PaysGauche, de.PaysHaut, de.VilleGauche, de.VilleHaut, de.Région) ==
+                    std::tie(f.PaysGauche, f.PaysHaut, f.VilleGauche, f.VilleHaut, f.Région)) << i;
+    }
+    EXPECT_TRUE(berne.Trouvé == True && berne.Pertes[2] == 17 && Jeu().Cantons[0].Trouvé == False);
+    charge(1);
+    Jeu().Cantons[6].Trouvé = False, Jeu().Cantons[6].Pertes[2] = 0;
 }

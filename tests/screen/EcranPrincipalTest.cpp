@@ -15,7 +15,7 @@
 #include "results/Scores.h"
 #include "results/SelectionPartie.h"
 #include "services/ParametrageRepertoires.h"
-#include "services/Pompe.h"
+#include "screen/Pompe.h"
 #include <QDir>
 #include <QFile>
 #include <QListWidget>

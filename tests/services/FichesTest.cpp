@@ -8,12 +8,12 @@
 #include "platform/Formes.h"
 #include "screen/Commandes.h"
 #include "screen/EcranPrincipal.h"
-#include "services/Edition.h"
+#include "screen/Edition.h"
 #include "services/Fiches.h"
 #include "services/Langues.h"
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
-#include "services/Pompe.h"
+#include "screen/Pompe.h"
 
 #include <QAction>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "services/Edition.h"
+#include "screen/Edition.h"
 
 #include "results/Parties.h"
 #include "screen/VueJeu.h"
@@ -10,7 +10,7 @@
 #include "screen/EcranPrincipal.h"
 #include "services/Fiches.h"
 #include "services/Langues.h"
-#include "services/Pompe.h"
+#include "screen/Pompe.h"
 
 namespace {
 constexpr int LargeurEdition = 416;

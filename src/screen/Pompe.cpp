@@ -1,4 +1,4 @@
-#include "services/Pompe.h"
+#include "screen/Pompe.h"
 
 #include "engine/communs.h"
 #include "engine/specifiques.h"
