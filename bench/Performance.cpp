@@ -76,7 +76,7 @@ void BM_DemarrageJusquALaFenetreAuRepos(benchmark::State &state)
         }
         QApplication::processEvents();
         state.PauseTiming();
-        Jeu().PartieVierge = True;
+        Jeu().PartieVierge = true;
         delete FormePrincipale();
         QApplication::processEvents();
         InstalleRatioPixels(0); // every picture read again, as at a real start
@@ -111,7 +111,7 @@ void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
         Jeu().Score = 999999;
         E.Carte->render(&écran);
     }
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     delete FormePrincipale();
     InstalleRatioPixels(0);
 }
@@ -135,7 +135,7 @@ void BM_ChangementDeLangue(benchmark::State &state)
         ChangeLangue(langue);
     }
     ChangeLangue(1);
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     delete FormePrincipale();
 }
 BENCHMARK(BM_ChangementDeLangue)->Unit(benchmark::kMillisecond);
@@ -215,7 +215,7 @@ void BM_PartieEcriteEtLue(benchmark::State &state)
         EcritPartie(chemin);
         benchmark::DoNotOptimize(LitPartie(chemin));
     }
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     delete FormePrincipale();
 }
 BENCHMARK(BM_PartieEcriteEtLue)->Unit(benchmark::kMicrosecond);

@@ -81,7 +81,7 @@ void JeuTest::SetUp()
 void JeuTest::TearDown()
 {
     if (forme) {
-        Jeu().PartieVierge = True; // nothing to confirm on the way out
+        Jeu().PartieVierge = true; // nothing to confirm on the way out
         delete forme;
     }
     InstalleDialogueNouvellePartie(nullptr);

@@ -6,18 +6,6 @@
 
 #include <cmath>
 
-
-
-
-namespace {
-
-// Values assigned to a whole-number property round to the nearest, halves to even.
-int Arrondi(double v) { return static_cast<int>(std::lrint(v)); }
-
-bool EtapeDeJeu() { return Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques; }
-
-} // namespace
-
 // ---------------------------------------------------------------- the places
 
 QString LitChamp(const QString &Texte, i16 Rang)
@@ -53,9 +41,7 @@ i32 ValeurEnTête(const QString &champ)
     return static_cast<i32>(v);
 }
 
-
 // ---------------------------------------------------------------- the raster
-
 
 i16 ZoneEn(int Région, int x, int y)
 {
@@ -74,7 +60,6 @@ i16 ZoneEn(int Région, int x, int y)
     return c;
 }
 
-
 void CliqueCarte(int Région, int x, int y)
 {
     if (Jeu().Etape == TEtape::Aucune)
@@ -92,8 +77,6 @@ void CliqueCarte(int Région, int x, int y)
 }
 
 // ---------------------------------------------------------------- the turn cycle
-
-
 
 void DébutEtape()
 {
@@ -118,7 +101,6 @@ void DébutEtape()
     Jeu().ScoresFinPartie = false;
     Vue().EtapeCommencée();
 }
-
 
 void QuestionSuivante()
 {
@@ -177,7 +159,7 @@ void RetourAuRepos()
 {
     Jeu().Etape = TEtape::Aucune;
     DébutEtape();
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     Vue().CacheMarques();
     Vue().CacheZoneJeu();
 }
@@ -188,14 +170,11 @@ void TerminePartie()
     Jeu().Etape = TEtape::Aucune;
     Vue().EnregistreScore();
     DébutEtape();
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     Vue().CacheMarques();
     Vue().CacheZoneJeu();
-    Jeu().PartieEnregistrée = True;
+    Jeu().PartieEnregistrée = true;
 }
-
-
-
 
 // ---------------------------------------------------------------- judging
 
@@ -206,8 +185,8 @@ void TraiteClic(i16 c, i16 x, i16 y)
     c = NuméroPlace(c);
     if (c < 1 || c > NombrePlaces)
         return;
-    if (EtapeDeJeu())
-        Jeu().PartieVierge = False;
+    if (EtapeDeJeu(Jeu().Etape))
+        Jeu().PartieVierge = false;
     if (Jeu().Etape == TEtape::ParamétrageModifié) {
         Jeu().Cantons[c].Trouvé = Booléen(!Jeu().Cantons[c].Trouvé);
         Vue().PlaceRond(c);
@@ -267,7 +246,7 @@ void BonneRéponse()
         Vue().Son(TSon::Bravo);
         if (Jeu().RestantsEtape == Jeu().NombreCantons - 1 && Jeu().ModeApprentissage && !Jeu().ConseilFicheDonné) {
             Vue().Annonce(TAnnonce::ConseilFiche);
-            Jeu().ConseilFicheDonné = True;
+            Jeu().ConseilFicheDonné = true;
         }
         QuestionSuivante();
         Jeu().ErreursQuestion = 0;
@@ -275,7 +254,7 @@ void BonneRéponse()
         return;
     }
     // The answer was given away: the canton comes back later, and the question is paid in full.
-    Jeu().AssistanceUtilisée = False;
+    Jeu().AssistanceUtilisée = false;
     Vue().PlaceRond(c);
     if (SoldeQuestion() > 0) {
         Vue().Son(TSon::Bravo);
@@ -307,7 +286,7 @@ void MauvaiseRéponse()
     Vue().Son(TSon::Perdu);
     if (Jeu().AssistanceUtilisée) {
         Vue().Annonce(TAnnonce::QuestionPerdueAssistée);
-        Jeu().AssistanceUtilisée = False;
+        Jeu().AssistanceUtilisée = false;
         Vue().PlaceRond(Jeu().CantonRecherché);
     } else {
         Vue().Annonce(TAnnonce::QuestionPerdue);
@@ -340,8 +319,6 @@ i32 SoldeQuestion()
     Vue().AfficheScore();
     return Jeu().Score;
 }
-
-
 
 void ScoreAbandon()
 {
@@ -395,6 +372,4 @@ void BoutonPasse_Click()
     QuestionSuivante();
     Vue().MontreBoutonPasse(false);
 }
-
-
 

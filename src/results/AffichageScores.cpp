@@ -209,7 +209,7 @@ void EnregistreScore()
         }
     }
     NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));
-    Jeu().PartieEnregistrée = True;
-    Jeu().ScoresFinPartie = True;
+    Jeu().PartieEnregistrée = true;
+    Jeu().ScoresFinPartie = true;
     MontreAffichageScores();
 }

@@ -83,8 +83,8 @@ void NouvellePartie::BoutonSortie_Click()
         return;
     }
     Jeu().NomJoueur = BoîteNomJoueur->text().left(20);
-    Jeu().ModeApprentissage = False;
-    Jeu().ScoreGelé = False;
+    Jeu().ModeApprentissage = false;
+    Jeu().ScoreGelé = false;
     auto &E = Principal();
     E.BoutonGruge->setPicture(E.AmpouleAllumée->Picture());
     if (NiveauFacile->isChecked())
@@ -97,8 +97,8 @@ void NouvellePartie::BoutonSortie_Click()
         Jeu().Niveau = TNiveau::Expert;
     else if (NiveauApprentissage->isChecked()) {
         Jeu().Niveau = TNiveau::Facile;
-        Jeu().ModeApprentissage = True;
-        Jeu().ScoreGelé = True;
+        Jeu().ModeApprentissage = true;
+        Jeu().ScoreGelé = true;
     }
     EnregistreJoueur();
     Jeu().Etape = Jeu().OrdreEtapes[1];

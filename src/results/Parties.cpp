@@ -175,7 +175,7 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     Jeu().ModeApprentissage = apprentissage != 0;
     Jeu().ScoreGelé = Jeu().ModeApprentissage;
     DébutEtape();
-    Jeu().PartieVierge = False;
+    Jeu().PartieVierge = false;
     Jeu().Score = score;
     Jeu().RestantsEtape = NombrePlaces;
     for (int i = 1; i <= NombrePlaces; ++i) {

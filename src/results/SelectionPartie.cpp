@@ -27,8 +27,8 @@
 #include <cmath>
 
 TTypeFichier TypeFichier = TTypeFichier::Partie;
-i16 LancementDemandé = False;
-i16 SortieParamétrage = False;
+bool LancementDemandé = false;
+bool SortieParamétrage = false;
 
 namespace {
 const QString Parent = QStringLiteral("..");
@@ -46,7 +46,7 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
 {
     setObjectName(QStringLiteral("SélectionPartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);
-    SortieParamétrage = False;
+    SortieParamétrage = false;
     setWindowTitle(TypeFichier == TTypeFichier::Partie ? Messages[89] : Messages[87]);
     extension = TypeFichier == TTypeFichier::Partie ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
 
@@ -181,15 +181,15 @@ void SélectionPartie::BoutonOK_Click()
             }
             QFile::remove(cheminFichier);
             ProposeRépertoire();
-            Jeu().ModeRévision = False;
+            Jeu().ModeRévision = false;
             AjusteCarte();
             Vue().AffichePanneau();
             MontreCantons();
             AfficheScore();
             AfficheRestants(Jeu().RestantsEtape);
             QuestionSuivante();
-            Jeu().PartieVierge = False;
-            Jeu().PartieEnregistrée = False;
+            Jeu().PartieVierge = false;
+            Jeu().PartieEnregistrée = false;
             accept();
             Jeu().HeureDépart = static_cast<i32>(std::lrint(Timer() - Jeu().DuréePartie));
             return;
@@ -202,8 +202,8 @@ void SélectionPartie::BoutonOK_Click()
         ChargeScores();
         Jeu().Etape = TEtape::Aucune;
         DébutEtape();
-        Jeu().PartieVierge = True;
-        Jeu().ModeRévision = False;
+        Jeu().PartieVierge = true;
+        Jeu().ModeRévision = false;
         AjusteCarte();
         MontreCantons();
         accept();
@@ -245,7 +245,7 @@ void SélectionPartie::BoutonOK_Click()
         }
     }
     RetourAuRepos();
-    SortieParamétrage = True;
+    SortieParamétrage = true;
     accept();
 }
 
@@ -279,5 +279,5 @@ void FichierLire_Click()
     ModeRépertoires = TModeRépertoires::Chargement;
     TypeFichier = TTypeFichier::Partie;
     MontreSélectionPartie();
-    Jeu().ConseilFicheDonné = False;
+    Jeu().ConseilFicheDonné = false;
 }

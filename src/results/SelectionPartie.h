@@ -16,8 +16,8 @@ class QPushButton;
 enum class TTypeFichier : i16 { Partie = 4, Paramétrage = 5 };
 extern TTypeFichier TypeFichier;
 // The parameter set being saved must become the one used at the next starts.
-extern i16 LancementDemandé;
-extern i16 SortieParamétrage;
+extern bool LancementDemandé;
+extern bool SortieParamétrage;
 
 class SélectionPartie : public QDialog {
 public:

@@ -93,7 +93,7 @@ void AjusteCarte()
 void AjusteEcran()
 {
     auto &E = Principal();
-    Jeu().ModeRévision = False;
+    Jeu().ModeRévision = false;
     AjusteCarte();
     const int Droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
 

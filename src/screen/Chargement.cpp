@@ -98,11 +98,11 @@ void ChargeEcranPrincipal()
 
     Jeu().Etape = TEtape::Aucune;
     CacheZoneJeu();
-    Jeu().ModeRévision = False;
+    Jeu().ModeRévision = false;
     AjusteCarte();
     MontreCantons();
-    Jeu().PartieVierge = True;
-    Jeu().PartieEnregistrée = False;
-    Jeu().ConseilFicheDonné = False;
+    Jeu().PartieVierge = true;
+    Jeu().PartieEnregistrée = false;
+    Jeu().ConseilFicheDonné = false;
     PointeurEcran(PointeurNormal);
 }

@@ -71,9 +71,9 @@ void LanceRévision()
     Jeu().Etape = TEtape::Révision;
     Jeu().Niveau = TNiveau::Facile;
     DébutEtape();
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     CacheZoneJeu();
-    Jeu().ModeRévision = True;
+    Jeu().ModeRévision = true;
     AjusteCarte();
     MontreCantons();
     AffichePanneau();
@@ -94,7 +94,7 @@ void AfficheAPropos()
 
 void Menuson_Click()
 {
-    SonActif = Booléen(!SonActif);
+    SonActif = !SonActif;
     Principal().Menuson->setText(SonActif ? Messages[157] : Messages[158]);
 }
 
@@ -114,9 +114,9 @@ void LanceNouvellePartie()
             Jeu().Cantons[i].Pertes[k] = 0;
             Jeu().Cantons[i].Réussi[k] = False;
         }
-    Jeu().PartieVierge = True;
-    Jeu().ModeRévision = False;
-    Jeu().ConseilFicheDonné = False;
+    Jeu().PartieVierge = true;
+    Jeu().ModeRévision = false;
+    Jeu().ConseilFicheDonné = false;
     AjusteCarte();
     if (Jeu().Etape == TEtape::Aucune) {
         CacheZoneJeu();

@@ -134,7 +134,7 @@ void EditerFiches()
     // A game the player keeps stays where it was, behind the editor.
     if (ConfirmeArrêt()) {
         Jeu().Etape = TEtape::Aucune;
-        Jeu().ModeRévision = False;
+        Jeu().ModeRévision = false;
         AjusteEcran();
         AjusteCarte();
         MontreCantons();

@@ -15,10 +15,10 @@
 #include <QFile>
 #include <QMenu>
 
-i16 GrilleActive = False;
+bool GrilleActive = false;
 i32 CodeEtapes = 0;
-i16 ParamétrageNommé = False;
-i16 ParamétrageDeLancement = False;
+bool ParamétrageNommé = false;
+bool ParamétrageDeLancement = false;
 
 namespace {
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");
@@ -48,8 +48,8 @@ void SéquenceEntrée()
     Principal().setHelpContextID(65);
     DébutEtape();
     AffichePanneau();
-    Jeu().PartieVierge = True;
-    Jeu().ModeRévision = False;
+    Jeu().PartieVierge = true;
+    Jeu().ModeRévision = false;
     AjusteCarte();
     MontreCantons();
 }
@@ -96,9 +96,9 @@ void RechargeParamétrage()
 void AfficheParamétrage()
 {
     auto &E = Principal();
-    GrilleActive = False;
-    Jeu().PartieEnregistrée = True;
-    Jeu().PartieVierge = True;
+    GrilleActive = false;
+    Jeu().PartieEnregistrée = true;
+    Jeu().PartieVierge = true;
     CacheZoneJeu();
     CodeEtapes = 0;
     for (int k = 1; k <= 16; ++k) {
@@ -118,20 +118,20 @@ void AfficheParamétrage()
         }
     if (FichierLancement == ParamétrageNonSauvé) {
         E.LBLParam[3]->setText(Messages[94]);
-        ParamétrageNommé = False;
+        ParamétrageNommé = false;
         E.Bouton[18]->hide();
         E.LBLParam[13]->hide();
     } else {
         E.LBLParam[3]->setText(Messages[71] + QLatin1Char('\n') + FichierLancement);
         E.LBLParam[3]->setToolTip(FichierLancement);
-        ParamétrageNommé = True;
+        ParamétrageNommé = true;
         E.Bouton[17]->setChecked(true);
         E.Bouton[18]->show();
         E.LBLParam[13]->show();
         E.Bouton[18]->setEnabled(Jeu().Etape != TEtape::ParamétrageAffiché);
         QString lancement;
         LitValeur(CléJeu, FichierDeLancement, lancement);
-        ParamétrageDeLancement = Booléen(lancement == FichierLancement);
+        ParamétrageDeLancement = lancement == FichierLancement;
         E.Bouton[18]->setChecked(ParamétrageDeLancement);
     }
     if (Jeu().Etape == TEtape::ParamétrageAffiché) {
@@ -144,7 +144,7 @@ void AfficheParamétrage()
         E.LBLParam[2]->setText(Messages[69]);
         MenusDeJeu(false);
     }
-    GrilleActive = True;
+    GrilleActive = true;
 }
 
 void CacheParamétrage()
@@ -235,7 +235,7 @@ void BTN_Click(int i)
 void ValideParamétrage()
 {
     auto &E = Principal();
-    SortieParamétrage = True;
+    SortieParamétrage = true;
     i32 code = 0;
     for (int n = 1; n <= 4; ++n) {
         Jeu().OrdreEtapes[n] = TEtape::Aucune;
@@ -263,7 +263,7 @@ void ValideParamétrage()
             EcritFichierScores(false);
         }
     } else {
-        LancementDemandé = Booléen(E.Bouton[18]->isChecked());
+        LancementDemandé = E.Bouton[18]->isChecked();
         if (code != CodeEtapes || modifié) {
             ModeRépertoires = TModeRépertoires::Sauvegarde;
             TypeFichier = TTypeFichier::Paramétrage;
@@ -287,7 +287,7 @@ void AnnuleParamétrage()
     Jeu().Etape = TEtape::Aucune;
     DébutEtape();
     AffichePanneau();
-    Jeu().ModeRévision = False;
+    Jeu().ModeRévision = false;
     AjusteCarte();
     MontreCantons();
 }

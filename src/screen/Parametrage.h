@@ -3,10 +3,10 @@
 // play, a grid of step kinds by rank in the side panel.
 #include "engine/communs.h"
 
-extern i16 GrilleActive;
+extern bool GrilleActive;
 extern i32 CodeEtapes;
-extern i16 ParamétrageNommé;
-extern i16 ParamétrageDeLancement;
+extern bool ParamétrageNommé;
+extern bool ParamétrageDeLancement;
 
 void DéfinitParamétrage();
 void RevoitParamétrage();

@@ -129,7 +129,7 @@ bool Main()
     LitParamètres();
     if (!ParamètresLus)
         return false;
-    SonActif = True;
+    SonActif = true;
     if (!ChargeCarteZones())
         return false;
     AffichePatience();

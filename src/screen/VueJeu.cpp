@@ -12,7 +12,6 @@
 namespace {
 // Values assigned to a whole-number property round to the nearest, halves to even.
 int Arrondi(double v) { return static_cast<int>(std::lrint(v)); }
-bool EtapeDeJeu() { return ::EtapeDeJeu(Jeu().Etape); }
 } // namespace
 
 // ---------------------------------------------------------------- the game's screen
@@ -304,7 +303,7 @@ void PlaceRond(i16 i, bool Cible, i16 x, i16 y)
 void BoutonGruge_Click()
 {
     AmèneEnVue(Jeu().CantonRecherché);
-    Jeu().AssistanceUtilisée = True;
+    Jeu().AssistanceUtilisée = true;
     PlaceRond(Jeu().CantonRecherché);
 }
 

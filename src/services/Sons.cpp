@@ -3,7 +3,7 @@
 #include "platform/Son.h"
 #include "services/Registre.h"
 
-i16 SonActif = True;
+bool SonActif = true;
 QString SonBravo, SonErreur, SonEtape, SonPerdu, SonInfo;
 QString SonSystèmeExclamation, SonSystèmeAsterisk, SonSystèmeHand, SonSystèmeQuestion;
 

@@ -2,7 +2,7 @@
 // The game's five sounds; whether they play at all is the player's choice.
 #include "engine/communs.h"
 
-extern i16 SonActif;
+extern bool SonActif;
 extern QString SonBravo, SonErreur, SonEtape, SonPerdu, SonInfo;
 
 // Starts the sound without waiting for it, when sound is on.

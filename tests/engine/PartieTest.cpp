@@ -25,15 +25,17 @@ TEST_F(Partie, AWholeGameAtEachLevelShowsEveryQuestionAndEndsAt999999WithThreeAn
         for (int garde = 0; Jeu().Etape != TEtape::Aucune && garde < 200; ++garde) {
             const i16 c = Jeu().CantonRecherché;
             const TEtape é = Jeu().Etape;
-            if (é == TEtape::Cantons || é == TEtape::ChefsLieux)
+            if (é == TEtape::Cantons || é == TEtape::ChefsLieux) {
                 EXPECT_EQ(E.TexteAChercher->text(), é == TEtape::Cantons ? Jeu().Cantons[c].Nom : Jeu().Cantons[c].ChefLieu);
+            }
             // The outline at Moyen, the big cantons' reduction, the flag: each fills the frame, centred.
             const bool cadre = (é == TEtape::Cantons && niveau == 2) || é == TEtape::Drapeaux;
             const Image *image = é == TEtape::Drapeaux ? E.drapeau[c] : E.miniature[c] ? E.miniature[c] : E.inv[c];
-            if (é != TEtape::Plaques)
+            if (é != TEtape::Plaques) {
                 EXPECT_TRUE(E.ElémentRecherché->Visible() == cadre && (!cadre || (E.ImageRecherchée->size() == image->size() &&
                             E.ImageRecherchée->Left() == std::lrint((200 - image->Width()) / 2.0))))
                     << "level " << niveau << " step " << Numéro(é) << " canton " << c;
+            }
             RépondJuste();
         }
         EXPECT_EQ(Jeu().Score, 999999) << "level " << niveau;
@@ -64,7 +66,7 @@ TEST_F(Partie, ADoubleClickAnswersOnceAndEachAnnouncementReachesThePlayerInItsBo
     RépondJuste();          // the hint on the cards
     CliqueCanton(premier);  // a found canton opens its card
     EXPECT_TRUE(!FormesMontrées().empty() && FormesMontrées().back() == "Pompe");
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     NouvellePartieAuNiveau(3);
     const i16 c = Jeu().CantonRecherché;
     auto &E = Principal();
@@ -107,7 +109,7 @@ TEST_F(Partie, TheMapThePassTheBulbAndLeavingDoWhatTheRulesSay)
     EXPECT_FALSE(ConfirmeArrêt());
     EXPECT_TRUE(Jeu().Etape == TEtape::Cantons && Jeu().RestantsEtape == 25);
 
-    Jeu().PartieVierge = True; // as if no click was made: nothing to ask
+    Jeu().PartieVierge = true; // as if no click was made: nothing to ask
     NouvellePartieAuNiveau(1, true);
     const i16 demandé = Jeu().CantonRecherché;
     for (int e = 0; e < 3; ++e)

@@ -30,7 +30,7 @@ protected:
     {
         JeuTest::SetUp();
         RazScores();
-        Jeu().ScoresFinPartie = False;
+        Jeu().ScoresFinPartie = false;
         FormesMontrées().clear();
     }
 

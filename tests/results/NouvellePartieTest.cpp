@@ -79,7 +79,7 @@ TEST_F(Dialogue, LevelsAndTheClock)
         EXPECT_TRUE(d.NiveauExpert->isChecked());
     }
     Jeu().Niveau = TNiveau::Facile;
-    Jeu().ModeApprentissage = True;
+    Jeu().ModeApprentissage = true;
     NouvellePartie d;
     EXPECT_TRUE(d.NiveauFacile->isChecked());
     d.show();

@@ -222,7 +222,7 @@ TEST_F(Sauvegarde, DamagedFilesChangeNothing)
     // Another version chosen in the dialog: its message, then the dialog's own.
     Ecrit("vieux.CAS", autre);
     boîtes.journal.clear();
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     Choisit();
     FichierLire_Click();
     ASSERT_EQ(boîtes.journal.size(), 2u);

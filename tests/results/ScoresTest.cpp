@@ -72,7 +72,7 @@ protected:
     void Termine(int niveau, i32 score, i32 durée, i32 départ = 1000)
     {
         Jeu().Niveau = static_cast<TNiveau>(niveau);
-        Jeu().ScoreGelé = False;
+        Jeu().ScoreGelé = false;
         Jeu().Score = score;
         Jeu().HeureDépart = départ;
         horloge = (départ + durée) % 86400;
@@ -211,7 +211,7 @@ TEST_F(Store, RankingIntoTheBestTen)
     EXPECT_EQ(boîtes.journal.back().texte, Messages[41]);
     // Apprentissage keeps no score.
     boîtes.journal.clear();
-    Jeu().ScoreGelé = True;
+    Jeu().ScoreGelé = true;
     Jeu().Niveau = TNiveau::Facile;
     EnregistreScore();
     EXPECT_EQ(Jeu().NombreScores[1], 0);

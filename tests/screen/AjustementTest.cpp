@@ -88,7 +88,7 @@ TEST_P(Ajustement800, FiguresOfTheNarrowScreen)
     EXPECT_EQ(E.BarreH->LargeChange(), 82);
     EXPECT_EQ(E.BarreH->SmallChange(), 16);
     // Révision drops the panel's width: the whole map fits again.
-    Jeu().ModeRévision = True;
+    Jeu().ModeRévision = true;
     AjusteCarte();
     EXPECT_EQ(E.Carte->Width(), 656);
     EXPECT_FALSE(E.BarreH->Visible());

@@ -55,7 +55,7 @@ TEST_F(Marques, EveryStepAndLevelShowsWhatItsTableSays)
                 EXPECT_EQ(E.inv[c]->Visible(), a.inv) << "step " << étape << " level " << niveau << " canton " << c;
                 EXPECT_EQ(E.rond[c]->Visible(), a.rond) << "step " << étape << " level " << niveau << " canton " << c;
             }
-            Jeu().PartieVierge = True;
+            Jeu().PartieVierge = true;
         }
     Jeu().Cantons[9].Inhibé = False;
 }
@@ -104,7 +104,7 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
     }
     ASSERT_EQ(entrées.size(), 26u);
     auto mets = [&](int état) {
-        Jeu().PartieVierge = True;
+        Jeu().PartieVierge = true;
         if (état == 1) {
             NouvellePartieAuNiveau(2);
             RépondJuste();

@@ -286,7 +286,7 @@ TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStart)
     Jeu().NomJoueur = QStringLiteral("Zoé");
     EnregistreJoueur();
 
-    Jeu().PartieVierge = True;
+    Jeu().PartieVierge = true;
     delete forme;
     forme = nullptr;
     Langue = 1;
