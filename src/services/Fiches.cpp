@@ -1,6 +1,5 @@
 #include "services/Fiches.h"
 
-#include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "files/FichierEnregistrements.h"
 #include "services/Chemins.h"
@@ -16,10 +15,8 @@ QString TexteLu;
 QString FichierFichesOuvert;
 
 namespace {
-enum class Lecture { Lue, Absente, Abîmée };
+using Lecture = TLectureFiche;
 
-// A file or a record that isn't there is no fault: the card is empty. A record whose
-// lengths run past its 650 bytes, or past the end of the file, is damaged.
 Lecture LitFiche(const QString &chemin, int numéro, TFiche &fiche)
 {
     if (numéro < 1)
@@ -27,21 +24,7 @@ Lecture LitFiche(const QString &chemin, int numéro, TFiche &fiche)
     QFile f(chemin);
     if (!f.open(QIODevice::ReadOnly) || !f.seek(qint64(numéro - 1) * TailleFiche))
         return Lecture::Absente;
-    const QByteArray r = f.read(TailleFiche);
-    if (r.isEmpty())
-        return Lecture::Absente;
-    auto longueur = [&r](int i) { return int(quint8(r[i]) | quint8(r[i + 1]) << 8); };
-    if (r.size() < 4)
-        return Lecture::Abîmée;
-    const int n1 = longueur(0);
-    if (4 + n1 > r.size())
-        return Lecture::Abîmée;
-    const int n2 = longueur(2 + n1);
-    if (4 + n1 + n2 > r.size())
-        return Lecture::Abîmée;
-    fiche.Nom = DepuisAnsi(r.constData() + 2, n1);
-    fiche.Texte = DepuisAnsi(r.constData() + 4 + n1, n2);
-    return Lecture::Lue;
+    return LitOctetsFiche(f.read(TailleFiche), fiche);
 }
 } // namespace
 
@@ -60,19 +43,6 @@ TFiche FicheMontrée(const QString &chemin, int numéro)
     return fiche;
 }
 
-QByteArray OctetsFiche(const TFiche &fiche)
-{
-    const QByteArray nom = VersAnsi(fiche.Nom);
-    const QByteArray texte = VersAnsi(fiche.Texte);
-    if (4 + nom.size() + texte.size() > TailleFiche)
-        return {};
-    QByteArray r;
-    r.reserve(TailleFiche);
-    r.append(char(nom.size() & 0xFF)).append(char(nom.size() >> 8)).append(nom);
-    r.append(char(texte.size() & 0xFF)).append(char(texte.size() >> 8)).append(texte);
-    r.append(QByteArray(TailleFiche - r.size(), '\0'));
-    return r;
-}
 
 TFiche LireFiche(int numéro)
 {

@@ -1,19 +1,7 @@
 #pragma once
-// The information cards: one file of 650-byte records per language, a canton each.
-// A record holds the name and the text, each behind its length on two bytes, little-endian,
-// in Windows-1252; the rest of the record is not significant.
+// The information cards: the files of each language read and written in place.
 #include "engine/communs.h"
-
-#include <QByteArray>
-#include <QString>
-
-struct TFiche {
-    QString Nom;
-    QString Texte;
-};
-
-constexpr int TailleFiche = 650;
-constexpr int NombreFiches = 26;
+#include "files/FichierInfo.h"
 
 // Reads record numéro (1..26) of an information file; false when the file or the
 // record can't be read, or the record's lengths run past its 650 bytes.
@@ -22,10 +10,6 @@ bool LitFicheInfo(const QString &chemin, int numéro, TFiche &fiche);
 // Record numéro as a card shows it: empty past the end of the file or without a file;
 // a damaged record is told to the player as a file that can't be read, and shows empty.
 TFiche FicheMontrée(const QString &chemin, int numéro);
-
-// The 650 bytes of a record, zero-filled behind its text; empty when name and text
-// with their two lengths run past 650 bytes.
-QByteArray OctetsFiche(const TFiche &fiche);
 
 // The record on screen in Edition, and the text last read there: a box that still
 // holds that text has nothing to write.
