@@ -1,4 +1,4 @@
-// The best-scores form: its rows, its titles, its way to the statistics, and the durations in words.
+// The best-scores form: its rows, its title, its way to the statistics, and the durations in words.
 #include "Fixtures.h"
 
 #include "engine/communs.h"
@@ -16,9 +16,8 @@ namespace {
 TEST(FormatDurée, HoursMinutesAndSecondsWithoutLeadingZerosInFront)
 {
     const struct { i32 d; const char *texte; } cas[] = {
-        {3725, "1h02mn05s"}, {125, "2mn05s"}, {42, "42s"},   {0, "s"},
-        {547, "9mn07s"},     {4147, "1h09mn07s"}, {60, "1mn00s"}, {3600, "1h00mn00s"},
-        {7, "7s"},           {86399, "23h59mn59s"}, {90061, "25h01mn01s"},
+        {3725, "1h02mn05s"}, {125, "2mn05s"}, {42, "42s"}, {0, "s"}, {547, "9mn07s"},
+        {60, "1mn00s"}, {3600, "1h00mn00s"}, {7, "7s"}, {90061, "25h01mn01s"},
     };
     for (const auto &c : cas)
         EXPECT_EQ(FormatDurée(c.d).toStdString(), c.texte) << c.d << " seconds";
@@ -31,80 +30,44 @@ protected:
         JeuTest::SetUp();
         RazScores();
         Jeu().ScoresFinPartie = false;
-        FormesMontrées().clear();
     }
-
-    // What the form showed when opened through the menu's entry point; rows read "name|points|duration".
-    struct Vu {
-        std::string etiquette;
-        std::vector<std::string> lignes;
-        bool statistiques = false;
-        size_t boîtesAvant = 0;
-    };
-    Vu Affiche(i16 niveau)
+    // The form's title, then its ten rows as "name|points|duration", empty rows left out.
+    static std::vector<std::string> Vu(const AffichageScores &f)
     {
-        Vu v;
-        InstalleFormesModales([&](QDialog &d) {
-            auto &f = dynamic_cast<AffichageScores &>(d);
-            v.etiquette = f.Etiquette->text().toStdString();
-            for (int i = 1; i <= 10; ++i)
-                v.lignes.push_back(
-                    (f.nomjoueur[i]->text() + '|' + f.valeurscore[i]->text() + '|' + f.valeurdurée[i]->text())
-                        .toStdString());
-            v.statistiques = f.BoutonStatistiques->Visible();
-            v.boîtesAvant = boîtes.journal.size();
-            return 0;
-        });
-        AfficheMeilleursScores(niveau);
-        InstalleFormesModales([](QDialog &) { return 0; });
-        return v;
-    }
-    // The given rows, then empty ones up to ten.
-    static std::vector<std::string> Lignes(std::vector<std::string> v)
-    {
-        v.resize(10, "||");
+        std::vector<std::string> v{f.Etiquette->text().toStdString()};
+        for (int i = 1; i <= 10; ++i)
+            v.push_back((f.nomjoueur[i]->text() + '|' + f.valeurscore[i]->text() + '|' + f.valeurdurée[i]->text()).toStdString());
+        while (v.back() == "||")
+            v.pop_back();
         return v;
     }
 };
 
-TEST_F(Meilleurs, ThreeLinesShowThreeRowsAndSevenEmptyOnes)
-{
-    Jeu().NombreScores[2] = 3;
-    Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
-    Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
-    Jeu().MeilleursScores[2][3] = {QStringLiteral("Lou"), -4321, 42};
-    Jeu().MeilleursScores[3][1] = {QStringLiteral("Autre niveau"), 7, 7};
-    EXPECT_EQ(Affiche(2).lignes,
-              Lignes({"Zoé|812345|1h02mn05s", "Marc-André Weißmüller|1500|2mn05s", "Lou|-4321|42s"}));
-}
-
-TEST_F(Meilleurs, ALineOfZeroPointsIsAnEmptyRowThoughItCounts)
-{
-    Jeu().NombreScores[4] = 3;
-    Jeu().MeilleursScores[4][1] = {QStringLiteral("Ana"), 5000, 300};
-    Jeu().MeilleursScores[4][2] = {QStringLiteral("Nul"), 0, 77};
-    Jeu().MeilleursScores[4][3] = {QStringLiteral("Max"), -20, 50};
-    EXPECT_EQ(Affiche(4).lignes, Lignes({"Ana|5000|5mn00s", "||", "Max|-20|50s"}));
-}
-
-TEST_F(Meilleurs, NoLevelYetAsksThenShowsFacileAndEachLevelHasItsTitle)
+TEST_F(Meilleurs, NoLevelYetAsksFirstThenShowsFacileAndAChosenLevelShowsItsLinesAZeroAsAnEmptyRow)
 {
     Jeu().Niveau = TNiveau::Aucun; // no game yet in this run: the menu's current level
     Jeu().MeilleursScores[1][1] = {QStringLiteral("Ana"), 999, 61};
-    Jeu().MeilleursScores[2][1] = {QStringLiteral("Pas ici"), 5, 5};
-    const Vu v = Affiche(Numéro(Jeu().Niveau));
+    size_t boîtesAvant = 0;
+    InstalleFormesModales([&](QDialog &d) {
+        EXPECT_EQ(Vu(dynamic_cast<AffichageScores &>(d)), (std::vector<std::string>{"Niveau facile", "Ana|999|1mn01s"}));
+        return int(boîtesAvant = boîtes.journal.size());
+    });
+    AfficheMeilleursScores(Numéro(Jeu().Niveau));
+    EXPECT_EQ(boîtesAvant, 1u) << "the box comes before the list";
     ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(v.boîtesAvant, 1u) << "the box comes before the list";
     EXPECT_EQ(boîtes.journal[0].texte, Messages[13]);
-    EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Soyez plus précis dans vos requêtes..."));
-    EXPECT_EQ(boîtes.journal[0].style, StyleInformation);
-    EXPECT_EQ(v.etiquette, "Niveau facile");
-    EXPECT_EQ(v.lignes, Lignes({"Ana|999|1mn01s"}));
     EXPECT_EQ(NiveauAffiché, 1);
 
-    const char *titres[] = {"", "Niveau facile", "Niveau moyen", "Niveau difficile", "Expert"};
-    for (i16 n = 1; n <= 4; ++n)
-        EXPECT_EQ(Affiche(n).etiquette, titres[n]);
+    Jeu().NombreScores[2] = 4;
+    Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
+    Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
+    Jeu().MeilleursScores[2][3] = {QStringLiteral("Nul"), 0, 77};
+    Jeu().MeilleursScores[2][4] = {QStringLiteral("Lou"), -4321, 42};
+    NiveauAffiché = 2;
+    EXPECT_EQ(Vu(AffichageScores()), (std::vector<std::string>{"Niveau moyen", "Zoé|812345|1h02mn05s",
+                                                               "Marc-André Weißmüller|1500|2mn05s", "||", "Lou|-4321|42s"}));
+    NiveauAffiché = 4;
+    EXPECT_EQ(Vu(AffichageScores()), std::vector<std::string>{"Expert"});
     EXPECT_EQ(boîtes.journal.size(), 1u) << "a level chosen asks nothing";
 }
 
@@ -126,12 +89,12 @@ TEST_F(Meilleurs, StatisticsAreOfferedAtTheEndOfAGameOnlyAndOpenOverTheList)
     Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     for (int i = 1; i <= NombrePlaces; ++i)
         Jeu().Cantons[i].Inhibé = Booléen(i != 3);
-    bool boutonVisible = false;
+    std::vector<bool> bouton;
     QColor trouvé, laissé;
     InstalleFormesModales([&](QDialog &d) {
         if (auto *f = dynamic_cast<AffichageScores *>(&d)) {
-            boutonVisible = f->BoutonStatistiques->Visible();
-            if (boutonVisible)
+            bouton.push_back(f->BoutonStatistiques->Visible());
+            if (bouton.back())
                 f->BoutonStatistiques->click();
         } else if (auto *s = dynamic_cast<Stats *>(&d)) {
             trouvé = s->PertePays[3]->palette().color(QPalette::Window);
@@ -139,17 +102,17 @@ TEST_F(Meilleurs, StatisticsAreOfferedAtTheEndOfAGameOnlyAndOpenOverTheList)
         }
         return 0;
     });
+    FormesMontrées().clear();
     NouvellePartieAuNiveau(2);
     RépondJuste();
-    EXPECT_TRUE(boutonVisible) << "the form that opens at the game's end offers the statistics";
     EXPECT_EQ(FormesMontrées(), (std::vector<QString>{QStringLiteral("AffichageScores"), QStringLiteral("Stats")}));
     // Nothing was lost: the table keeps the order of the numbers, the one canton played is green.
     EXPECT_EQ(trouvé, CouleurTrouvé);
     EXPECT_EQ(laissé, CouleurNeutre()) << "a canton left out has no colour";
-
     // From the menu afterwards, also right after a game that ended normally: no statistics.
-    EXPECT_FALSE(Affiche(Numéro(Jeu().Niveau)).statistiques);
-    EXPECT_FALSE(Affiche(1).statistiques);
+    AfficheMeilleursScores(Numéro(Jeu().Niveau));
+    AfficheMeilleursScores(1);
+    EXPECT_EQ(bouton, (std::vector<bool>{true, false, false}));
 }
 
 } // namespace

@@ -10,78 +10,48 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QApplication>
 #include <QRadioButton>
-#include <QTest>
-#include <QTimer>
 
 namespace {
 
 using Dialogue = JeuTest;
 
-TEST_F(Dialogue, FirstGameOffersFacileAndAnEmptyNameWithTheFocusInIt)
-{
-    NouvellePartie d;
-    d.show();
-    QApplication::processEvents();
-    EXPECT_TRUE(d.NiveauFacile->isChecked());
-    EXPECT_TRUE(d.BoîteNomJoueur->text().isEmpty());
-    EXPECT_EQ(QApplication::focusWidget(), d.BoîteNomJoueur);
-    EXPECT_EQ(d.windowTitle(), "Nouvelle partie");
-    EXPECT_EQ(d.size(), QSize(312, 303));
-}
-
-TEST_F(Dialogue, NamesAreCutAtTwentyAndBlankNamesRefused)
+TEST_F(Dialogue, TheLevelOfferedTheNameAndLevelChosenTheClockAndTheFocus)
 {
     {
-        NouvellePartie d;
+        NouvellePartie d; // a first game: Facile, an empty name to type
+        d.show();
+        QApplication::processEvents();
+        EXPECT_TRUE(d.NiveauFacile->isChecked() && d.BoîteNomJoueur->text().isEmpty());
+        EXPECT_EQ(QApplication::focusWidget(), d.BoîteNomJoueur);
         d.BoîteNomJoueur->setText("   ");
         d.BoutonSortie->click();
-        ASSERT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_EQ(boîtes.journal[0].texte, Messages[11]);
-        EXPECT_EQ(boîtes.journal[0].titre, QString::fromUtf8("Saisie incomplète"));
-        EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-        EXPECT_EQ(d.result(), 0);
-        EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
+        EXPECT_EQ(boîtes.journal.at(0).texte, Messages[11]) << "a blank name is refused";
+        EXPECT_TRUE(d.result() == 0 && Jeu().Etape == TEtape::Aucune && Jeu().NomJoueur.isEmpty());
     }
-    const struct { const char *tapé; const char *gardé; } cas[] = {
-        {"Abcdefghijklmnopqrst", "Abcdefghijklmnopqrst"},
-        {"Abcdefghijklmnopqrstu", "Abcdefghijklmnopqrst"},
-        {"  Zoé", "  Zoé"},
-    };
-    for (const auto &c : cas) {
+    horloge = 4000.6;
+    // Names are cut at twenty, kept as typed otherwise.
+    struct Cas { QRadioButton *NouvellePartie::*bouton; const char *tapé, *gardé; int niveau; bool apprentissage; };
+    for (Cas c : {Cas{&NouvellePartie::NiveauApprentissage, "Abcdefghijklmnopqrst", "Abcdefghijklmnopqrst", 1, true},
+                  Cas{&NouvellePartie::NiveauFacile, "Abcdefghijklmnopqrstu", "Abcdefghijklmnopqrst", 1, false},
+                  Cas{&NouvellePartie::NiveauMoyen, "  Zoé", "  Zoé", 2, false}, Cas{&NouvellePartie::NiveauDifficile, "Lou", "Lou", 3, false},
+                  Cas{&NouvellePartie::NiveauExpert, "Lou", "Lou", 4, false}}) {
         NouvellePartie d;
         d.BoîteNomJoueur->setText(QString::fromUtf8(c.tapé));
-        d.BoutonSortie->click();
-        EXPECT_EQ(Jeu().NomJoueur, QString::fromUtf8(c.gardé));
-        EXPECT_EQ(Jeu().Etape, Jeu().OrdreEtapes[1]);
-    }
-}
-
-TEST_F(Dialogue, LevelsAndTheClock)
-{
-    horloge = 4000.6;
-    struct Cas { QRadioButton *NouvellePartie::*bouton; int niveau; bool apprentissage; };
-    for (Cas c : {Cas{&NouvellePartie::NiveauApprentissage, 1, true}, Cas{&NouvellePartie::NiveauFacile, 1, false},
-                  Cas{&NouvellePartie::NiveauMoyen, 2, false}, Cas{&NouvellePartie::NiveauDifficile, 3, false},
-                  Cas{&NouvellePartie::NiveauExpert, 4, false}}) {
-        NouvellePartie d;
-        d.BoîteNomJoueur->setText("Lou");
         (d.*c.bouton)->setChecked(true);
         d.BoutonSortie->click();
-        EXPECT_EQ(Numéro(Jeu().Niveau), c.niveau);
-        EXPECT_EQ(Jeu().ModeApprentissage, c.apprentissage);
-        EXPECT_EQ(Jeu().ScoreGelé, Jeu().ModeApprentissage);
-        EXPECT_EQ(Jeu().HeureDépart, 4001);
+        EXPECT_EQ(Jeu().NomJoueur, QString::fromUtf8(c.gardé));
+        EXPECT_EQ(std::vector<int>({Numéro(Jeu().Etape), Numéro(Jeu().Niveau), Jeu().ModeApprentissage, Jeu().ScoreGelé, Jeu().HeureDépart}),
+                  std::vector<int>({Numéro(Jeu().OrdreEtapes[1]), c.niveau, c.apprentissage, c.apprentissage, 4001}));
     }
-    // After Expert the dialog offers Expert; after Apprentissage, Facile.
-    {
-        NouvellePartie d;
-        EXPECT_TRUE(d.NiveauExpert->isChecked());
-    }
+    EXPECT_EQ(boîtes.journal.size(), 1u);
+    EXPECT_TRUE(NouvellePartie().NiveauExpert->isChecked()) << "the last level is offered again";
     Jeu().Niveau = TNiveau::Facile;
     Jeu().ModeApprentissage = true;
-    NouvellePartie d;
+    NouvellePartie d; // after Apprentissage, Facile
     EXPECT_TRUE(d.NiveauFacile->isChecked());
+    EXPECT_EQ(d.BoîteNomJoueur->text(), "Lou");
     d.show();
     QApplication::processEvents();
     EXPECT_EQ(QApplication::focusWidget(), d.BoutonSortie) << "a known name: Enter starts the game";
