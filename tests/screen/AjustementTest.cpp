@@ -1,100 +1,103 @@
-// The map window, its scroll bars and the side panel on screens of every size.
+// The main window fitted to screens of every size, and the map scrolled under its window.
 #include "Fixtures.h"
 
 #include "engine/communs.h"
 #include "platform/Ecran.h"
-#include "screen/Ajustement.h"
-#include "screen/Chargement.h"
 #include "screen/EcranPrincipal.h"
 
 namespace {
 
-struct Ecran_ {
-    int largeur, hauteur, basTravail;
-    int carteLargeur;   // Carte.Width after the fit
-    bool barreH, barreV;
-};
-
-class Ajustement : public JeuTest, public ::testing::WithParamInterface<Ecran_> {
+class Ajustement : public JeuTest {
 protected:
-    void SetUp() override
+    // Starts the program again on a screen of this size and work area.
+    void Ecran(int largeur, int hauteur, int basTravail)
     {
-        JeuTest::SetUp();
+        Jeu().PartieVierge = true;
         delete forme;
         forme = nullptr;
-        const Ecran_ e = GetParam();
-        InstalleEcran(InfoEcran{e.largeur, e.hauteur, QRect(0, 0, e.largeur, e.basTravail), 24});
+        InstalleEcran(InfoEcran{largeur, hauteur, QRect(0, 0, largeur, basTravail), 24});
         HauteurFenêtre = LargeurFenêtre = 0;
         ASSERT_TRUE(Main());
         forme = FormePrincipale();
     }
 };
 
-TEST_P(Ajustement, MapWindowBarsAndPanel)
+TEST_F(Ajustement, MapBarsAndPanelOnEveryScreen)
 {
-    const Ecran_ e = GetParam();
-    auto &E = Principal();
-    EXPECT_EQ(E.Carte->Width(), e.carteLargeur);
-    EXPECT_EQ(E.BarreH->Visible(), e.barreH);
-    EXPECT_EQ(E.BarreV->Visible(), e.barreV);
-    EXPECT_EQ(E.Carte->Top(), 5);
-    EXPECT_LE(E.Carte->Height(), 456);
-    if (!e.barreV) {
-        EXPECT_EQ(E.Carte->Height(), 456);
-    }
-    if (e.barreH) {
-        EXPECT_EQ(E.BarreH->Max(), 652 - E.Carte->Width() + 4);
-        EXPECT_EQ(E.BarreH->Width(), E.Carte->Width());
-        EXPECT_EQ(E.BarreH->SmallChange(), E.BarreH->LargeChange() / 5);
-    }
-    if (e.barreV) {
-        EXPECT_EQ(E.BarreV->Max(), 456 - E.Carte->Height() + 4);
-        EXPECT_EQ(E.BarreV->SmallChange(), E.BarreV->LargeChange());
-        EXPECT_EQ(E.BarreV->Left(), E.Carte->Width());
-    }
-    // The panel stands right of the map, the buttons share one place beside the count.
-    const int droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
-    EXPECT_EQ(E.QueFaire->Left(), droite + 10);
-    EXPECT_EQ(E.BoîteScore->Left(), droite + 10);
-    EXPECT_EQ(E.BoutonPasse->pos(), E.BoutonGruge->pos());
-    EXPECT_EQ(E.BoîteRestants->Top(), E.BoîteScore->Top() - E.BoîteRestants->Height() - 5);
-    EXPECT_EQ(E.LBLParam[1]->Top(), E.Carte->Top());
-    EXPECT_EQ(E.LBLParam[1]->Left(), droite + 5);
-    EXPECT_EQ(E.Bouton[16]->Left() - E.Bouton[1]->Left(), 949 - 848);
+    // The map window, the bars' figures (0 where a bar is hidden) and the panel's tops.
+    const struct Cas { int l, h, bas; std::vector<int> carteEtBarres, panneau; } cas[] = {
+        {640, 480, 400, {396, 338, 260, 356, 71, 122}, {351, 289, 301}},
+        {800, 600, 450, {556, 332, 100, 96, 19, 128}, {358, 296, 308}},
+        {800, 600, 570, {570, 456, 86, 82, 16, 0}, {403, 341, 353}},
+        {1024, 768, 728, {656, 456, 0, 0, 0, 0}, {403, 341, 353}},
+        {1280, 1024, 984, {656, 456, 0, 0, 0, 0}, {403, 341, 353}},
+        {1920, 1080, 1040, {656, 456, 0, 0, 0, 0}, {403, 341, 353}},
+    };
+    for (const Cas &c : cas) {
+        SCOPED_TRACE(testing::Message() << c.l << "x" << c.h << " to " << c.bas);
+        Ecran(c.l, c.h, c.bas);
+        auto &E = Principal();
+        const bool h = E.BarreH->Visible(), v = E.BarreV->Visible();
+        EXPECT_EQ((std::vector<int>{E.Carte->Width(), E.Carte->Height(), h ? E.BarreH->Max() : 0, h ? E.BarreH->LargeChange() : 0,
+                                    h ? E.BarreH->SmallChange() : 0, v ? E.BarreV->Max() : 0}),
+                  c.carteEtBarres);
+        EXPECT_EQ((std::vector<int>{E.BoîteScore->Top(), E.BoîteRestants->Top(), E.BoutonGruge->Top()}), c.panneau);
+        EXPECT_TRUE(!h || E.BarreH->Width() == E.Carte->Width()) << "the horizontal bar leaves room for the vertical one";
+        EXPECT_TRUE(!v || E.BarreV->Left() == E.Carte->Width());
+        // The panel stands right of the map, all of it inside the window; the digits in their boxes.
+        const int droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
+        EXPECT_EQ(E.QueFaire->Left(), droite + 10);
+        EXPECT_EQ(E.BoîteScore->Left(), droite + 10);
+        EXPECT_EQ(E.LBLParam[1]->pos(), QPoint(droite + 5, E.Carte->Top()));
+        EXPECT_EQ(E.BoutonPasse->pos(), E.BoutonGruge->pos());
+        for (QWidget *w : std::initializer_list<QWidget *>{E.LBLParam[2], E.LBLParam[13], E.Bouton[1], E.Bouton[16], E.BTN[2]})
+            EXPECT_TRUE(w->x() >= droite && w->x() + w->width() <= E.width()) << w->x();
+        for (int i = 0; i <= 6; ++i) {
+            EXPECT_TRUE(E.BoîteScore->geometry().contains(E.Digit[i]->geometry())) << "digit " << i;
+            EXPECT_TRUE(i < 1 || i > 3 || E.BoîteRestants->geometry().contains(E.Reste[i]->geometry())) << "count " << i;
+        }
 
-    // Run again, nothing moves sideways and the digits keep their place in their boxes.
-    const int avantDigit = E.Digit[3]->Left();
-    const QPoint avantParam = E.LBLParam[5]->pos();
-    AjusteEcran();
-    EXPECT_EQ(E.Digit[3]->Left(), avantDigit);
-    EXPECT_EQ(E.Digit[3]->Top(), E.BoîteScore->Top() + 15);
-    EXPECT_EQ(E.LBLParam[5]->pos(), avantParam);
+        // Fitted again, nothing moves sideways and the panel keeps its place.
+        auto places = [&] { return std::vector<int>{E.Digit[3]->Left(), E.LBLParam[5]->x(), E.LBLParam[5]->y(), E.Bouton[7]->x(), E.Bouton[7]->y()}; };
+        const std::vector<int> avant = places();
+        AjusteEcran();
+        EXPECT_EQ(places(), avant);
+
+        // Assistance brings Thurgau, north-east, into view; where the map fits it moves nothing.
+        NouvellePartieAuNiveau(1, true);
+        AmèneEnVue(21);
+        const int gauche = Jeu().Cantons[21].PaysGauche + E.ImageRégion[0]->Left();
+        EXPECT_TRUE(gauche >= 0 && gauche + E.Pays[21]->Width() <= E.Carte->Width()) << gauche;
+        EXPECT_TRUE(h || (E.BarreH->Value() == 0 && E.BarreV->Value() == 0));
+
+        // Révision drops the panel's width: the whole map's width fits from 800 pixels on.
+        Jeu().ModeRévision = true;
+        AjusteCarte();
+        if (c.l >= 800) {
+            EXPECT_EQ(std::pair(E.Carte->Width(), E.BarreH->Visible()), std::pair(v ? 642 : 656, false));
+        }
+        Jeu().ModeRévision = false;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Ecrans, Ajustement,
-                         ::testing::Values(Ecran_{800, 600, 450, 570 - 14, true, true},
-                                           Ecran_{800, 600, 600, 570, true, false},
-                                           Ecran_{1024, 768, 728, 656, false, false},
-                                           Ecran_{1280, 1024, 984, 656, false, false},
-                                           Ecran_{1920, 1080, 1040, 656, false, false}));
-
-class Ajustement800 : public Ajustement {};
-
-TEST_P(Ajustement800, FiguresOfTheNarrowScreen)
+TEST_F(Ajustement, AScrollKeepsMarkersInLine)
 {
+    Ecran(800, 600, 570);
     auto &E = Principal();
-    EXPECT_EQ(E.Carte->Width(), 570);
-    EXPECT_EQ(E.BarreH->Max(), 86);
-    EXPECT_EQ(E.BarreH->LargeChange(), 82);
-    EXPECT_EQ(E.BarreH->SmallChange(), 16);
-    // Révision drops the panel's width: the whole map fits again.
-    Jeu().ModeRévision = true;
-    AjusteCarte();
-    EXPECT_EQ(E.Carte->Width(), 656);
-    EXPECT_FALSE(E.BarreH->Visible());
+    NouvellePartieAuNiveau(1, true);
+    const i16 demandé = Jeu().CantonRecherché;
+    for (int k = 0; k < 3; ++k)
+        RépondFaux();
+    E.BoutonGruge->click();
+    E.BarreH->setValue(40);
+    EXPECT_EQ(E.ImageRégion[0]->Left(), -40);
+    for (int i = 1; i <= 26; ++i) {
+        EXPECT_EQ(E.inv[i]->Left(), Jeu().Cantons[i].PaysGauche - 40);
+        EXPECT_EQ(E.rond[i]->Left(), Jeu().Cantons[i].VilleGauche - 40 - (i == demandé ? 4 : 0));
+        EXPECT_EQ(E.rond[i]->Width(), i == demandé ? 16 : 7) << "only the canton asked stays black";
+    }
+    RépondJuste();
+    EXPECT_FALSE(Jeu().AssistanceUtilisée);
 }
-
-// Tall enough that the horizontal bar leaves the map window its full height.
-INSTANTIATE_TEST_SUITE_P(Ecrans, Ajustement800, ::testing::Values(Ecran_{800, 900, 900, 570, true, false}));
 
 } // namespace

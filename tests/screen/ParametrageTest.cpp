@@ -3,13 +3,11 @@
 
 #include "engine/communs.h"
 #include "platform/Formes.h"
-#include "results/Scores.h"
 #include "results/SelectionPartie.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/Parametrage.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
-#include "services/Parametres.h"
 #include "services/Registre.h"
 
 #include <QDir>
@@ -30,61 +28,71 @@ protected:
         RépertoireSauvegarde = dossier.path();
         QDir::setCurrent(dossier.path());
         FichierLancement = dossier.filePath("KELMOR.SCS");
-        for (int k = 1; k <= 4; ++k)
-            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
+        OrdreParDéfaut();
     }
     void TearDown() override
     {
-        for (auto &c : Jeu().Cantons)
-            c.Inhibé = False;
-        for (int k = 1; k <= 4; ++k)
-            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
+        OrdreParDéfaut();
         JeuTest::TearDown();
     }
-    CaseACocher *B(int colonne, int rang) { return Principal().Bouton[(colonne - 1) * 4 + rang]; }
-    // The grid as kinds by rank, 0 for an empty column.
+    static void OrdreParDéfaut()
+    {
+        for (int k = 1; k <= 4; ++k)
+            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
+    }
+    CaseACocher *B(int rang, int genre) { return Principal().Bouton[(rang - 1) * 4 + genre]; }
+    // The grid as kinds by rank, 0 for an empty column, -1 for two boxes in one.
     std::vector<int> Grille()
     {
-        std::vector<int> g;
-        for (int c = 1; c <= 4; ++c) {
-            int kind = 0;
+        std::vector<int> g(4, 0);
+        for (int c = 1; c <= 4; ++c)
             for (int r = 1; r <= 4; ++r)
                 if (B(c, r)->isChecked())
-                    kind = kind ? -1 : r; // -1: two boxes in one column
-            g.push_back(kind);
-        }
+                    g[c - 1] = g[c - 1] ? -1 : r;
         return g;
     }
 };
 
-TEST_F(Parametrage, TheGridKeepsOneKindPerRankNoGapAndAFirstRank)
+TEST_F(Parametrage, EveryTextFitsItsBoxAndTheGridKeepsOneKindPerRankNoGapAndAFirstRank)
 {
+    auto &E = Principal();
     DéfinitParamétrage();
     ASSERT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
-    EXPECT_EQ(Grille(), (std::vector<int>{1, 2, 3, 4}));
-    EXPECT_FALSE(Principal().MenuFichier->isEnabled());
-    EXPECT_TRUE(Principal().MenuLangue->isEnabled());
-
-    B(2, 4)->setChecked(true); // Plaques second: its old rank 4 loses it, Chefs-lieux leaves rank 2
-    EXPECT_EQ(Grille(), (std::vector<int>{1, 4, 3, 0}));
-    B(2, 4)->setChecked(false); // the only box of rank 2: ranks 3 and 4 go too
-    EXPECT_EQ(Grille(), (std::vector<int>{1, 0, 0, 0}));
-
-    boîtes.journal.clear();
-    B(1, 1)->setChecked(false); // the game must start with something
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[48]);
-    EXPECT_EQ(Grille(), (std::vector<int>{1, 0, 0, 0}));
-    B(3, 2)->setChecked(true); // rank 2 still empty
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[45]);
-    B(2, 1)->setChecked(true); // Cantons already stands at rank 1
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[47]);
-    EXPECT_EQ(boîtes.journal.back().titre, "Erreur");
-    EXPECT_EQ(boîtes.journal.back().style, StyleInformation);
-    EXPECT_EQ(Grille(), (std::vector<int>{1, 0, 0, 0}));
-    EXPECT_EQ(boîtes.journal.size(), 3u);
+    ASSERT_EQ(Grille(), (std::vector<int>{1, 2, 3, 4}));
+    EXPECT_FALSE(E.MenuFichier->isEnabled());
+    EXPECT_TRUE(E.MenuLangue->isEnabled());
+    for (int langue : {2, 1}) {
+        ChangeLangue(langue);
+        for (int i = 1; i <= 13; ++i)
+            EXPECT_TRUE(E.LBLParam[i]->TexteTientDans()) << "language " << langue << ", LBLParam(" << i << ")";
+        for (int i = 8; i <= 10; ++i)
+            EXPECT_FALSE(E.LBLParam[i]->geometry().intersects(E.LBLParam[i + 1]->geometry())) << i;
+    }
+    // One click after the other on the box of a rank (column) and a kind (row), then the kinds by
+    // rank and the message shown (0: none).
+    const struct Cas { int rang, genre; bool coché; std::vector<int> grille; int message; } cas[] = {
+        {2, 4, true, {1, 4, 3, 0}, 0},  // plates second: they leave rank 4, chief towns leave rank 2
+        {2, 4, false, {1, 0, 0, 0}, 0}, // the only box of rank 2: the later ranks go too
+        {1, 1, false, {1, 0, 0, 0}, 48}, // the game must start with something
+        {3, 2, true, {1, 0, 0, 0}, 45},  // rank 2 still empty
+        {2, 1, true, {1, 0, 0, 0}, 47},  // cantons already stand at rank 1
+        {2, 3, true, {1, 3, 0, 0}, 0},
+        {3, 2, true, {1, 3, 2, 0}, 0},
+        {1, 2, true, {2, 3, 0, 0}, 0},   // chief towns first: they leave rank 3, which empties
+        {2, 3, false, {2, 0, 0, 0}, 0},
+        {1, 2, false, {2, 0, 0, 0}, 48},
+    };
+    for (const Cas &c : cas) {
+        boîtes.journal.clear();
+        B(c.rang, c.genre)->setChecked(c.coché);
+        const std::string où = std::to_string(c.rang) + "," + std::to_string(c.genre) + (c.coché ? " ticked" : " cleared");
+        EXPECT_EQ(Grille(), c.grille) << où;
+        const QString dit = boîtes.journal.empty() ? QString() : boîtes.journal.back().texte;
+        EXPECT_TRUE(boîtes.journal.size() <= 1 && dit == (c.message ? Messages[c.message] : QString())) << où << ": " << dit.toStdString();
+    }
 }
 
-TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
+TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyListsAndItsOrderIsPlayed)
 {
     Jeu().NombreScores[1] = 1;
     Jeu().MeilleursScores[1][1] = {"Ancien", 900000, 60};
@@ -95,9 +103,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
     EXPECT_EQ(Principal().rond[25]->Width(), 16);
     EXPECT_EQ(Principal().rond[3]->Width(), 20);
     B(1, 4)->setChecked(true);
-    B(2, 1)->setChecked(false);
     B(2, 2)->setChecked(false);
-    ASSERT_EQ(Grille(), (std::vector<int>{4, 0, 0, 0}));
     InstalleFormesModales([](QDialog &d) {
         auto &s = static_cast<SélectionPartie &>(d);
         EXPECT_EQ(ModeRépertoires, TModeRépertoires::Sauvegarde);
@@ -108,14 +114,9 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyLists)
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(FichierLancement, dossier.filePath("plaques.SCS"));
-    EXPECT_EQ(Jeu().Cantons[25].Inhibé, True);
-    EXPECT_EQ(Jeu().Cantons[3].Inhibé, False);
+    EXPECT_TRUE(Jeu().Cantons[25].Inhibé == True && Jeu().Cantons[3].Inhibé == False);
     EXPECT_EQ(Jeu().NombreScores[1], 0);
-    QFile f(FichierLancement);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.size(), 34 * 128) << "the set alone, without lists";
-
-    // The game that follows plays one step of 25 plates.
+    EXPECT_EQ(QFileInfo(FichierLancement).size(), 34 * 128) << "the set alone, without lists";
     NouvellePartieAuNiveau(2);
     EXPECT_EQ(Jeu().Etape, TEtape::Plaques);
     EXPECT_EQ(Jeu().RestantsEtape, 25);
@@ -129,27 +130,36 @@ TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChan
     Principal().Bouton[18]->setChecked(true);
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_TRUE(FormesMontrées().empty());
-    EXPECT_TRUE(boîtes.journal.empty());
+    EXPECT_TRUE(FormesMontrées().empty() && boîtes.journal.empty());
     QString lancement;
     LitValeur(CléKelmor, "fichier de lancement", lancement);
     EXPECT_EQ(lancement, FichierLancement);
     EXPECT_FALSE(QFile::exists(FichierLancement)) << "nothing is written to the file";
-
-    // Shown in step 6, the set is the start-up set and everything is locked.
+    // Shown again, it is the start-up set and everything is locked.
     RevoitParamétrage();
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());
     EXPECT_FALSE(Principal().Bouton[3]->isEnabled());
     EXPECT_TRUE(Principal().BTN[1]->isHidden());
     EXPECT_EQ(Principal().LBLParam[2]->text(), Messages[70]);
-    EXPECT_EQ(Principal().HelpContextID(), 65);
 }
 
-TEST_F(Parametrage, AnUnsavedSetReplacesTheTemporaryFileAndEmptiesTheLists)
+TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToTheTemporaryFileAndTheDefaultComesBack)
 {
+    DéfinitParamétrage();
+    for (int c = 1; c <= 26; ++c)
+        TraiteClic(static_cast<i16>(c), 1, 1);
+    Principal().BTN[1]->click();
+    EXPECT_EQ(boîtes.journal.back().texte, Messages[121]);
+    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
+    Principal().BTN[2]->click();
+    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
+    for (int c = 1; c <= 26; ++c)
+        EXPECT_EQ(Jeu().Cantons[c].Trouvé, False);
+    EXPECT_TRUE(Principal().MenuFichier->isEnabled());
+    EXPECT_TRUE(Principal().LBLParam[1]->isHidden());
+
     QFile vieux(dossier.filePath("~tmp.~cf"));
-    ASSERT_TRUE(vieux.open(QIODevice::WriteOnly));
-    vieux.write("vieux");
+    ASSERT_TRUE(vieux.open(QIODevice::WriteOnly) && vieux.write("vieux") == 5);
     vieux.close();
     Jeu().NombreScores[2] = 1;
     DéfinitParamétrage();
@@ -165,48 +175,14 @@ TEST_F(Parametrage, AnUnsavedSetReplacesTheTemporaryFileAndEmptiesTheLists)
     EXPECT_EQ(FichierLancement, "~tmp.~cf");
     EXPECT_EQ(Jeu().NombreScores[2], 0);
     EXPECT_EQ(QFileInfo(dossier.filePath("~tmp.~cf")).size(), 34 * 128);
-}
 
-TEST_F(Parametrage, NoCantonLeftIsRefusedAndAnnulerDropsTheMarks)
-{
-    DéfinitParamétrage();
-    for (int c = 1; c <= 26; ++c)
-        TraiteClic(static_cast<i16>(c), 1, 1);
-    Principal().BTN[1]->click();
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[121]);
-    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
-    Principal().BTN[2]->click();
-    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    for (int c = 1; c <= 26; ++c)
-        EXPECT_EQ(Jeu().Cantons[c].Trouvé, False);
-    EXPECT_TRUE(Principal().MenuFichier->isEnabled());
-    EXPECT_TRUE(Principal().LBLParam[1]->isHidden());
-}
-
-TEST_F(Parametrage, TheDefaultSetComesBackAndBecomesTheStartUpSet)
-{
-    FichierLancement = dossier.filePath("autre.SCS");
-    Jeu().OrdreEtapes[2] = TEtape::Aucune;
-    Jeu().OrdreEtapes[3] = TEtape::Aucune;
-    Jeu().OrdreEtapes[4] = TEtape::Aucune;
+    // The default set comes back and becomes the start-up set.
+    Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     ParamétrageDéfaut();
     EXPECT_EQ(FichierLancement, ComposeChemin(dossier.path(), "KELMOR.SCS"));
     EXPECT_EQ(Jeu().OrdreEtapes[4], TEtape::Plaques);
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageAffiché);
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());
-}
-
-TEST_F(Parametrage, EveryTextOfThePanelFitsItsBoxInBothLanguages)
-{
-    auto &E = Principal();
-    DéfinitParamétrage();
-    for (int langue : {2, 1}) {
-        ChangeLangue(langue);
-        for (int i = 1; i <= 13; ++i)
-            EXPECT_TRUE(E.LBLParam[i]->TexteTientDans()) << "language " << langue << ", LBLParam(" << i << ")";
-        for (int i = 8; i <= 10; ++i)
-            EXPECT_FALSE(E.LBLParam[i]->geometry().intersects(E.LBLParam[i + 1]->geometry())) << i;
-    }
 }
 
 } // namespace
