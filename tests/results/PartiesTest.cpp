@@ -192,7 +192,7 @@ TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
     EXPECT_TRUE(QFile::exists(dossier.filePath("vieux.CAS")));
 }
 
-TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesOffersAnotherFolderOnceAndAnUnwritableFolderIsTold)
+TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnceAndAnUnwritableFolderIsTold)
 {
     EnregistrePartie();
     EXPECT_TRUE(FormesMontrées().empty()) << "nothing to save without a game";
@@ -205,10 +205,8 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyExistingAndUnselectedNamesOffersAnotherF
         EXPECT_EQ(boîtes.journal.back().texte, Messages[3]);
         EXPECT_EQ(s.NomFichier->text(), "   .CAS");
         s.Fichier->setCurrentRow(0);
-        s.Fichier_DblClick();
+        s.Fichier_DblClick(); // an existing name refused is the screen tests' (Enter in the file dialog)
         EXPECT_EQ(s.NomFichier->text(), "pris.CAS");
-        s.BoutonOK->click();
-        EXPECT_EQ(boîtes.journal.back().texte, Messages[5]);
         EXPECT_EQ(s.result(), 0);
 
         boîtes.journal.clear();

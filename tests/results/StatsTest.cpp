@@ -133,8 +133,6 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
 
     const QString bouchon = dossier.filePath(QStringLiteral("pas-un-dossier"));
     ASSERT_TRUE(QFile(bouchon).open(QIODevice::WriteOnly)); // an empty file where the folder should be
-    RépertoireApplication = bouchon;
-    boîtes.journal.clear();
     InstalleFormesModales([&](QDialog &forme) {
         auto &s = dynamic_cast<Stats &>(forme);
         s.BoutonSauvegarde->click();
@@ -144,11 +142,16 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
         EXPECT_EQ(s.result(), QDialog::Accepted);
         return s.result();
     });
-    MontreStats();
-    ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-    EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Messages[134] + ' ' + bouchon));
-    EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Messages[MessageStatsNonEcrites]));
+    for (const QString &d : {dossier.filePath(QStringLiteral("absent/encore")), bouchon}) {
+        RépertoireApplication = d;
+        boîtes.journal.clear();
+        MontreStats();
+        ASSERT_EQ(boîtes.journal.size(), 1u);
+        EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
+        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Messages[134] + ' ' + d));
+        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Messages[MessageStatsNonEcrites]));
+    }
+    EXPECT_FALSE(QFile::exists(dossier.filePath(QStringLiteral("absent")))) << "no folder made";
     EXPECT_EQ(QFileInfo(bouchon).size(), 0) << "the file in the folder's place is left alone";
 }
 
