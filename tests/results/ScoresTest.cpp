@@ -28,7 +28,11 @@ struct Octets {
     QByteArray o;
     Octets &R(const QByteArray &b) { o += b.leftJustified(128, '\0'); return *this; }
     Octets &Entier(int v) { return R(LE(v, 2)); }
-    Octets &Ligne(const QByteArray &nom, qint32 points, qint32 durée, int niveau) { return R(LE(nom.size(), 2) + nom + LE(points, 4) + LE(durée, 4) + LE(niveau, 2)); }
+    // A score line: the name, the points, the length in seconds and the level, packed.
+    Octets &Ligne(const QByteArray &nom, qint32 points, qint32 durée, int niveau)
+    {
+        return R(LE(nom.size(), 2) + nom + LE(points, 4) + LE(durée, 4) + LE(niveau, 2));
+    }
     Octets &Tête(int o1, int o2, int o3, int o4, std::initializer_list<int> inhibés = {},
                  const QByteArray &version = "Version 6.07 du 30/07/2008", int langue = 1)
     {
@@ -137,7 +141,9 @@ TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToT
     // The default file's set and lists are taken in place of a bad file's; a bad default file too gives the default set.
     const QString défaut = ComposeChemin(RépertoireSauvegarde, "KELMOR.SCS"), abîmé = dossier.filePath("abime.SCS");
     Ecrit(défaut, Octets{}.Tête(2, 1, 0, 0, {7}).Ligne("Def", 77, 7, 3).o);
-    for (const QByteArray &o : {Octets{}.Tête(1, 2, 3, 4, {}, "Version 7.12 du 01/02/2011").o, Octets{}.Tête(1, 2, 3, 4).o.left(20 * 128), QByteArray()}) {
+    // Another major version, a file cut inside the set, then (empty here) a bad default file as well.
+    for (const QByteArray &o : {Octets{}.Tête(1, 2, 3, 4, {}, "Version 7.12 du 01/02/2011").o, Octets{}.Tête(1, 2, 3, 4).o.left(20 * 128),
+                                QByteArray()}) {
         const bool défautBon = !o.isEmpty();
         if (!défautBon)
             Ecrit(défaut, "x");
