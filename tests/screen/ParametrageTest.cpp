@@ -1,7 +1,6 @@
 // The parameter set edited on the map and in the grid, and what OK and Annuler leave.
 #include "Fixtures.h"
 
-#include "engine/communs.h"
 #include "platform/Formes.h"
 #include "results/SelectionPartie.h"
 #include "screen/EcranPrincipal.h"
@@ -14,7 +13,6 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 
 namespace {
 
@@ -30,16 +28,8 @@ protected:
         FichierLancement = dossier.filePath("KELMOR.SCS");
         OrdreParDéfaut();
     }
-    void TearDown() override
-    {
-        OrdreParDéfaut();
-        JeuTest::TearDown();
-    }
-    static void OrdreParDéfaut()
-    {
-        for (int k = 1; k <= 4; ++k)
-            Jeu().OrdreEtapes[k] = static_cast<TEtape>(k);
-    }
+    void TearDown() override { OrdreParDéfaut(), JeuTest::TearDown(); }
+    static void OrdreParDéfaut() { std::copy_n(Partie{}.OrdreEtapes, 5, Jeu().OrdreEtapes); }
     CaseACocher *B(int rang, int genre) { return Principal().Bouton[(rang - 1) * 4 + genre]; }
     // The grid as kinds by rank, 0 for an empty column, -1 for two boxes in one.
     std::vector<int> Grille()
@@ -57,7 +47,6 @@ TEST_F(Parametrage, EveryTextFitsItsBoxAndTheGridKeepsOneKindPerRankNoGapAndAFir
 {
     auto &E = Principal();
     DéfinitParamétrage();
-    ASSERT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     ASSERT_EQ(Grille(), (std::vector<int>{1, 2, 3, 4}));
     EXPECT_FALSE(E.MenuFichier->isEnabled());
     EXPECT_TRUE(E.MenuLangue->isEnabled());
@@ -153,14 +142,11 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    for (int c = 1; c <= 26; ++c)
-        EXPECT_EQ(Jeu().Cantons[c].Trouvé, False);
+    EXPECT_TRUE(std::none_of(std::begin(Jeu().Cantons), std::end(Jeu().Cantons), [](const TCanton &c) { return c.Trouvé == True; }));
     EXPECT_TRUE(Principal().MenuFichier->isEnabled());
     EXPECT_TRUE(Principal().LBLParam[1]->isHidden());
 
-    QFile vieux(dossier.filePath("~tmp.~cf"));
-    ASSERT_TRUE(vieux.open(QIODevice::WriteOnly) && vieux.write("vieux") == 5);
-    vieux.close();
+    { QFile vieux(dossier.filePath("~tmp.~cf")); ASSERT_TRUE(vieux.open(QIODevice::WriteOnly) && vieux.write("vieux") == 5); }
     Jeu().NombreScores[2] = 1;
     DéfinitParamétrage();
     TraiteClic(7, 1, 1);
