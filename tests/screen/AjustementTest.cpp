@@ -22,7 +22,8 @@ protected:
 
 TEST_F(Ajustement, MapBarsAndPanelOnEveryScreen)
 {
-    // The map window, the bars' figures (0 where a bar is hidden) and the panel's tops.
+    // The map window's width and height, the horizontal bar's Max, LargeChange and SmallChange, the
+    // vertical bar's Max (0 where a bar is hidden); the tops of the score box, the count and the buttons.
     const struct Cas { int l, h, bas; std::vector<int> carteEtBarres, panneau; } cas[] = {
         {640, 480, 400, {396, 338, 260, 356, 71, 122}, {351, 289, 301}},
         {800, 600, 450, {556, 332, 100, 96, 19, 128}, {358, 296, 308}},
