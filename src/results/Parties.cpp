@@ -4,6 +4,7 @@
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "files/FichierEnregistrements.h"
+#include "files/FichierPartie.h"
 #include "results/Scores.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Chemins.h"
@@ -15,7 +16,6 @@
 #include <QFileInfo>
 
 namespace {
-const QString ParamétrageNonSauvé = QStringLiteral("~tmp.~cf");
 
 // A String that its record gives back exactly: Windows-1252 and short enough.
 bool RelitTelQuel(const QString &texte)
@@ -47,32 +47,31 @@ QString RépertoireDe(const QString &Chemin)
 
 QByteArray ContenuPartie(const QString &FichierNoté)
 {
-    EcritureEnregistrements f;
-    f.Chaîne(VersionJeu);
-    f.Entier(Langue);
-    f.Chaîne(FichierNoté);
+    TFichierPartie p;
+    p.Version = VersionJeu;
+    p.Langue = Langue;
+    p.FichierNoté = FichierNoté;
     if (FichierLancement == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
-            f.Entier(Jeu().OrdreEtapes[i]);
-        f.Entier(static_cast<i16>(Jeu().NombreScores[1] + Jeu().NombreScores[2] + Jeu().NombreScores[3] + Jeu().NombreScores[4]));
+            p.OrdreEtapes[i] = Jeu().OrdreEtapes[i];
         for (int n = 1; n <= 4; ++n)
             for (int r = 1; r <= Jeu().NombreScores[n]; ++r)
-                f.LigneScore(Jeu().MeilleursScores[n][r], static_cast<i16>(n));
+                p.Lignes.emplace_back(Jeu().MeilleursScores[n][r], static_cast<i16>(n));
     }
-    f.Entier(Jeu().Etape);
-    f.Chaîne(Jeu().NomJoueur);
-    f.Entier(Jeu().Niveau);
-    f.Entier(Booléen(Jeu().ModeApprentissage));
-    f.Long(Jeu().Score);
-    for (int i = 1; i <= NombrePlaces; ++i)
-        f.Paire(static_cast<i16>(i), Jeu().Cantons[i].Trouvé);
-    for (int i = 1; i <= NombrePlaces; ++i)
+    p.Etape = Jeu().Etape;
+    p.NomJoueur = Jeu().NomJoueur;
+    p.Niveau = Jeu().Niveau;
+    p.Apprentissage = Jeu().ModeApprentissage;
+    p.Score = Jeu().Score;
+    for (int i = 1; i <= NombrePlaces; ++i) {
+        p.Trouvé[i] = Jeu().Cantons[i].Trouvé != False;
         for (int j = 0; j <= 4; ++j) {
-            f.Entier(Jeu().Cantons[i].Réussi[j]);
-            f.Long(Jeu().Cantons[i].Pertes[j]);
+            p.Réussi[i][j] = Jeu().Cantons[i].Réussi[j] != False;
+            p.Pertes[i][j] = Jeu().Cantons[i].Pertes[j];
         }
-    f.Long(Jeu().DuréePartie);
-    return f.Octets();
+    }
+    p.Durée = Jeu().DuréePartie;
+    return OctetsPartie(p);
 }
 
 bool EcritPartie(const QString &Chemin)
@@ -100,56 +99,11 @@ bool EcritPartie(const QString &Chemin)
 bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
 {
     // Everything is read aside first: a file cut short or out of range changes nothing.
-    LectureEnregistrements f(contenu);
-    QString version, fichier, nom;
-    i16 langue = 0;
-    if (!f.Chaîne(version) || version != VersionJeu)
+    TFichierPartie p;
+    if (!LitOctetsPartie(contenu, VersionJeu, p))
         return false;
-    if (!f.Entier(langue) || !f.Chaîne(fichier))
-        return false;
-
-    i16 ordre[5] = {0, 0, 0, 0, 0};
-    std::vector<std::pair<TLigneScore, i16>> lignes;
-    if (fichier == ParamétrageNonSauvé) {
-        i16 n = 0;
-        for (int i = 1; i <= 4; ++i)
-            if (!f.Entier(ordre[i]) || ordre[i] < 0 || ordre[i] > 4)
-                return false;
-        if (!f.Entier(n) || n < 0 || n > 40)
-            return false;
-        i16 parNiveau[5] = {};
-        for (int k = 0; k < n; ++k) {
-            TLigneScore l;
-            i16 niveau = 0;
-            if (!f.LigneScore(l, niveau) || niveau < 0 || niveau > 4 || ++parNiveau[niveau] > 10)
-                return false;
-            lignes.emplace_back(l, niveau);
-        }
-    }
-    i16 étape = 0, niveau = 0, apprentissage = 0;
-    i32 score = 0;
-    if (!f.Entier(étape) || !f.Chaîne(nom) || !f.Entier(niveau) || !f.Entier(apprentissage) || !f.Long(score))
-        return false;
-    if (étape < 1 || étape > 4 || niveau < 1 || niveau > 4)
-        return false;
-    i16 trouvés[NombrePlaces + 1] = {};
-    for (int k = 1; k <= NombrePlaces; ++k) {
-        i16 numéro = 0, drapeau = 0;
-        if (!f.Paire(numéro, drapeau))
-            return false;
-        // A number outside the table is never used as an index.
-        if (numéro >= 1 && numéro <= NombrePlaces)
-            trouvés[numéro] = Booléen(drapeau != 0);
-    }
-    i16 réussis[NombrePlaces + 1][5] = {};
-    i32 pertes[NombrePlaces + 1][5] = {};
-    for (int i = 1; i <= NombrePlaces; ++i)
-        for (int j = 0; j <= 4; ++j)
-            if (!f.Entier(réussis[i][j]) || !f.Long(pertes[i][j]))
-                return false;
-    i32 durée = 0;
-    if (!f.Long(durée))
-        return false;
+    QString fichier = p.FichierNoté;
+    const i16 langue = p.Langue;
 
     // The file is sound: the game takes its state from it.
     RazScores();
@@ -160,35 +114,35 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     FichierLancement = fichier;
     if (fichier == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
-            Jeu().OrdreEtapes[i] = static_cast<TEtape>(ordre[i]);
-        for (const auto &[l, n] : lignes) {
+            Jeu().OrdreEtapes[i] = p.OrdreEtapes[i];
+        for (const auto &[l, n] : p.Lignes) {
             Jeu().NombreScores[n] = Jeu().NombreScores[n] + 1;
             Jeu().MeilleursScores[n][Jeu().NombreScores[n]] = l;
         }
     } else {
         ChargeScores();
     }
-    Jeu().Etape = static_cast<TEtape>(étape);
+    Jeu().Etape = p.Etape;
     Jeu().RangEtape = 1;
-    Jeu().NomJoueur = nom.left(20);
-    Jeu().Niveau = static_cast<TNiveau>(niveau);
-    Jeu().ModeApprentissage = apprentissage != 0;
+    Jeu().NomJoueur = p.NomJoueur.left(20);
+    Jeu().Niveau = p.Niveau;
+    Jeu().ModeApprentissage = p.Apprentissage;
     Jeu().ScoreGelé = Jeu().ModeApprentissage;
     DébutEtape();
     Jeu().PartieVierge = false;
-    Jeu().Score = score;
+    Jeu().Score = p.Score;
     Jeu().RestantsEtape = NombrePlaces;
     for (int i = 1; i <= NombrePlaces; ++i) {
-        Jeu().Cantons[i].Trouvé = trouvés[i];
-        if (trouvés[i])
+        Jeu().Cantons[i].Trouvé = Booléen(p.Trouvé[i]);
+        if (p.Trouvé[i])
             Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
     }
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int j = 0; j <= 4; ++j) {
-            Jeu().Cantons[i].Réussi[j] = Booléen(réussis[i][j] != 0);
-            Jeu().Cantons[i].Pertes[j] = pertes[i][j];
+            Jeu().Cantons[i].Réussi[j] = Booléen(p.Réussi[i][j]);
+            Jeu().Cantons[i].Pertes[j] = p.Pertes[i][j];
         }
-    Jeu().DuréePartie = durée;
+    Jeu().DuréePartie = p.Durée;
     for (int i = 1; i <= NombrePlaces; ++i)
         PlaceRond(static_cast<i16>(i));
     return true;

@@ -1,6 +1,7 @@
 #include "screen/Parametrage.h"
 
 #include "screen/VueJeu.h"
+#include "files/FichierPartie.h"
 #include "platform/Boites.h"
 #include "results/Parties.h"
 #include "results/Scores.h"
@@ -22,7 +23,6 @@ bool ParamétrageDeLancement = false;
 
 namespace {
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");
-const QString ParamétrageNonSauvé = QStringLiteral("~tmp.~cf");
 
 CaseACocher *Case(int colonne, int rang) { return Principal().Bouton[(colonne - 1) * 4 + rang]; }
 bool ColonneRemplie(int colonne)
