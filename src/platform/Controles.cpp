@@ -1,11 +1,10 @@
 #include "platform/Controles.h"
 
-#include <QFontMetrics>
-
 #include "platform/Ecran.h"
 #include "platform/Images.h"
 
 #include <QFont>
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 

@@ -34,8 +34,6 @@ void Form_Load()
     ChargeEcranPrincipal();
 }
 
-void Form_Activate() { FermePatience(); }
-
 
 void ChargeEcranPrincipal()
 {

@@ -5,5 +5,4 @@
 class EcranPrincipal;
 
 void Form_Load();
-void Form_Activate();
 void ChargeEcranPrincipal();

@@ -288,7 +288,7 @@ int EcranPrincipal::ScaleHeight() const { return height() - menuBar()->sizeHint(
 void EcranPrincipal::showEvent(QShowEvent *e)
 {
     QMainWindow::showEvent(e);
-    // The first showing ends the loading form.
+    // Form_Activate: the first showing ends the loading form.
     FermePatience();
 }
 

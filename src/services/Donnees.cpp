@@ -43,13 +43,13 @@ bool ChargeCarteZones()
         Boîte(Messages[132], StyleInformation, Messages[46]);
         return false;
     }
-    QFile fichier(CheminFichierZones);
     // More than the tables could hold is refused before it is read.
     constexpr qint64 OctetsMax = 4 * (1 + MaxLignes + MaxSegments) + 3;
+    QFile fichier(CheminFichierZones);
     QByteArray octets;
-    if (fichier.open(QIODevice::ReadOnly) && fichier.size() <= OctetsMax)
-        octets = fichier.readAll();
-    if (octets.size() != fichier.size() || !fichier.isOpen() || !LitCarteZones(octets, Jeu().Carte)) {
+    const bool lu = fichier.open(QIODevice::ReadOnly) && fichier.size() <= OctetsMax &&
+                    (octets = fichier.readAll()).size() == fichier.size();
+    if (!lu || !LitCarteZones(octets, Jeu().Carte)) {
         Boîte(Messages[27], StyleCritique, CheminFichierZones);
         return false;
     }
