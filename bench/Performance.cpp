@@ -22,6 +22,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/Donnees.h"
+#include "results/PartieEnCours.h"
 
 #include <QApplication>
 #include <QFile>
@@ -49,8 +50,8 @@ void BM_TestDeZone(benchmark::State &state)
 {
     Prépare();
     RépertoireApplication = DossierProgramme();
-    LitParamètres();
-    if (!ChargeCarteZones()) {
+    LitParamètres(Jeu());
+    if (!ChargeCarteZones(Jeu().Carte)) {
         state.SkipWithError("no KELMOR.pts in data/");
         return;
     }
@@ -61,7 +62,7 @@ void BM_TestDeZone(benchmark::State &state)
     size_t i = 0;
     for (auto _ : state) {
         const QPoint &p = points[i++ & 4095];
-        benchmark::DoNotOptimize(ZoneEn(0, p.x(), p.y()));
+        benchmark::DoNotOptimize(ZoneEn(Jeu().Carte, 0, p.x(), p.y()));
     }
 }
 BENCHMARK(BM_TestDeZone);
@@ -106,7 +107,7 @@ void BM_ClicJugeEtCarteRepeinte(benchmark::State &state)
     for (auto _ : state) {
         // A wrong click on the canton of the dot, then the map painted as the screen would.
         const i16 autre = Jeu().CantonRecherché == 1 ? 2 : 1;
-        rond_Click(autre);
+        rond_Click(Jeu(), autre);
         Jeu().ErreursQuestion = 0;
         Jeu().Score = 999999;
         E.Carte->render(&écran);
@@ -156,8 +157,8 @@ void BM_PartieEntiere(benchmark::State &state)
     std::vector<QPoint> points(27);
     for (int y = 0; y < 456; ++y)
         for (int x = 0; x < 652; ++x)
-            if (points[ZoneEn(0, x, y)].isNull())
-                points[ZoneEn(0, x, y)] = QPoint(x, y);
+            if (points[ZoneEn(Jeu().Carte, 0, x, y)].isNull())
+                points[ZoneEn(Jeu().Carte, 0, x, y)] = QPoint(x, y);
     for (auto _ : state) {
         FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
         InstalleDialogueNouvellePartie([] {

@@ -10,6 +10,7 @@
 #include "services/MisesAJour.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
+#include "results/PartieEnCours.h"
 
 #include <QFile>
 #include <QTest>

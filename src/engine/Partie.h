@@ -4,6 +4,8 @@
 #include <QString>
 #include <cstdint>
 
+class VueJeu;
+
 using i16 = std::int16_t;
 using i32 = std::int32_t;
 using u8 = std::uint8_t;
@@ -109,7 +111,7 @@ struct Partie {
     // What a step kind and a canton weigh in the score of a game left before its end.
     i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};
     i32 PointsParCanton = 0;
-};
 
-// The program's one game.
-Partie &Jeu();
+    // Who is told what the rules did: the screen, a test, or nobody (nullptr).
+    VueJeu *Ecouteur = nullptr;
+};

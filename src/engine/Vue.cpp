@@ -1,10 +1,7 @@
 #include "engine/Vue.h"
 
-namespace {
-VueJeu silencieuse;
-VueJeu *installée = nullptr;
-} // namespace
-
-VueJeu &Vue() { return installée ? *installée : silencieuse; }
-
-void InstalleVue(VueJeu *vue) { installée = vue; }
+VueJeu &Vue(const Partie &P)
+{
+    static VueJeu silencieuse;
+    return P.Ecouteur ? *P.Ecouteur : silencieuse;
+}

@@ -1,7 +1,7 @@
 #pragma once
 // What the game tells the screen. The rules change the game and then say here what
 // the player must see or hear; the screen, which reads the game, does the rest.
-// With no screen installed nothing is shown, so the rules run alone in tests.
+// With no screen listening nothing is shown, so the rules run alone in tests.
 #include "engine/Partie.h"
 
 enum class TSon { Erreur, Bravo, Etape, Perdu, Info };
@@ -46,7 +46,5 @@ public:
     virtual void EnregistreScore() {}
 };
 
-// The screen the game talks to; a silent one until a screen installs itself.
-VueJeu &Vue();
-// nullptr puts the silent one back.
-void InstalleVue(VueJeu *vue);
+// The screen game P talks to; a silent one while P has none.
+VueJeu &Vue(const Partie &P);

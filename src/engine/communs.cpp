@@ -43,11 +43,10 @@ i32 ValeurEnTête(const QString &champ)
 
 // ---------------------------------------------------------------- the raster
 
-i16 ZoneEn(int Région, int x, int y)
+i16 ZoneEn(const TCarteZones &carte, int Région, int x, int y)
 {
     if (Région < 0 || Région >= NombreCartes || y < 0 || y + 1 >= MaxLignes)
         return 0;
-    const TCarteZones &carte = Jeu().Carte;
     const int premier = carte.DébutsLignes[Région][y];
     const int dernier = std::min<int>(carte.DébutsLignes[Région][y + 1] - 1, MaxSegments - 1);
     i16 c = 0;
@@ -60,290 +59,290 @@ i16 ZoneEn(int Région, int x, int y)
     return c;
 }
 
-void CliqueCarte(int Région, int x, int y)
+void CliqueCarte(Partie &P, int Région, int x, int y)
 {
-    if (Jeu().Etape == TEtape::Aucune)
+    if (P.Etape == TEtape::Aucune)
         return;
-    i16 c = ZoneEn(Région, x, y);
+    i16 c = ZoneEn(P.Carte, Région, x, y);
     CorrectionZone(c);
     // The level's filter: at Facile and Moyen a canton already found counts for nothing.
-    if (c != 0 && EtapeDeJeu(Jeu().Etape) && c <= NombrePlaces) {
-        if ((Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage) || Jeu().Niveau == TNiveau::Moyen)
-            if (Jeu().Cantons[c].Trouvé)
+    if (c != 0 && EtapeDeJeu(P.Etape) && c <= NombrePlaces) {
+        if ((P.Niveau == TNiveau::Facile && !P.ModeApprentissage) || P.Niveau == TNiveau::Moyen)
+            if (P.Cantons[c].Trouvé)
                 c = 0;
     }
     if (c != 0 && c <= NombrePlaces)
-        TraiteClic(c, static_cast<i16>(x), static_cast<i16>(y));
+        TraiteClic(P, c, static_cast<i16>(x), static_cast<i16>(y));
 }
 
 // ---------------------------------------------------------------- the turn cycle
 
-void DébutEtape()
+void DébutEtape(Partie &P)
 {
-    Jeu().RestantsEtape = 0;
-    Jeu().NombreCantons = 0;
-    Jeu().AssistanceUtilisée = false;
+    P.RestantsEtape = 0;
+    P.NombreCantons = 0;
+    P.AssistanceUtilisée = false;
     for (int i = 1; i <= NombrePlaces; ++i) {
-        TCanton &c = Jeu().Cantons[i];
+        TCanton &c = P.Cantons[i];
         if (c.Inhibé) {
             c.Trouvé = True;
         } else {
             c.Trouvé = False;
-            Jeu().RestantsEtape = Jeu().RestantsEtape + 1;
-            Jeu().NombreCantons = Jeu().NombreCantons + 1;
+            P.RestantsEtape = P.RestantsEtape + 1;
+            P.NombreCantons = P.NombreCantons + 1;
         }
-        if (Jeu().Etape < TEtape::ParamétrageModifié)
-            c.Réussi[Numéro(Jeu().Etape)] = False;
+        if (P.Etape < TEtape::ParamétrageModifié)
+            c.Réussi[Numéro(P.Etape)] = False;
     }
-    Jeu().ErreursQuestion = 0;
-    Jeu().PartieEnregistrée = false;
-    Jeu().CantonRecherché = 0;
-    Jeu().ScoresFinPartie = false;
-    Vue().EtapeCommencée();
+    P.ErreursQuestion = 0;
+    P.PartieEnregistrée = false;
+    P.CantonRecherché = 0;
+    P.ScoresFinPartie = false;
+    Vue(P).EtapeCommencée();
 }
 
-void QuestionSuivante()
+void QuestionSuivante(Partie &P)
 {
-    if (Jeu().RestantsEtape < 1) {
-        Vue().QuestionPosée();
+    if (P.RestantsEtape < 1) {
+        Vue(P).QuestionPosée();
         return;
     }
     const float tirage = Rnd();
-    int r = static_cast<int>(std::floor(static_cast<double>(Jeu().RestantsEtape) * static_cast<double>(tirage) + 1.0));
+    int r = static_cast<int>(std::floor(static_cast<double>(P.RestantsEtape) * static_cast<double>(tirage) + 1.0));
 
-    auto rangParmiRestants = [](int rang) -> i16 {
+    auto rangParmiRestants = [&P](int rang) -> i16 {
         int vus = 0;
         for (int i = 1; i <= NombrePlaces; ++i)
-            if (!Jeu().Cantons[i].Trouvé && ++vus == rang)
+            if (!P.Cantons[i].Trouvé && ++vus == rang)
                 return static_cast<i16>(i);
         return 0;
     };
 
     i16 c = rangParmiRestants(r);
     // Never the same question twice in a row: take its neighbour in the list of those left.
-    if (c == Jeu().CantonRecherché && Jeu().RestantsEtape >= 2) {
+    if (c == P.CantonRecherché && P.RestantsEtape >= 2) {
         r = r > 1 ? r - 1 : 2;
         c = rangParmiRestants(r);
     }
-    Jeu().CantonRecherché = c;
-    Vue().QuestionPosée();
+    P.CantonRecherché = c;
+    Vue(P).QuestionPosée();
 }
 
-void FinEtape()
+void FinEtape(Partie &P)
 {
     // A set made by hand may name a kind twice: the rank under way, not the first one
     // that holds the kind, leads on, so that the game still ends.
-    int pos = Jeu().RangEtape >= 1 && Jeu().RangEtape <= 4 && Jeu().OrdreEtapes[Jeu().RangEtape] == Jeu().Etape ? Jeu().RangEtape : 0;
+    int pos = P.RangEtape >= 1 && P.RangEtape <= 4 && P.OrdreEtapes[P.RangEtape] == P.Etape ? P.RangEtape : 0;
     for (int i = 1; i <= 4 && pos == 0; ++i)
-        if (Jeu().OrdreEtapes[i] == Jeu().Etape)
+        if (P.OrdreEtapes[i] == P.Etape)
             pos = i;
-    const TEtape suivante = (pos == 0 || pos == 4) ? TEtape::Aucune : Jeu().OrdreEtapes[pos + 1];
-    Jeu().RangEtape = static_cast<i16>(pos + 1);
+    const TEtape suivante = (pos == 0 || pos == 4) ? TEtape::Aucune : P.OrdreEtapes[pos + 1];
+    P.RangEtape = static_cast<i16>(pos + 1);
 
     if (suivante != TEtape::Aucune) {
-        Vue().Son(TSon::Etape);
-        Vue().AnnonceEtape(Jeu().Etape, suivante);
-        Jeu().Etape = suivante;
-        DébutEtape();
-        Vue().MontreCantons();
-        Vue().AfficheScore();
-        Vue().AfficheRestants(Jeu().RestantsEtape);
-        QuestionSuivante();
+        Vue(P).Son(TSon::Etape);
+        Vue(P).AnnonceEtape(P.Etape, suivante);
+        P.Etape = suivante;
+        DébutEtape(P);
+        Vue(P).MontreCantons();
+        Vue(P).AfficheScore();
+        Vue(P).AfficheRestants(P.RestantsEtape);
+        QuestionSuivante(P);
         return;
     }
-    TerminePartie();
+    TerminePartie(P);
 }
 
 // Back to the bare map with no game: what a saved game or a validated parameter set leaves.
-void RetourAuRepos()
+void RetourAuRepos(Partie &P)
 {
-    Jeu().Etape = TEtape::Aucune;
-    DébutEtape();
-    Jeu().PartieVierge = true;
-    Vue().CacheMarques();
-    Vue().CacheZoneJeu();
+    P.Etape = TEtape::Aucune;
+    DébutEtape(P);
+    P.PartieVierge = true;
+    Vue(P).CacheMarques();
+    Vue(P).CacheZoneJeu();
 }
 
 // A game that is over, won or lost: its result dealt with, the map and the panel cleared.
-void TerminePartie()
+void TerminePartie(Partie &P)
 {
-    Jeu().Etape = TEtape::Aucune;
-    Vue().EnregistreScore();
-    DébutEtape();
-    Jeu().PartieVierge = true;
-    Vue().CacheMarques();
-    Vue().CacheZoneJeu();
-    Jeu().PartieEnregistrée = true;
+    P.Etape = TEtape::Aucune;
+    Vue(P).EnregistreScore();
+    DébutEtape(P);
+    P.PartieVierge = true;
+    Vue(P).CacheMarques();
+    Vue(P).CacheZoneJeu();
+    P.PartieEnregistrée = true;
 }
 
 // ---------------------------------------------------------------- judging
 
-void rond_Click(i16 Index) { TraiteClic(Index, 0, 0); }
+void rond_Click(Partie &P, i16 Index) { TraiteClic(P, Index, 0, 0); }
 
-void TraiteClic(i16 c, i16 x, i16 y)
+void TraiteClic(Partie &P, i16 c, i16 x, i16 y)
 {
     c = NuméroPlace(c);
     if (c < 1 || c > NombrePlaces)
         return;
-    if (EtapeDeJeu(Jeu().Etape))
-        Jeu().PartieVierge = false;
-    if (Jeu().Etape == TEtape::ParamétrageModifié) {
-        Jeu().Cantons[c].Trouvé = Booléen(!Jeu().Cantons[c].Trouvé);
-        Vue().PlaceRond(c);
+    if (EtapeDeJeu(P.Etape))
+        P.PartieVierge = false;
+    if (P.Etape == TEtape::ParamétrageModifié) {
+        P.Cantons[c].Trouvé = Booléen(!P.Cantons[c].Trouvé);
+        Vue(P).PlaceRond(c);
         return;
     }
-    if (Jeu().Etape == TEtape::ParamétrageAffiché)
+    if (P.Etape == TEtape::ParamétrageAffiché)
         return;
-    if (Jeu().Etape == TEtape::Révision) {
-        Vue().Son(TSon::Info);
-        Jeu().CantonFiche = c;
-        Vue().MontreFiche(true, x, y);
+    if (P.Etape == TEtape::Révision) {
+        Vue(P).Son(TSon::Info);
+        P.CantonFiche = c;
+        Vue(P).MontreFiche(true, x, y);
         return;
     }
     CorrectionZone(c);
-    if (!Jeu().Cantons[c].Trouvé) {
-        if (c == Jeu().CantonRecherché)
-            BonneRéponse();
+    if (!P.Cantons[c].Trouvé) {
+        if (c == P.CantonRecherché)
+            BonneRéponse(P);
         else
-            MauvaiseRéponse();
+            MauvaiseRéponse(P);
         return;
     }
     // The canton is out of play in this step.
-    if (Jeu().ModeApprentissage) {
-        Vue().Son(TSon::Info);
-        Jeu().CantonFiche = c;
-        Vue().MontreFiche(false, 0, 0);
+    if (P.ModeApprentissage) {
+        Vue(P).Son(TSon::Info);
+        P.CantonFiche = c;
+        Vue(P).MontreFiche(false, 0, 0);
         return;
     }
-    if (Jeu().Niveau != TNiveau::Difficile && Jeu().Niveau != TNiveau::Expert)
+    if (P.Niveau != TNiveau::Difficile && P.Niveau != TNiveau::Expert)
         return;
-    if (Jeu().Cantons[c].Inhibé)
+    if (P.Cantons[c].Inhibé)
         return;
-    MauvaiseRéponse();
+    MauvaiseRéponse(P);
 }
 
-void BonneRéponse()
+void BonneRéponse(Partie &P)
 {
-    const i16 c = Jeu().CantonRecherché;
-    if (Jeu().Niveau == TNiveau::Facile) {
-        Vue().MontreBoutonPasse(false);
-        if (!Jeu().AssistanceUtilisée)
-            Jeu().Cantons[c].Trouvé = True;
+    const i16 c = P.CantonRecherché;
+    if (P.Niveau == TNiveau::Facile) {
+        Vue(P).MontreBoutonPasse(false);
+        if (!P.AssistanceUtilisée)
+            P.Cantons[c].Trouvé = True;
     } else {
-        Jeu().Cantons[c].Trouvé = True;
+        P.Cantons[c].Trouvé = True;
     }
-    Vue().MontreCanton(c);
-    if (!Jeu().AssistanceUtilisée) {
-        Vue().PlaceRond(c);
-        Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
-        if (Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques)
-            Jeu().Cantons[c].Réussi[Numéro(Jeu().Etape)] = True;
-        Vue().AfficheRestants(Jeu().RestantsEtape);
-        if (Jeu().RestantsEtape == 0) {
-            FinEtape();
+    Vue(P).MontreCanton(c);
+    if (!P.AssistanceUtilisée) {
+        Vue(P).PlaceRond(c);
+        P.RestantsEtape = P.RestantsEtape - 1;
+        if (P.Etape >= TEtape::Cantons && P.Etape <= TEtape::Plaques)
+            P.Cantons[c].Réussi[Numéro(P.Etape)] = True;
+        Vue(P).AfficheRestants(P.RestantsEtape);
+        if (P.RestantsEtape == 0) {
+            FinEtape(P);
             return;
         }
-        Vue().Son(TSon::Bravo);
-        if (Jeu().RestantsEtape == Jeu().NombreCantons - 1 && Jeu().ModeApprentissage && !Jeu().ConseilFicheDonné) {
-            Vue().Annonce(TAnnonce::ConseilFiche);
-            Jeu().ConseilFicheDonné = true;
+        Vue(P).Son(TSon::Bravo);
+        if (P.RestantsEtape == P.NombreCantons - 1 && P.ModeApprentissage && !P.ConseilFicheDonné) {
+            Vue(P).Annonce(TAnnonce::ConseilFiche);
+            P.ConseilFicheDonné = true;
         }
-        QuestionSuivante();
-        Jeu().ErreursQuestion = 0;
-        Vue().MontreBoutonGruge(false);
+        QuestionSuivante(P);
+        P.ErreursQuestion = 0;
+        Vue(P).MontreBoutonGruge(false);
         return;
     }
     // The answer was given away: the canton comes back later, and the question is paid in full.
-    Jeu().AssistanceUtilisée = false;
-    Vue().PlaceRond(c);
-    if (SoldeQuestion() > 0) {
-        Vue().Son(TSon::Bravo);
-        QuestionSuivante();
-        Jeu().ErreursQuestion = 0;
-        Vue().MontreBoutonGruge(false);
+    P.AssistanceUtilisée = false;
+    Vue(P).PlaceRond(c);
+    if (SoldeQuestion(P) > 0) {
+        Vue(P).Son(TSon::Bravo);
+        QuestionSuivante(P);
+        P.ErreursQuestion = 0;
+        Vue(P).MontreBoutonGruge(false);
     } else {
-        PartiePerdue();
+        PartiePerdue(P);
     }
 }
 
-void MauvaiseRéponse()
+void MauvaiseRéponse(Partie &P)
 {
-    Jeu().Score = Pénalité(Jeu().Score, Jeu().ErreursQuestion);
-    if (Jeu().Score <= 0) {
-        PartiePerdue();
+    P.Score = Pénalité(P, P.Score, P.ErreursQuestion);
+    if (P.Score <= 0) {
+        PartiePerdue(P);
         return;
     }
-    Vue().AfficheScore();
-    Jeu().ErreursQuestion = Jeu().ErreursQuestion + 1;
-    if (Jeu().ErreursQuestion < 9) {
-        Vue().Son(TSon::Erreur);
-        if (Jeu().ErreursQuestion == 1 && Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage)
-            Vue().MontreBoutonPasse(true);
-        if (Jeu().ErreursQuestion == 3 && Jeu().ModeApprentissage)
-            Vue().MontreBoutonGruge(true);
+    Vue(P).AfficheScore();
+    P.ErreursQuestion = P.ErreursQuestion + 1;
+    if (P.ErreursQuestion < 9) {
+        Vue(P).Son(TSon::Erreur);
+        if (P.ErreursQuestion == 1 && P.Niveau == TNiveau::Facile && !P.ModeApprentissage)
+            Vue(P).MontreBoutonPasse(true);
+        if (P.ErreursQuestion == 3 && P.ModeApprentissage)
+            Vue(P).MontreBoutonGruge(true);
         return;
     }
-    Vue().Son(TSon::Perdu);
-    if (Jeu().AssistanceUtilisée) {
-        Vue().Annonce(TAnnonce::QuestionPerdueAssistée);
-        Jeu().AssistanceUtilisée = false;
-        Vue().PlaceRond(Jeu().CantonRecherché);
+    Vue(P).Son(TSon::Perdu);
+    if (P.AssistanceUtilisée) {
+        Vue(P).Annonce(TAnnonce::QuestionPerdueAssistée);
+        P.AssistanceUtilisée = false;
+        Vue(P).PlaceRond(P.CantonRecherché);
     } else {
-        Vue().Annonce(TAnnonce::QuestionPerdue);
+        Vue(P).Annonce(TAnnonce::QuestionPerdue);
     }
-    Jeu().ErreursQuestion = 0;
-    QuestionSuivante();
-    Vue().MontreBoutonGruge(false);
-    Vue().MontreBoutonPasse(false);
+    P.ErreursQuestion = 0;
+    QuestionSuivante(P);
+    Vue(P).MontreBoutonGruge(false);
+    Vue(P).MontreBoutonPasse(false);
 }
 
 // ---------------------------------------------------------------- score and clock
 
-i32 Pénalité(i32 S, i16 k)
+i32 Pénalité(Partie &P, i32 S, i16 k)
 {
     const double p = std::pow(4.0, k);
-    const int étape = Jeu().Etape <= TEtape::Plaques ? Numéro(Jeu().Etape) : 0;
-    TCanton &c = Jeu().Cantons[(Jeu().CantonRecherché >= 0 && Jeu().CantonRecherché <= NombrePlaces) ? Jeu().CantonRecherché : 0];
+    const int étape = P.Etape <= TEtape::Plaques ? Numéro(P.Etape) : 0;
+    TCanton &c = P.Cantons[(P.CantonRecherché >= 0 && P.CantonRecherché <= NombrePlaces) ? P.CantonRecherché : 0];
     c.Pertes[étape] = static_cast<i32>(std::lrint(c.Pertes[étape] + p));
     c.Pertes[0] = static_cast<i32>(std::lrint(c.Pertes[0] + p));
-    if (Jeu().ScoreGelé)
+    if (P.ScoreGelé)
         return S;
     return static_cast<i32>(std::lrint(S - p));
 }
 
-i32 SoldeQuestion()
+i32 SoldeQuestion(Partie &P)
 {
-    if (Jeu().ErreursQuestion != 0)
-        for (i16 k = Jeu().ErreursQuestion; k <= 8; ++k)
-            Jeu().Score = Pénalité(Jeu().Score, k);
-    Vue().AfficheScore();
-    return Jeu().Score;
+    if (P.ErreursQuestion != 0)
+        for (i16 k = P.ErreursQuestion; k <= 8; ++k)
+            P.Score = Pénalité(P, P.Score, k);
+    Vue(P).AfficheScore();
+    return P.Score;
 }
 
-void ScoreAbandon()
+void ScoreAbandon(Partie &P)
 {
-    PoidsSpécifiques();
-    Jeu().Score = -999999;
+    PoidsSpécifiques(P);
+    P.Score = -999999;
     for (int i = 1; i <= 4; ++i) {
-        const TEtape étape = Jeu().OrdreEtapes[i];
+        const TEtape étape = P.OrdreEtapes[i];
         if (étape == TEtape::Aucune)
             break;
-        if (étape == Jeu().Etape) {
-            Jeu().Score += (Jeu().NombreCantons - Jeu().RestantsEtape) * Jeu().PoidsEtapes[Numéro(Jeu().Etape)] * Jeu().PointsParCanton;
+        if (étape == P.Etape) {
+            P.Score += (P.NombreCantons - P.RestantsEtape) * P.PoidsEtapes[Numéro(P.Etape)] * P.PointsParCanton;
             break;
         }
         if (EtapeDeJeu(étape))
-            Jeu().Score += Jeu().PoidsEtapes[Numéro(étape)] * Jeu().NombreCantons * Jeu().PointsParCanton;
+            P.Score += P.PoidsEtapes[Numéro(étape)] * P.NombreCantons * P.PointsParCanton;
     }
 }
 
-void PartiePerdue()
+void PartiePerdue(Partie &P)
 {
-    ScoreAbandon();
-    Vue().AfficheScore();
-    Vue().Son(TSon::Perdu);
-    Vue().Annonce(TAnnonce::PartiePerdue);
-    TerminePartie();
+    ScoreAbandon(P);
+    Vue(P).AfficheScore();
+    Vue(P).Son(TSon::Perdu);
+    Vue(P).Annonce(TAnnonce::PartiePerdue);
+    TerminePartie(P);
 }
 
 i32 SecondesDepuisMinuit() { return static_cast<i32>(std::lrint(Timer())); }
@@ -358,18 +357,18 @@ i32 DuréeDepuis(i32 heureDépart)
 
 // ---------------------------------------------------------------- help buttons
 
-void BoutonPasse_Click()
+void BoutonPasse_Click(Partie &P)
 {
-    for (i16 k = Jeu().ErreursQuestion; k <= 8; ++k)
-        Jeu().Score = Pénalité(Jeu().Score, k);
-    if (Jeu().Score <= 0) {
-        PartiePerdue();
+    for (i16 k = P.ErreursQuestion; k <= 8; ++k)
+        P.Score = Pénalité(P, P.Score, k);
+    if (P.Score <= 0) {
+        PartiePerdue(P);
         return;
     }
-    Vue().AfficheScore();
-    Vue().Son(TSon::Perdu);
-    Jeu().ErreursQuestion = 0;
-    QuestionSuivante();
-    Vue().MontreBoutonPasse(false);
+    Vue(P).AfficheScore();
+    Vue(P).Son(TSon::Perdu);
+    P.ErreursQuestion = 0;
+    QuestionSuivante(P);
+    Vue(P).MontreBoutonPasse(false);
 }
 

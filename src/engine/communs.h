@@ -15,32 +15,32 @@ QString LitChamp(const QString &Texte, i16 Rang);
 i32 ValeurEnTête(const QString &champ);
 
 // The zone under map pixel (x, y), 0 outside the country or the table.
-i16 ZoneEn(int Région, int x, int y);
+i16 ZoneEn(const TCarteZones &carte, int Région, int x, int y);
 // A click at map pixel (x, y), scroll included: the level's filter, then the judging.
-void CliqueCarte(int Région, int x, int y);
+void CliqueCarte(Partie &P, int Région, int x, int y);
 
-// Turn cycle.
-void DébutEtape();
-void QuestionSuivante();
-void FinEtape();
-void TerminePartie();
-void RetourAuRepos();
+// Turn cycle. Every rule works on the game it is given and tells that game's listener.
+void DébutEtape(Partie &P);
+void QuestionSuivante(Partie &P);
+void FinEtape(Partie &P);
+void TerminePartie(Partie &P);
+void RetourAuRepos(Partie &P);
 
 // Judging.
-void rond_Click(i16 Index);
-void TraiteClic(i16 c, i16 x, i16 y);
-void BonneRéponse();
-void MauvaiseRéponse();
+void rond_Click(Partie &P, i16 Index);
+void TraiteClic(Partie &P, i16 c, i16 x, i16 y);
+void BonneRéponse(Partie &P);
+void MauvaiseRéponse(Partie &P);
 
 // Score and clock.
-i32 Pénalité(i32 S, i16 k);
-i32 SoldeQuestion();
-void ScoreAbandon();
-void PartiePerdue();
+i32 Pénalité(Partie &P, i32 S, i16 k);
+i32 SoldeQuestion(Partie &P);
+void ScoreAbandon(Partie &P);
+void PartiePerdue(Partie &P);
 // Seconds since midnight, rounded to a whole number.
 i32 SecondesDepuisMinuit();
 // The game's length from HeureDépart, across midnight too.
 i32 DuréeDepuis(i32 heureDépart);
 
 // Help buttons.
-void BoutonPasse_Click();
+void BoutonPasse_Click(Partie &P);

@@ -6,13 +6,13 @@ void CorrectionZone(i16 &) {}
 
 i16 NuméroPlace(i16 c) { return c; }
 
-void PoidsSpécifiques()
+void PoidsSpécifiques(Partie &P)
 {
-    Jeu().PoidsEtapes[1] = 1;
-    Jeu().PoidsEtapes[2] = 2;
-    Jeu().PoidsEtapes[3] = 4;
-    Jeu().PoidsEtapes[4] = 1;
-    const int somme = Jeu().PoidsEtapes[1] + Jeu().PoidsEtapes[2] + Jeu().PoidsEtapes[3] + Jeu().PoidsEtapes[4];
-    Jeu().PointsParCanton = Jeu().NombreCantons > 0 ? 999999 / (somme * Jeu().NombreCantons) : 0;
+    P.PoidsEtapes[1] = 1;
+    P.PoidsEtapes[2] = 2;
+    P.PoidsEtapes[3] = 4;
+    P.PoidsEtapes[4] = 1;
+    const int somme = P.PoidsEtapes[1] + P.PoidsEtapes[2] + P.PoidsEtapes[3] + P.PoidsEtapes[4];
+    P.PointsParCanton = P.NombreCantons > 0 ? 999999 / (somme * P.NombreCantons) : 0;
 }
 

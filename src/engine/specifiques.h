@@ -6,4 +6,4 @@
 void InitialisationSpécifique();
 void CorrectionZone(i16 &c);
 i16 NuméroPlace(i16 c);
-void PoidsSpécifiques();
+void PoidsSpécifiques(Partie &P);

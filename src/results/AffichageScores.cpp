@@ -9,6 +9,7 @@
 #include "results/Scores.h"
 #include "results/Stats.h"
 #include "services/Langues.h"
+#include "results/PartieEnCours.h"
 
 #include <QFontMetrics>
 #include <QKeyEvent>

@@ -7,6 +7,7 @@
 #include "results/Resultats.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
+#include "results/PartieEnCours.h"
 
 #include <QGroupBox>
 #include <functional>

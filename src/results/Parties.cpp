@@ -10,6 +10,7 @@
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "results/PartieEnCours.h"
 
 #include <QDir>
 #include <QFile>
@@ -128,7 +129,7 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     Jeu().Niveau = p.Niveau;
     Jeu().ModeApprentissage = p.Apprentissage;
     Jeu().ScoreGelé = Jeu().ModeApprentissage;
-    DébutEtape();
+    DébutEtape(Jeu());
     Jeu().PartieVierge = false;
     Jeu().Score = p.Score;
     Jeu().RestantsEtape = NombrePlaces;
@@ -169,7 +170,7 @@ bool ConfirmeArrêt()
     if (enCours && Boîte(Messages[32], StyleQuestion, Messages[33]) != RéponseOui)
         return false;
     if (enCours) {
-        ScoreAbandon();
+        ScoreAbandon(Jeu());
         if (Jeu().Score != 0) {
             AfficheScore();
             EnregistreScore();

@@ -7,6 +7,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/Sons.h"
+#include "results/PartieEnCours.h"
 
 #include <functional>
 

@@ -9,6 +9,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/Sons.h"
+#include "results/PartieEnCours.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -14,6 +14,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
+#include "results/PartieEnCours.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -183,11 +184,11 @@ void SélectionPartie::BoutonOK_Click()
             ProposeRépertoire();
             Jeu().ModeRévision = false;
             AjusteCarte();
-            Vue().AffichePanneau();
+            Vue(Jeu()).AffichePanneau();
             MontreCantons();
             AfficheScore();
             AfficheRestants(Jeu().RestantsEtape);
-            QuestionSuivante();
+            QuestionSuivante(Jeu());
             Jeu().PartieVierge = false;
             Jeu().PartieEnregistrée = false;
             accept();
@@ -201,7 +202,7 @@ void SélectionPartie::BoutonOK_Click()
         FichierLancement = cheminFichier;
         ChargeScores();
         Jeu().Etape = TEtape::Aucune;
-        DébutEtape();
+        DébutEtape(Jeu());
         Jeu().PartieVierge = true;
         Jeu().ModeRévision = false;
         AjusteCarte();
@@ -244,7 +245,7 @@ void SélectionPartie::BoutonOK_Click()
             ProposeRépertoire();
         }
     }
-    RetourAuRepos();
+    RetourAuRepos(Jeu());
     SortieParamétrage = true;
     accept();
 }
@@ -261,9 +262,9 @@ void EnregistrePartie()
 {
     if (!PartieEnCours())
         return;
-    SoldeQuestion();
+    SoldeQuestion(Jeu());
     if (Jeu().Score <= 0) {
-        PartiePerdue();
+        PartiePerdue(Jeu());
         return;
     }
     Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);

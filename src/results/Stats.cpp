@@ -8,6 +8,7 @@
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "results/PartieEnCours.h"
 
 #include <QApplication>
 #include <QSaveFile>

@@ -6,6 +6,7 @@
 #include "platform/Ecran.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/VueJeu.h"
+#include "results/PartieEnCours.h"
 
 #include <QLayout>
 

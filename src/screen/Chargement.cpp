@@ -18,6 +18,7 @@
 #include "services/Parametres.h"
 #include "services/Patience.h"
 #include "services/Sons.h"
+#include "results/PartieEnCours.h"
 
 #include <QFileInfo>
 #include <QLayout>
@@ -45,7 +46,7 @@ void ChargeEcranPrincipal()
     ChargeScores();
     HauteurVignette = static_cast<i16>(E.ImageRecherchée->Height());
     LargeurVignette = static_cast<i16>(E.ImageRecherchée->Width());
-    ChargeCantons();
+    ChargeCantons(Jeu());
     AjusteEcran();
     E.setTop((HauteurEcran - E.ScaleHeight()) / 2 * TwipsPerPixelX);
     E.setLeft((LargeurEcran - E.ScaleWidth()) / 2 * TwipsPerPixelX);
@@ -56,7 +57,7 @@ void ChargeEcranPrincipal()
     for (int i = 1; i <= NombrePlaces; ++i) {
         E.rond[i] = E.CréeDepuisModèle(E.rond[0]);
         E.Pays[i] = E.CréeDepuisModèle(E.Pays[0]);
-        E.rond[i]->Click = [i] { rond_Click(static_cast<i16>(i)); };
+        E.rond[i]->Click = [i] { rond_Click(Jeu(), static_cast<i16>(i)); };
         E.Pays[i]->Click = [i] { CliqueCarte(Jeu().Cantons[i].Région); };
         E.Pays[i]->hide();
         E.rond[i]->hide();
@@ -91,7 +92,7 @@ void ChargeEcranPrincipal()
     for (int i = 1; i <= NombreLangues; ++i) {
         CheminsInfo[i] = ComposeChemin(RépertoireInfo, NomsFichiersInfo[i]);
         if (!QFileInfo::exists(CheminsInfo[i]))
-            CréeFichierInfo(i);
+            CréeFichierInfo(Jeu(), i);
     }
 
     Jeu().Etape = TEtape::Aucune;

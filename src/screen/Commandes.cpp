@@ -22,6 +22,7 @@
 #include "platform/Ecran.h"
 #include "services/Patience.h"
 #include "services/Donnees.h"
+#include "results/PartieEnCours.h"
 
 #include <QAction>
 
@@ -70,7 +71,7 @@ void LanceRévision()
         return;
     Jeu().Etape = TEtape::Révision;
     Jeu().Niveau = TNiveau::Facile;
-    DébutEtape();
+    DébutEtape(Jeu());
     Jeu().PartieVierge = true;
     CacheZoneJeu();
     Jeu().ModeRévision = true;
@@ -108,7 +109,7 @@ void LanceNouvellePartie()
     Principal().setHelpContextID(10);
     MontreNouvellePartie();
     Jeu().RangEtape = 1;
-    DébutEtape();
+    DébutEtape(Jeu());
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int k = 0; k <= 4; ++k) {
             Jeu().Cantons[i].Pertes[k] = 0;
@@ -128,5 +129,5 @@ void LanceNouvellePartie()
     AffichePanneau();
     AfficheScore();
     AfficheRestants(Jeu().RestantsEtape);
-    QuestionSuivante();
+    QuestionSuivante(Jeu());
 }

@@ -7,6 +7,7 @@
 #include "platform/Images.h"
 #include "services/Aide.h"
 #include "services/Patience.h"
+#include "results/PartieEnCours.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -220,7 +221,7 @@ EcranPrincipal::~EcranPrincipal()
     if (forme == this) {
         forme = nullptr;
         InstalleFenêtrePrincipale(nullptr);
-        InstalleVue(nullptr);
+        Jeu().Ecouteur = nullptr;
     }
 }
 

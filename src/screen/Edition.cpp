@@ -11,6 +11,7 @@
 #include "services/Fiches.h"
 #include "services/Langues.h"
 #include "screen/Pompe.h"
+#include "results/PartieEnCours.h"
 
 namespace {
 constexpr int LargeurEdition = 416;

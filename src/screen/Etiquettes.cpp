@@ -14,6 +14,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/Sons.h"
+#include "results/PartieEnCours.h"
 
 #include <QAction>
 #include <QMenu>
@@ -97,7 +98,7 @@ void ChangeLangue(int n)
     Langue = static_cast<short>(n);
     ChargeImagesPays();
     ChargeMessages();
-    ChargeCantons();
+    ChargeCantons(Jeu());
     FichierAide = ComposeChemin(RépertoireApplication, NomsFichiersAide[Langue]);
     EtiquetteEcran();
     CacheMarques();

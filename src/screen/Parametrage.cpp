@@ -12,6 +12,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
+#include "results/PartieEnCours.h"
 
 #include <QFile>
 #include <QMenu>
@@ -46,7 +47,7 @@ void MenusDeJeu(bool actifs)
 void SéquenceEntrée()
 {
     Principal().setHelpContextID(65);
-    DébutEtape();
+    DébutEtape(Jeu());
     AffichePanneau();
     Jeu().PartieVierge = true;
     Jeu().ModeRévision = false;
@@ -278,14 +279,14 @@ void ValideParamétrage()
     }
     if (SortieParamétrage) {
         CacheParamétrage();
-        RetourAuRepos();
+        RetourAuRepos(Jeu());
     }
 }
 
 void AnnuleParamétrage()
 {
     Jeu().Etape = TEtape::Aucune;
-    DébutEtape();
+    DébutEtape(Jeu());
     AffichePanneau();
     Jeu().ModeRévision = false;
     AjusteCarte();

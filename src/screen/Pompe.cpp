@@ -7,6 +7,7 @@
 #include "screen/EcranPrincipal.h"
 #include "services/Fiches.h"
 #include "services/Langues.h"
+#include "results/PartieEnCours.h"
 
 #include <algorithm>
 #include <QTextDocument>

@@ -20,6 +20,7 @@
 #include "services/Parametres.h"
 #include "services/Patience.h"
 #include "services/Sons.h"
+#include "results/PartieEnCours.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -89,7 +90,7 @@ public:
 void InstalleVueEcran(bool installée)
 {
     static VueEcran vue;
-    InstalleVue(installée ? &vue : nullptr);
+    Jeu().Ecouteur = installée ? &vue : nullptr;
 }
 
 bool Form_Unload()
@@ -108,7 +109,7 @@ void RelieEcranPrincipal(EcranPrincipal &E)
         E.inv[i]->Click = [i] { CliqueCarte(Jeu().Cantons[i].Région); };
     QObject::connect(E.BarreH, &QScrollBar::valueChanged, &E, [] { BarreH_Change(); });
     QObject::connect(E.BarreV, &QScrollBar::valueChanged, &E, [] { BarreV_Change(); });
-    QObject::connect(E.BoutonPasse, &QToolButton::clicked, &E, [] { BoutonPasse_Click(); });
+    QObject::connect(E.BoutonPasse, &QToolButton::clicked, &E, [] { BoutonPasse_Click(Jeu()); });
     QObject::connect(E.BoutonGruge, &QToolButton::clicked, &E, [] { BoutonGruge_Click(); });
     // A check box's change, by the player or by the program, runs its rule at once.
     for (int k = 1; k <= 18; ++k)
@@ -126,11 +127,11 @@ bool Main()
     HauteurFenêtre = 0;
     LargeurFenêtre = 0;
     RépertoireApplication = DossierProgramme();
-    LitParamètres();
+    LitParamètres(Jeu());
     if (!ParamètresLus)
         return false;
     SonActif = true;
-    if (!ChargeCarteZones())
+    if (!ChargeCarteZones(Jeu().Carte))
         return false;
     AffichePatience();
     PointeurEcran(PointeurSablier);

@@ -6,6 +6,7 @@
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "results/PartieEnCours.h"
 
 #include <cmath>
 
@@ -108,7 +109,7 @@ void CliqueCarte(int Région)
     auto &E = Principal();
     const QRect rectangle = RectangleEcranDe(E.Carte);
     const QPoint curseur = PositionCurseur();
-    CliqueCarte(Région, curseur.x() - rectangle.left() + E.BarreH->Value(), curseur.y() - rectangle.top() + E.BarreV->Value());
+    CliqueCarte(Jeu(), Région, curseur.x() - rectangle.left() + E.BarreH->Value(), curseur.y() - rectangle.top() + E.BarreV->Value());
 }
 
 

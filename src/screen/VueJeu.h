@@ -2,6 +2,7 @@
 // The game on the main window: the markers on the map, the question panel, the
 // digits, and the screen's answers to what the rules tell it.
 #include "engine/communs.h"
+#include "results/PartieEnCours.h"
 
 
 // The click on the map read from the pointer and the scroll bars.

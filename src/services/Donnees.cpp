@@ -10,13 +10,11 @@
 
 #include <QFile>
 
-QString CheminFichierZones;
-
-void ChargeCantons()
+void ChargeCantons(Partie &P)
 {
     const int décalage = 200 * (Langue - 1);
     for (int i = 1; i <= NombrePlaces; ++i) {
-        TCanton &c = Jeu().Cantons[i];
+        TCanton &c = P.Cantons[i];
         const QString ville = ChaîneTable(4000 + i);
         c.ChefLieu = LitChamp(ChaîneTable(4000 + décalage + i), 1);
         c.VilleGauche = static_cast<i16>(ValeurEnTête(LitChamp(ville, 2)));
@@ -27,18 +25,18 @@ void ChargeCantons()
         c.PaysGauche = static_cast<i16>(ValeurEnTête(LitChamp(canton, 3)));
         c.PaysHaut = static_cast<i16>(ValeurEnTête(LitChamp(canton, 4)));
     }
-    ChargePlaques();
+    ChargePlaques(P);
 }
 
-void ChargePlaques()
+void ChargePlaques(Partie &P)
 {
     for (int i = 1; i <= NombrePlaces; ++i)
-        Jeu().Plaques[i] = LitChamp(ChaîneTable(2000 + i), 5);
+        P.Plaques[i] = LitChamp(ChaîneTable(2000 + i), 5);
 }
 
-bool ChargeCarteZones()
+bool ChargeCarteZones(TCarteZones &carte)
 {
-    CheminFichierZones = ComposeChemin(RépertoireApplication, QStringLiteral("KELMOR.pts"));
+    const QString CheminFichierZones = ComposeChemin(RépertoireApplication, QStringLiteral("KELMOR.pts"));
     if (!QFile::exists(CheminFichierZones)) {
         Boîte(Messages[132], StyleInformation, Messages[46]);
         return false;
@@ -49,7 +47,7 @@ bool ChargeCarteZones()
     QByteArray octets;
     const bool lu = fichier.open(QIODevice::ReadOnly) && fichier.size() <= OctetsMax &&
                     (octets = fichier.readAll()).size() == fichier.size();
-    if (!lu || !LitCarteZones(octets, Jeu().Carte)) {
+    if (!lu || !LitCarteZones(octets, carte)) {
         Boîte(Messages[27], StyleCritique, CheminFichierZones);
         return false;
     }

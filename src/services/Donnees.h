@@ -1,12 +1,11 @@
 #pragma once
 // The game's data as it starts: the canton table from the strings of the language in
 // use, the plate letters, and the map's raster from KELMOR.pts beside the program.
-#include <QString>
+#include "engine/Partie.h"
 
-void ChargeCantons();
-void ChargePlaques();
+void ChargeCantons(Partie &P);
+void ChargePlaques(Partie &P);
 
-extern QString CheminFichierZones;
 // False, once the player is told, when the raster is missing or damaged: the game
 // can't be played without it.
-bool ChargeCarteZones();
+bool ChargeCarteZones(TCarteZones &carte);

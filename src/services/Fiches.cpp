@@ -77,7 +77,7 @@ bool EcrireFiche(int numéro, const TFiche &fiche)
     return écrit;
 }
 
-void CréeFichierInfo(int langue)
+void CréeFichierInfo(const Partie &P, int langue)
 {
     if (langue < 1 || langue >= int(CheminsInfo.size()))
         return;
@@ -97,9 +97,9 @@ void CréeFichierInfo(int langue)
     QByteArray contenu;
     contenu.reserve(NombreFiches * TailleFiche);
     for (int k = 1; k <= NombreFiches; ++k) {
-        QByteArray r = OctetsFiche({Jeu().Cantons[k].Nom, Messages[103]});
+        QByteArray r = OctetsFiche({P.Cantons[k].Nom, Messages[103]});
         if (r.isEmpty())
-            r = OctetsFiche({Jeu().Cantons[k].Nom, QString()});
+            r = OctetsFiche({P.Cantons[k].Nom, QString()});
         if (r.isEmpty())
             r = QByteArray(TailleFiche, '\0');
         contenu.append(r);

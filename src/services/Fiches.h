@@ -28,4 +28,4 @@ bool EcrireFiche(int numéro, const TFiche &fiche);
 // Makes the missing information file of a language: the cantons' names in the
 // language in use and the text that tells where the cards can be filled in.
 // Tells the player only about the file of the language in use.
-void CréeFichierInfo(int langue);
+void CréeFichierInfo(const Partie &P, int langue);

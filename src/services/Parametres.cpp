@@ -128,7 +128,7 @@ void MiseAJourVersion()
     DossiersParDéfaut();
 }
 
-void LitParamètres()
+void LitParamètres(Partie &P)
 {
     ParamètresLus = true;
     VersionJeu = ChaîneTable(1000);
@@ -167,7 +167,7 @@ void LitParamètres()
     else
         RappelSiLeTempsEstVenu();
 
-    LitValeur(CléJeu, Joueur, Jeu().NomJoueur);
+    LitValeur(CléJeu, Joueur, P.NomJoueur);
     LitValeur(CléJeu, Répertoire, RépertoireSauvegarde);
     if (!RépertoireAccessible(RépertoireSauvegarde))
         DemandeRépertoireSauvegarde();

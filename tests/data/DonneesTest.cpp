@@ -7,6 +7,7 @@
 #include "services/TableChaines.h"
 #include "files/CarteZones.h"
 #include "services/Donnees.h"
+#include "results/PartieEnCours.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -24,13 +25,13 @@ const QString Données = QStringLiteral(DOSSIER_DONNEES);
 // drawn in each picture (just inside the canton) resolves to it.
 TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
 {
-    Langue = 1, ChargeChaînes(), ChargeCantons();
+    Langue = 1, ChargeChaînes(), ChargeCantons(Jeu());
     QFile f(Données + "/KELMOR.pts");
     ASSERT_TRUE(f.open(QIODevice::ReadOnly) && LitCarteZones(f.readAll(), Jeu().Carte));
     int pays = 0;
     for (int y = 0; y < 456; ++y)
         for (int x = 0; x < 652; ++x) {
-            const int z = ZoneEn(0, x, y);
+            const int z = ZoneEn(Jeu().Carte, 0, x, y);
             ASSERT_TRUE(z >= 0 && z <= 26);
             pays += z != 0;
             if (z != 0)
@@ -41,7 +42,7 @@ TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
     EXPECT_TRUE(pays > 652 * 456 / 5 && pays < 652 * 456 * 4 / 5) << pays;
     for (int i = 1; i <= 26; ++i) {
         const TCanton &c = Jeu().Cantons[i];
-        EXPECT_EQ(ZoneEn(0, c.VilleGauche + 3, c.VilleHaut + 4), i) << c.Nom.toStdString();
+        EXPECT_EQ(ZoneEn(Jeu().Carte, 0, c.VilleGauche + 3, c.VilleHaut + 4), i) << c.Nom.toStdString();
         const QImage inv =
             QImage(Données + QStringLiteral("/images/inv%1.png").arg(i, 2, 10, QLatin1Char('0'))).convertToFormat(QImage::Format_ARGB32);
         int dessinés = 0, dedans = 0;
@@ -49,7 +50,7 @@ TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
             for (int x = 0; x < inv.width(); ++x)
                 if (qAlpha(inv.pixel(x, y)) > 200) {
                     ++dessinés;
-                    dedans += ZoneEn(0, c.PaysGauche + x, c.PaysHaut + y) == i;
+                    dedans += ZoneEn(Jeu().Carte, 0, c.PaysGauche + x, c.PaysHaut + y) == i;
                 }
         EXPECT_TRUE(dessinés > 10 && dedans > dessinés * 8 / 10) << c.Nom.toStdString() << ": " << dedans << " of " << dessinés;
     }

@@ -1,5 +1,6 @@
 // Fields of the table's rows, and the canton table filled from them in both languages.
 #include "engine/communs.h"
+#include "results/PartieEnCours.h"
 #include "services/Langues.h"
 #include "services/Donnees.h"
 
@@ -23,7 +24,7 @@ TEST(LitChamp, FieldsBetweenHashesAndTheirLeadingNumbers)
 TEST(ChargeCantons, GermanNamesOnTheSamePlacesAndAChangeKeepsWhatTheGameKnows)
 {
     Jeu().Cantons[6].Trouvé = True, Jeu().Cantons[6].Pertes[2] = 17;
-    auto charge = [](int langue) { Langue = langue, ChargeChaînes(), ChargeCantons(); };
+    auto charge = [](int langue) { Langue = langue, ChargeChaînes(), ChargeCantons(Jeu()); };
     charge(1);
     const std::vector<TCanton> fr(std::begin(Jeu().Cantons), std::end(Jeu().Cantons));
     charge(2);

@@ -4,6 +4,7 @@
 
 #include "engine/communs.h"
 #include "engine/Vue.h"
+#include "results/PartieEnCours.h"
 #include "platform/Formes.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
@@ -81,8 +82,8 @@ TEST_F(Partie, ADoubleClickAnswersOnceAndEachAnnouncementReachesThePlayerInItsBo
     }
     EXPECT_TRUE(Jeu().Cantons[c].Trouvé && Jeu().RestantsEtape == 25);
     EXPECT_EQ(Jeu().Score, 999999) << "the second half of the double click isn't judged against the next question";
-    Vue().Annonce(TAnnonce::QuestionPerdue);
-    PartiePerdue();
+    Vue(Jeu()).Annonce(TAnnonce::QuestionPerdue);
+    PartiePerdue(Jeu());
     ASSERT_EQ(boîtes.journal.size(), 4u);
     EXPECT_TRUE(boîtes.journal[0].texte == Messages[137] && boîtes.journal[0].titre == "A propos...");
     EXPECT_TRUE(boîtes.journal[1].texte == Messages[38] && boîtes.journal[1].titre == "Resaisissez-vous !");

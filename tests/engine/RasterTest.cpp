@@ -12,6 +12,13 @@
 
 namespace {
 
+// The tables the raster is read into: as large as the game holds them.
+TCarteZones &Tables()
+{
+    static TCarteZones carte;
+    return carte;
+}
+
 const QByteArray Tête = Enregistrement(0, 0, 4), Ligne = Enregistrement(0, 0, 0);
 // A whole map: the rows given (each opened by its mark) make its top, row 455 holds every canton.
 QByteArray Couvrant(const QByteArray &lignes, int nombre)
@@ -26,14 +33,14 @@ TEST(Raster, RunsStartJustAfterTheirXAnd255BelongsToTheMapInProgress)
 {
     // Row 0: (100, 5), (160, 0) and, marked 255, (300, 9); row 1 has no runs; row 2 starts a canton at the left edge.
     ASSERT_TRUE(LitCarteZones(Couvrant(Ligne + Enregistrement(0, 100, 5) + Enregistrement(0, 160, 0) + Enregistrement(255, 300, 9) +
-                                           Ligne + Ligne + Enregistrement(0, 0, 7), 3), Jeu().Carte));
+                                           Ligne + Ligne + Enregistrement(0, 0, 7), 3), Tables()));
     const struct { int x, y, zone; } cas[] = {
         {99, 0, 0}, {100, 0, 0}, {101, 0, 5}, {160, 0, 5}, {161, 0, 0}, {301, 0, 9}, {300, 1, 0}, {0, 2, 0}, {1, 2, 7},
         // Rows that no mark opened, and rows past the table, hit nothing.
         {120, 3, 0}, {120, 457, 0}, {120, 5000, 0}, {120, -1, 0},
     };
     for (const auto &c : cas)
-        EXPECT_EQ(ZoneEn(0, c.x, c.y), c.zone) << c.x << "," << c.y;
+        EXPECT_EQ(ZoneEn(Tables(), 0, c.x, c.y), c.zone) << c.x << "," << c.y;
 }
 
 TEST(Raster, AMaximalFileFitsTheTablesExactlyAndDamagedBytesAreRefusedLeavingTheTablesAlone)
@@ -45,10 +52,10 @@ TEST(Raster, AMaximalFileFitsTheTablesExactlyAndDamagedBytesAreRefusedLeavingThe
         for (int k = 0; k < 9 && runs < MaxSegments; ++k, ++runs)
             maximal += Enregistrement(0, 10 + 60 * k, 1 + (y + k) % 26);
     }
-    ASSERT_TRUE(LitCarteZones(maximal + Ligne, Jeu().Carte));
-    EXPECT_TRUE(ZoneEn(0, 11, 0) == 1 && Jeu().Carte.DébutsLignes[0][457] == MaxSegments);
-    ASSERT_TRUE(LitCarteZones(RasterBandes() + QByteArray(2, '\x01'), Jeu().Carte)) << "a cut last record is left unread";
-    auto octetsTables = [] { return QByteArray(reinterpret_cast<const char *>(&Jeu().Carte), sizeof(TCarteZones)); };
+    ASSERT_TRUE(LitCarteZones(maximal + Ligne, Tables()));
+    EXPECT_TRUE(ZoneEn(Tables(), 0, 11, 0) == 1 && Tables().DébutsLignes[0][457] == MaxSegments);
+    ASSERT_TRUE(LitCarteZones(RasterBandes() + QByteArray(2, '\x01'), Tables())) << "a cut last record is left unread";
+    auto octetsTables = [] { return QByteArray(reinterpret_cast<const char *>(&Tables()), sizeof(TCarteZones)); };
     const QByteArray avant = octetsTables();
 
     QByteArray tropDeSegments = Tête + Ligne;
@@ -68,7 +75,7 @@ TEST(Raster, AMaximalFileFitsTheTablesExactlyAndDamagedBytesAreRefusedLeavingThe
         Tête + QByteArray(1 << 20, '\0'),                   // far larger than any map
     };
     for (const QByteArray &octets : mauvais) {
-        EXPECT_FALSE(LitCarteZones(octets, Jeu().Carte)) << octets.size() << " bytes";
+        EXPECT_FALSE(LitCarteZones(octets, Tables())) << octets.size() << " bytes";
         EXPECT_TRUE(octetsTables() == avant) << octets.size() << " bytes";
     }
 }
@@ -82,7 +89,7 @@ TEST(Raster, TheStartSaysWhetherTheFileIsDamagedOrMissing)
     QFile f(dossier.filePath(QStringLiteral("KELMOR.pts")));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(Tête + Ligne) == 8);
     f.close();
-    const bool lu = ChargeCarteZones(), luSansFichier = (f.remove(), ChargeCarteZones());
+    const bool lu = ChargeCarteZones(Tables()), luSansFichier = (f.remove(), ChargeCarteZones(Tables()));
     InstalleBoîtes(nullptr);
     EXPECT_FALSE(lu || luSansFichier);
     ASSERT_EQ(boîtes.journal.size(), 2u);

@@ -13,6 +13,8 @@ namespace {
 
 // What the screen was told, in a few words, in order; "e" for the sound of an error.
 struct VueNotée : VueJeu {
+    const Partie &P;
+    explicit VueNotée(const Partie &partie) : P(partie) {}
     QString dit;
     void Dit(const QString &s) { dit += (dit.isEmpty() ? "" : ", ") + s; }
     void Son(TSon s) override { Dit(QStringList{"e", "bravo", "son étape", "perdu", "info"}[int(s)]); }
@@ -20,29 +22,32 @@ struct VueNotée : VueJeu {
     void AnnonceEtape(TEtape f, TEtape s) override { Dit(QString::asprintf("étape %d>%d", Numéro(f), Numéro(s))); }
     void MontreBoutonPasse(bool v) override { Dit(v ? "passe" : "-passe"); }
     void MontreBoutonGruge(bool v) override { Dit(v ? "gruge" : "-gruge"); }
-    void MontreFiche(bool c, i16 x, i16 y) override { Dit(QString::asprintf(c ? "fiche %d %d,%d" : "fiche %d", Jeu().CantonFiche, x, y)); }
+    void MontreFiche(bool c, i16 x, i16 y) override { Dit(QString::asprintf(c ? "fiche %d %d,%d" : "fiche %d", P.CantonFiche, x, y)); }
     void EnregistreScore() override { Dit("enregistre"); }
 };
 
 class Regles : public ::testing::Test {
 protected:
-    void SetUp() override { InstalleVue(&vue), InstalleHasard([this] { return tirage; }), InstalleHorloge([this] { return horloge; }); }
-    void TearDown() override { InstalleVue(nullptr), InstalleHasard(nullptr), InstalleHorloge(nullptr), Jeu() = *avant; }
+    void SetUp() override { InstalleHasard([this] { return tirage; }), InstalleHorloge([this] { return horloge; }); }
+    void TearDown() override { InstalleHasard(nullptr), InstalleHorloge(nullptr); }
     // A fresh game, its first step begun with `trouvés` cantons from 2 on found; at draws of 0, 1 is asked.
     void Commence(TNiveau niveau, bool apprentissage = false, int trouvés = 0)
     {
-        Jeu() = Partie{};
-        Jeu().Niveau = niveau, Jeu().Etape = TEtape::Cantons, Jeu().Score = 999999;
-        Jeu().ModeApprentissage = Jeu().ScoreGelé = apprentissage;
-        DébutEtape();
-        for (int i = 2; i < 2 + trouvés; ++i, --Jeu().RestantsEtape)
-            Jeu().Cantons[i].Trouvé = True;
-        QuestionSuivante();
+        P = Partie{};
+        P.Ecouteur = &vue;
+        P.Niveau = niveau, P.Etape = TEtape::Cantons, P.Score = 999999;
+        P.ModeApprentissage = P.ScoreGelé = apprentissage;
+        DébutEtape(P);
+        for (int i = 2; i < 2 + trouvés; ++i, --P.RestantsEtape)
+            P.Cantons[i].Trouvé = True;
+        QuestionSuivante(P);
         vue.dit.clear();
     }
 
-    const std::unique_ptr<Partie> avant = std::make_unique<Partie>(Jeu());
-    VueNotée vue;
+    // The game the rules are handed; heap-held, its raster is large.
+    std::unique_ptr<Partie> partie = std::make_unique<Partie>();
+    Partie &P = *partie;
+    VueNotée vue{P};
     float tirage = 0.0f; // every draw
     double horloge = 0;
 };
@@ -53,18 +58,18 @@ TEST_F(Regles, PenaltiesGrowFourfoldUpToTheLostQuestionAndAFrozenScoreStands)
     const i32 cumul[9] = {1, 5, 21, 85, 341, 1365, 5461, 21845, 87381};
     i32 s = 999999;
     for (i16 k = 0; k <= 8; ++k)
-        EXPECT_EQ(999999 - (s = Pénalité(s, k)), cumul[k]) << "error " << k + 1;
-    const i32 *pertes = Jeu().Cantons[1].Pertes;
+        EXPECT_EQ(999999 - (s = Pénalité(P, s, k)), cumul[k]) << "error " << k + 1;
+    const i32 *pertes = P.Cantons[1].Pertes;
     EXPECT_TRUE(pertes[0] == 87381 && pertes[1] == 87381 && pertes[2] == 0);
-    Jeu().ScoreGelé = true; // Apprentissage: the losses are counted, the score stands
-    EXPECT_TRUE(Pénalité(500, 3) == 500 && pertes[0] == 87381 + 64);
+    P.ScoreGelé = true; // Apprentissage: the losses are counted, the score stands
+    EXPECT_TRUE(Pénalité(P, 500, 3) == 500 && pertes[0] == 87381 + 64);
 }
 
 // The order of the steps as a game's set gives it: "2300" is chief towns, flags, then nothing.
-void Ordre(const char *ordre)
+void Ordre(Partie &P, const char *ordre)
 {
     for (int k = 1; k <= 4; ++k)
-        Jeu().OrdreEtapes[k] = TEtape(ordre[k - 1] - '0');
+        P.OrdreEtapes[k] = TEtape(ordre[k - 1] - '0');
 }
 
 TEST_F(Regles, AGameLeftBeforeItsEndIsWorthTheCantonsFoundByTheWeightOfTheirStep)
@@ -75,10 +80,10 @@ TEST_F(Regles, AGameLeftBeforeItsEndIsWorthTheCantonsFoundByTheWeightOfTheirStep
         {"4000", TEtape::Plaques, 12, 1, 10416, -885423},  // the weights of the kinds not played stay in the divisor
     };
     for (const Cas &c : cas) {
-        Ordre(c.ordre);
-        std::tie(Jeu().Etape, Jeu().NombreCantons, Jeu().RestantsEtape) = std::tie(c.étape, c.nombre, c.restants);
-        ScoreAbandon();
-        EXPECT_TRUE(Jeu().PointsParCanton == c.points && Jeu().Score == c.score) << Jeu().PointsParCanton << " " << Jeu().Score;
+        Ordre(P, c.ordre);
+        std::tie(P.Etape, P.NombreCantons, P.RestantsEtape) = std::tie(c.étape, c.nombre, c.restants);
+        ScoreAbandon(P);
+        EXPECT_TRUE(P.PointsParCanton == c.points && P.Score == c.score) << P.PointsParCanton << " " << P.Score;
     }
 }
 
@@ -106,10 +111,10 @@ TEST_F(Regles, TheDrawTakesTheRthCantonLeftAndNeverTheSameTwiceInARow)
     };
     for (const Cas &c : cas) {
         for (int i = 1; i <= NombrePlaces; ++i)
-            Jeu().Cantons[i].Trouvé = Booléen(std::count(c.restants.begin(), c.restants.end(), i) == 0);
-        Jeu().RestantsEtape = i16(c.restants.size()), Jeu().CantonRecherché = c.avant, tirage = c.tirage;
-        QuestionSuivante();
-        EXPECT_EQ(Jeu().CantonRecherché, c.attendu) << c.restants.size() << " left, " << c.avant << " before, draw " << c.tirage;
+            P.Cantons[i].Trouvé = Booléen(std::count(c.restants.begin(), c.restants.end(), i) == 0);
+        P.RestantsEtape = i16(c.restants.size()), P.CantonRecherché = c.avant, tirage = c.tirage;
+        QuestionSuivante(P);
+        EXPECT_EQ(P.CantonRecherché, c.attendu) << c.restants.size() << " left, " << c.avant << " before, draw " << c.tirage;
     }
 }
 
@@ -117,12 +122,12 @@ TEST_F(Regles, InhibitedCantonsAreFoundFromTheStepsStartSoNeverAskedAndCostNothi
 {
     Commence(TNiveau::Difficile);
     for (int i : {3, 9, 17})
-        Jeu().Cantons[i].Inhibé = True;
-    DébutEtape();
-    EXPECT_TRUE(Jeu().NombreCantons == 23 && Jeu().RestantsEtape == 23);
-    EXPECT_TRUE(Jeu().Cantons[3].Trouvé && Jeu().Cantons[9].Trouvé && Jeu().Cantons[17].Trouvé && !Jeu().Cantons[4].Trouvé);
-    TraiteClic(9, 0, 0);
-    EXPECT_TRUE(Jeu().Score == 999999 && vue.dit.isEmpty());
+        P.Cantons[i].Inhibé = True;
+    DébutEtape(P);
+    EXPECT_TRUE(P.NombreCantons == 23 && P.RestantsEtape == 23);
+    EXPECT_TRUE(P.Cantons[3].Trouvé && P.Cantons[9].Trouvé && P.Cantons[17].Trouvé && !P.Cantons[4].Trouvé);
+    TraiteClic(P, 9, 0, 0);
+    EXPECT_TRUE(P.Score == 999999 && vue.dit.isEmpty());
 }
 
 // Right and wrong answers, the pass and the answer given away, from the start of a game.
@@ -158,19 +163,19 @@ TEST_F(Regles, EachAnswerIsToldScoredChargedToTheCantonAskedAndFollowedByTheNext
     };
     for (const Cas &c : cas) {
         Commence(c.niveau, c.appr, c.trouvés);
-        Jeu().Score = c.score;
+        P.Score = c.score;
         for (int clic : c.clics)
-            clic > 0 ? TraiteClic(i16(clic), 0, 0) : clic == 0 ? BoutonPasse_Click() : void(Jeu().AssistanceUtilisée = true);
+            clic > 0 ? TraiteClic(P, i16(clic), 0, 0) : clic == 0 ? BoutonPasse_Click(P) : void(P.AssistanceUtilisée = true);
         const std::string quoi = c.dit.toStdString() + " at " + std::to_string(Numéro(c.niveau));
         EXPECT_EQ(vue.dit, c.dit) << quoi;
-        EXPECT_TRUE(Jeu().Score == c.après && Jeu().Etape == c.étape && Jeu().RestantsEtape == c.restants &&
-                    Jeu().CantonRecherché == c.demandé) << quoi << ": " << Jeu().Score << ", " << Jeu().CantonRecherché;
-        const i32 autres = std::accumulate(Jeu().Cantons + 2, Jeu().Cantons + 27, 0, [](i32 s, auto &k) { return s + k.Pertes[0]; });
-        EXPECT_TRUE(Jeu().Cantons[1].Pertes[1] == c.pertes && autres == 0) << quoi << ": only the canton asked is charged";
-        EXPECT_FALSE(Jeu().AssistanceUtilisée || Jeu().ErreursQuestion) << quoi;
-        EXPECT_EQ(Jeu().PartieVierge, c.étape == A) << quoi;
+        EXPECT_TRUE(P.Score == c.après && P.Etape == c.étape && P.RestantsEtape == c.restants &&
+                    P.CantonRecherché == c.demandé) << quoi << ": " << P.Score << ", " << P.CantonRecherché;
+        const i32 autres = std::accumulate(P.Cantons + 2, P.Cantons + 27, 0, [](i32 s, auto &k) { return s + k.Pertes[0]; });
+        EXPECT_TRUE(P.Cantons[1].Pertes[1] == c.pertes && autres == 0) << quoi << ": only the canton asked is charged";
+        EXPECT_FALSE(P.AssistanceUtilisée || P.ErreursQuestion) << quoi;
+        EXPECT_EQ(P.PartieVierge, c.étape == A) << quoi;
         for (int i = 1; i <= 26 && c.trouvés == 0 && c.étape == C; ++i)
-            EXPECT_EQ(Jeu().Cantons[i].Réussi[1], Jeu().Cantons[i].Trouvé) << quoi << ": canton " << i;
+            EXPECT_EQ(P.Cantons[i].Réussi[1], P.Cantons[i].Trouvé) << quoi << ": canton " << i;
     }
 }
 
@@ -190,12 +195,12 @@ TEST_F(Regles, AClickOnAFoundCantonByStepLevelAndPlace)
     };
     for (const Cas &c : cas) {
         Commence(c.niveau, c.apprentissage);
-        ASSERT_TRUE(LitCarteZones(RasterBandes(), Jeu().Carte));
-        Jeu().Etape = c.étape, Jeu().Cantons[4].Trouvé = True;
-        c.rond ? rond_Click(4) : CliqueCarte(0, 620, 59);
+        ASSERT_TRUE(LitCarteZones(RasterBandes(), P.Carte));
+        P.Etape = c.étape, P.Cantons[4].Trouvé = True;
+        c.rond ? rond_Click(P, 4) : CliqueCarte(P, 0, 620, 59);
         const std::string quoi = QString::asprintf("step %d level %d dot %d", Numéro(c.étape), Numéro(c.niveau), c.rond).toStdString();
-        EXPECT_TRUE(999999 - Jeu().Score == c.coût && Jeu().ErreursQuestion == c.coût) << quoi;
-        EXPECT_EQ(Jeu().PartieVierge, c.vierge) << quoi;
+        EXPECT_TRUE(999999 - P.Score == c.coût && P.ErreursQuestion == c.coût) << quoi;
+        EXPECT_EQ(P.PartieVierge, c.vierge) << quoi;
         EXPECT_EQ(vue.dit, c.dit) << quoi;
     }
 }
@@ -212,16 +217,16 @@ TEST_F(Regles, TheEndOfAStepLeadsToTheNextRankOfTheOrderOrEndsTheGame)
     };
     for (const Cas &c : cas) {
         Commence(TNiveau::Difficile);
-        Ordre(c.ordre);
-        Jeu().RangEtape = c.rang, Jeu().Etape = c.étape, Jeu().ErreursQuestion = 3, Jeu().CantonRecherché = 7;
-        FinEtape();
+        Ordre(P, c.ordre);
+        P.RangEtape = c.rang, P.Etape = c.étape, P.ErreursQuestion = 3, P.CantonRecherché = 7;
+        FinEtape(P);
         const std::string quoi = std::string(c.ordre) + " rank " + std::to_string(c.rang);
-        EXPECT_TRUE(vue.dit == c.dit && Jeu().Etape == c.suivante) << quoi << ": " << vue.dit.toStdString();
+        EXPECT_TRUE(vue.dit == c.dit && P.Etape == c.suivante) << quoi << ": " << vue.dit.toStdString();
         if (c.suivante == E::Aucune)
-            EXPECT_TRUE(Jeu().PartieEnregistrée && Jeu().PartieVierge) << quoi;
+            EXPECT_TRUE(P.PartieEnregistrée && P.PartieVierge) << quoi;
         else
-            EXPECT_TRUE(Jeu().RangEtape == c.rangAprès && Jeu().RestantsEtape == 26 && Jeu().CantonRecherché == 1 &&
-                        !Jeu().ErreursQuestion) << quoi;
+            EXPECT_TRUE(P.RangEtape == c.rangAprès && P.RestantsEtape == 26 && P.CantonRecherché == 1 &&
+                        !P.ErreursQuestion) << quoi;
     }
 }
 

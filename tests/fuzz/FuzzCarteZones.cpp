@@ -6,6 +6,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Donnees.h"
+#include "results/PartieEnCours.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -41,12 +42,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
     f.close();
     std::memcpy(avant, Jeu().Carte.PointsSegments, sizeof avant);
     boîtes->journal.clear();
-    if (ChargeCarteZones()) {
+    if (ChargeCarteZones(Jeu().Carte)) {
         if (!boîtes->journal.empty())
             std::abort();
         for (int y = -1; y <= MaxLignes; y += 7)
             for (int x = -1; x < 700; x += 13) {
-                const i16 z = ZoneEn(0, x, y);
+                const i16 z = ZoneEn(Jeu().Carte, 0, x, y);
                 (void)z;
             }
     } else if (boîtes->journal.size() != 1 || std::memcmp(avant, Jeu().Carte.PointsSegments, sizeof avant) != 0) {

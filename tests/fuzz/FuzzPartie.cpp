@@ -12,6 +12,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
+#include "results/PartieEnCours.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -30,7 +31,7 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     static QTemporaryDir dossier;
     InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
     RépertoireApplication = dossier.path();
-    LitParamètres();
+    LitParamètres(Jeu());
     RelieEcranPrincipal(*new EcranPrincipal());
     Form_Load();
     return 0;

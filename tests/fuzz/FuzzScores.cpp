@@ -3,6 +3,7 @@
 #include "engine/communs.h"
 #include "results/Scores.h"
 #include "services/Langues.h"
+#include "results/PartieEnCours.h"
 
 #include <QCoreApplication>
 #include <cstdlib>

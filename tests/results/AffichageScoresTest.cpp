@@ -7,6 +7,7 @@
 #include "results/Scores.h"
 #include "results/Stats.h"
 #include "services/Langues.h"
+#include "results/PartieEnCours.h"
 
 #include <QApplication>
 #include <QTest>

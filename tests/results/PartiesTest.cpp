@@ -8,6 +8,7 @@
 #include "results/SelectionPartie.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "results/PartieEnCours.h"
 
 #include <QDir>
 #include <QFile>

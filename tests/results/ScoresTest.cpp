@@ -9,6 +9,7 @@
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "results/PartieEnCours.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,6 +6,7 @@
 #include "results/Stats.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
+#include "results/PartieEnCours.h"
 
 #include <QApplication>
 #include <QFile>

@@ -3,6 +3,7 @@
 
 #include "platform/Ecran.h"
 #include "screen/EcranPrincipal.h"
+#include "results/PartieEnCours.h"
 
 namespace {
 

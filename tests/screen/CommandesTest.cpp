@@ -6,6 +6,7 @@
 #include "screen/EcranPrincipal.h"
 #include "screen/Palette.h"
 #include "services/Langues.h"
+#include "results/PartieEnCours.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -22,7 +23,7 @@ TEST_F(Marques, EveryStepAndLevelShowsBordersInvertedBordersAndDotsByItsTable)
             Jeu().Cantons[9].Inhibé = True; // left out
             NouvellePartieAuNiveau(niveau);
             Jeu().Etape = static_cast<TEtape>(étape);
-            DébutEtape();
+            DébutEtape(Jeu());
             Jeu().Cantons[4].Trouvé = True; // found
             MontreCantons();
             for (int c : {4, 9, 17}) {

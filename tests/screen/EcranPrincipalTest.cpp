@@ -10,6 +10,7 @@
 #include "services/Aide.h"
 #include "services/Langues.h"
 #include "services/ParametrageRepertoires.h"
+#include "results/PartieEnCours.h"
 
 #include <QDir>
 #include <QFile>

@@ -8,6 +8,7 @@
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/Registre.h"
+#include "results/PartieEnCours.h"
 
 #include <QDir>
 #include <QFile>
@@ -88,7 +89,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyListsAndItsOrderIsPlayed)
     DéfinitParamétrage();
     // Two red dots, one flipped back: only Zoug stays out. One step of plates.
     for (int c : {25, 3, 3})
-        TraiteClic(static_cast<i16>(c), 100, 100);
+        TraiteClic(Jeu(), static_cast<i16>(c), 100, 100);
     EXPECT_EQ(Principal().rond[25]->Width(), 16);
     EXPECT_EQ(Principal().rond[3]->Width(), 20);
     B(1, 4)->setChecked(true);
@@ -136,7 +137,7 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
 {
     DéfinitParamétrage();
     for (int c = 1; c <= 26; ++c)
-        TraiteClic(static_cast<i16>(c), 1, 1);
+        TraiteClic(Jeu(), static_cast<i16>(c), 1, 1);
     Principal().BTN[1]->click();
     EXPECT_EQ(boîtes.journal.back().texte, Messages[121]);
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
@@ -149,7 +150,7 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     { QFile vieux(dossier.filePath("~tmp.~cf")); ASSERT_TRUE(vieux.open(QIODevice::WriteOnly) && vieux.write("vieux") == 5); }
     Jeu().NombreScores[2] = 1;
     DéfinitParamétrage();
-    TraiteClic(7, 1, 1);
+    TraiteClic(Jeu(), 7, 1, 1);
     Principal().Bouton[17]->setChecked(false);
     EXPECT_TRUE(Principal().Bouton[18]->isHidden());
     boîtes.réponses = {RéponseNon};

@@ -14,6 +14,7 @@
 #include "services/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "screen/Pompe.h"
+#include "results/PartieEnCours.h"
 
 #include <QAction>
 #include <QDir>
@@ -351,9 +352,9 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
     QFile::remove(CheminsInfo[1]);
     QFile::remove(CheminsInfo[2]);
     boîtes.journal.clear();
-    CréeFichierInfo(1);
+    CréeFichierInfo(Jeu(), 1);
     EXPECT_TRUE(boîtes.journal.empty()) << "the French file is not the language in use";
-    CréeFichierInfo(2);
+    CréeFichierInfo(Jeu(), 2);
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(boîtes.journal[0].texte, Messages[18]);
     for (int langue : {1, 2}) {
@@ -381,14 +382,14 @@ TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
     RépertoireInfo = disparu;
     CheminsInfo[1] = disparu + "/KELMOR.INF";
     ModeRépertoires = TModeRépertoires::Aucun;
-    CréeFichierInfo(1);
+    CréeFichierInfo(Jeu(), 1);
     ASSERT_EQ(boîtes.journal.size(), 3u);
     EXPECT_EQ(boîtes.journal[1].texte, Messages[119] + " (" + disparu + "/)");
     EXPECT_EQ(ModeRépertoires, TModeRépertoires::DossierInformation);
     EXPECT_FALSE(QDir(disparu).exists()) << "given up: no file, no folder";
 
     boîtes.journal.clear();
-    CréeFichierInfo(1);
+    CréeFichierInfo(Jeu(), 1);
     EXPECT_EQ(boîtes.journal.size(), 3u);
     EXPECT_EQ(CheminsInfo[1], dossier.filePath("cartes/KELMOR.INF"));
     EXPECT_EQ(Lit(CheminsInfo[1]).size(), 16900);

@@ -11,6 +11,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/TableChaines.h"
+#include "results/PartieEnCours.h"
 
 #include <QAction>
 #include <QDir>
@@ -226,7 +227,7 @@ TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)
     QDateTime maintenant = QDateTime::fromString(QStringLiteral("2024-05-10 14:30:00"), FormatDate);
     InstalleMaintenant([&] { return maintenant; });
     Installe("Arvenne", "Version 5.12 du 14/03/2007");
-    LitParamètres();
+    LitParamètres(::Jeu());
     const QString premier = RappelVu();
     EXPECT_EQ(premier.count(S(" : version ")), 10) << "all but this game and the one installed";
     EXPECT_FALSE(premier.contains(S("kelmors"))) << "the copy that runs is up to date";
@@ -235,10 +236,10 @@ TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)
     // Meanwhile another game of the family let it be known that this one has a new version.
     Pose(Updates, "Kelmor", "6.10");
     maintenant = maintenant.addDays(59);
-    LitParamètres();
+    LitParamètres(::Jeu());
     EXPECT_EQ(Jeu("Kelmor")->VersionDisponible, "6.10") << "read at every start, before the reminder is due";
     maintenant = maintenant.addDays(1);
-    LitParamètres();
+    LitParamètres(::Jeu());
     const QString rappel = RappelVu();
     EXPECT_TRUE(rappel.contains(S("\r\nLes cantons kelmors : version 6.10 du 01/01/2008\r\n"))) << "old date, newer version";
     EXPECT_EQ(rappel.count(S(" : version ")), 11);

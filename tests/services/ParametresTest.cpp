@@ -12,6 +12,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/TableChaines.h"
+#include "results/PartieEnCours.h"
 
 #include <QDir>
 #include <QFile>
@@ -139,7 +140,7 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
         if (c.clé)
             InstallationExistante(c.version ? std::optional(S(c.version)) : std::nullopt, "2024-05-01 08:00:00", " 2");
         Langue = 2;
-        LitParamètres();
+        LitParamètres(Jeu());
         EXPECT_TRUE(ParamètresLus);
         EXPECT_EQ(Vues(), c.premier ? Boîtes{123} : Boîtes{}) << "the very first run reminds, an upgrade doesn't";
         for (const auto &[nom, texte] : {std::pair{"version", ChaîneTable(1000)}, {"joueur", S(c.premier ? "" : "Zoé")},
@@ -156,7 +157,7 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
                                c.premier ? S("KELMOR.SCS") : programme + "/KELMOR.SCS", programme}));
 
         const QByteArray avant = Contenu();
-        LitParamètres();
+        LitParamètres(Jeu());
         EXPECT_EQ(Contenu(), avant) << "the next start is an ordinary run that writes nothing";
     }
 }
@@ -190,7 +191,7 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
         maintenant = QDateTime::fromString(S(c.maintenant), FormatDate);
         const QByteArray avant = Contenu();
         Langue = 2;
-        LitParamètres();
+        LitParamètres(Jeu());
         EXPECT_EQ(Vues(), c.rappel ? Boîtes{123} : Boîtes{});
         EXPECT_EQ(Lit("date", CléFamille), S(c.renouvelée ? c.maintenant : c.stocké));
         if (!c.renouvelée) {
@@ -209,7 +210,7 @@ TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsG
     const QString disparu = dossier.filePath(QStringLiteral("disparu"));
     Pose("répertoire", disparu);
     ModeRépertoires = TModeRépertoires::Aucun;
-    LitParamètres(); // given up: the start goes on with what it had
+    LitParamètres(Jeu()); // given up: the start goes on with what it had
     EXPECT_EQ(Vues(), Boîtes{122});
     EXPECT_EQ(ModeRépertoires, TModeRépertoires::DossierJeu);
     EXPECT_EQ(Lit("répertoire"), disparu);
@@ -219,7 +220,7 @@ TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsG
     // The form's refusal of a folder that can't be written is the folder form's own test.
     boîtes.journal.clear();
     dossiersChoisis = {choisi};
-    LitParamètres();
+    LitParamètres(Jeu());
     EXPECT_EQ(Vues(), Boîtes{122});
     EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), RépertoireSauvegarde, FichierLancement, QDir::currentPath()}),
               QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi + "/KELMOR.SCS", choisi}));
@@ -230,7 +231,7 @@ TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheRemin
     RépertoireApplication = dossier.filePath(QStringLiteral("programme.bin")); // a file: nothing can be made in it
     ASSERT_TRUE(QFile(RépertoireApplication).open(QIODevice::WriteOnly));
     dossiersChoisis = {choisi};
-    LitParamètres();
+    LitParamètres(Jeu());
     EXPECT_EQ(Vues(), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
     EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), Lit("répertoire information"), FichierLancement,
                            QDir::currentPath()}),
@@ -270,7 +271,7 @@ TEST_F(Paramètres, CopiesLeftByAnInterruptedWriteAreTakenAwayAtTheStart)
 {
     for (const char *fin : {".Ab12Cd", ".bak", ".Ab12Cde"})
         ASSERT_TRUE(QFile(fichier + fin).open(QIODevice::WriteOnly));
-    LitParamètres();
+    LitParamètres(Jeu());
     const QString nom = QFileInfo(fichier).fileName();
     EXPECT_EQ(QDir(dossier.path()).entryList({nom + ".*"}), QStringList({nom + ".Ab12Cde", nom + ".bak"}));
 }

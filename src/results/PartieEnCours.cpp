@@ -1,4 +1,4 @@
-#include "engine/Partie.h"
+#include "results/PartieEnCours.h"
 
 Partie &Jeu()
 {
