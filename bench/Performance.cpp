@@ -49,7 +49,7 @@ void Prépare()
 void BM_TestDeZone(benchmark::State &state)
 {
     Prépare();
-    RépertoireApplication = DossierProgramme();
+    Réglages().RépertoireApplication = DossierProgramme();
     LitParamètres(Jeu());
     if (!ChargeCarteZones(Jeu().Carte)) {
         state.SkipWithError("no KELMOR.pts in data/");
@@ -160,7 +160,7 @@ void BM_PartieEntiere(benchmark::State &state)
             if (points[ZoneEn(Jeu().Carte, 0, x, y)].isNull())
                 points[ZoneEn(Jeu().Carte, 0, x, y)] = QPoint(x, y);
     for (auto _ : state) {
-        FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
+        Réglages().FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
         InstalleDialogueNouvellePartie([] {
             Jeu().Niveau = TNiveau::Difficile;
             Jeu().Etape = Jeu().OrdreEtapes[1];
@@ -182,7 +182,7 @@ void BM_FichierScoresEcritEtLu(benchmark::State &state)
 {
     Prépare();
     QTemporaryDir dossier;
-    FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
+    Réglages().FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
     for (int n = 1; n <= 4; ++n) {
         Jeu().NombreScores[n] = 10;
         for (int r = 1; r <= 10; ++r)
@@ -205,7 +205,7 @@ void BM_PartieEcriteEtLue(benchmark::State &state)
         return;
     }
     QTemporaryDir dossier;
-    FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
+    Réglages().FichierLancement = dossier.filePath(QStringLiteral("KELMOR.SCS"));
     InstalleDialogueNouvellePartie([] {
         Jeu().Niveau = TNiveau::Moyen;
         Jeu().Etape = Jeu().OrdreEtapes[1];

@@ -67,7 +67,7 @@ void JeuTest::SetUp()
     // The look for new versions never leaves this machine: no server listens on that port.
     InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/")));
 
-    Langue = 1;
+    Langues().Langue = 1;
     Jeu().NomJoueur.clear();
     Jeu().Etape = TEtape::Aucune;
     Jeu().Niveau = TNiveau::Aucun;

@@ -6,9 +6,11 @@
 #include <QScreen>
 #include <QWidget>
 
-int LargeurEcran = 0;
-int HauteurEcran = 0;
-int BasZoneTravail = 0;
+TEcranMesuré &EcranMesuré()
+{
+    static TEcranMesuré mesure;
+    return mesure;
+}
 
 namespace {
 std::optional<InfoEcran> écranSimulé;

@@ -19,8 +19,11 @@ InfoEcran MesureEcran();
 void InstalleEcran(std::optional<InfoEcran> écran);
 
 // The screen in pixels as the last form measured it, and the bottom of its work area.
-extern int LargeurEcran, HauteurEcran;
-extern int BasZoneTravail;
+struct TEcranMesuré {
+    int LargeurEcran = 0, HauteurEcran = 0;
+    int BasZoneTravail = 0;
+};
+TEcranMesuré &EcranMesuré();
 
 // A window's own geometry is counted in twips, 15 to the pixel.
 constexpr int TwipsPerPixelX = 15;

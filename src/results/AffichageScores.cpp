@@ -70,7 +70,7 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
 {
     setObjectName(QStringLiteral("AffichageScores"));
     setFixedSize(9075 / TwipsPerPixelX, 5595 / TwipsPerPixelY);
-    setWindowTitle(Messages[50]);
+    setWindowTitle(Langues().Messages[50]);
     setProperty("HelpContextID", 90);
     setAutoFillBackground(true);
     QPalette fond = palette();
@@ -85,8 +85,8 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
     }
     Command1 = BoutonImage(this, QStringLiteral("AffichageScoresCommand1"), QRect(560, 144, 40, 37));
     BoutonStatistiques = BoutonImage(this, QStringLiteral("BoutonStatistiques"), QRect(560, 224, 40, 37));
-    Command1->setToolTip(Messages[59]);
-    BoutonStatistiques->setToolTip(Messages[152]);
+    Command1->setToolTip(Langues().Messages[59]);
+    BoutonStatistiques->setToolTip(Langues().Messages[152]);
     setTabOrder(Command1, BoutonStatistiques);
     connect(Command1, &QToolButton::clicked, this, [this] { Command1_Click(); });
     connect(BoutonStatistiques, &QToolButton::clicked, this, [this] { BoutonStatistiques_Click(); });
@@ -97,23 +97,23 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
     // The statistics belong to the game that has just ended, not to a look from the menu.
     BoutonStatistiques->setVisible(Jeu().ScoresFinPartie);
 
-    switch (NiveauAffiché) {
+    switch (ScoresAffichés().NiveauAffiché) {
     case 0:
-        Boîte(Messages[13], StyleInformation, Messages[14]);
-        Etiquette->setText(Messages[52]);
+        Boîte(Langues().Messages[13], StyleInformation, Langues().Messages[14]);
+        Etiquette->setText(Langues().Messages[52]);
         break;
-    case 1: Etiquette->setText(Messages[52]); break;
-    case 2: Etiquette->setText(Messages[53]); break;
-    case 3: Etiquette->setText(Messages[54]); break;
-    case 4: Etiquette->setText(Messages[131]); break;
+    case 1: Etiquette->setText(Langues().Messages[52]); break;
+    case 2: Etiquette->setText(Langues().Messages[53]); break;
+    case 3: Etiquette->setText(Langues().Messages[54]); break;
+    case 4: Etiquette->setText(Langues().Messages[131]); break;
     default: break;
     }
-    if (NiveauAffiché == 0)
-        NiveauAffiché = 1;
+    if (ScoresAffichés().NiveauAffiché == 0)
+        ScoresAffichés().NiveauAffiché = 1;
 
     for (int i = 1; i <= 10; ++i) {
         // A line of 0 points is an empty place, whatever the count says.
-        const TLigneScore &ligne = (NiveauAffiché >= 1 && NiveauAffiché <= 4) ? Jeu().MeilleursScores[NiveauAffiché][i]
+        const TLigneScore &ligne = (ScoresAffichés().NiveauAffiché >= 1 && ScoresAffichés().NiveauAffiché <= 4) ? Jeu().MeilleursScores[ScoresAffichés().NiveauAffiché][i]
                                                                              : TLigneScore{};
         if (ligne.Points != 0) {
             nomjoueur[i]->setText(ligne.Nom);
@@ -165,7 +165,7 @@ QString FormatDurée(i32 Durée)
 
 void AfficheMeilleursScores(i16 niveau)
 {
-    NiveauAffiché = niveau;
+    ScoresAffichés().NiveauAffiché = niveau;
     MontreAffichageScores();
 }
 
@@ -178,8 +178,8 @@ void MontreAffichageScores()
 void EnregistreScore()
 {
     if (Jeu().ScoreGelé) {
-        JoueSon(SonPerdu);
-        Boîte(Messages[44], StyleInformation, Messages[35]);
+        JoueSon(SonsJeu().SonPerdu);
+        Boîte(Langues().Messages[44], StyleInformation, Langues().Messages[35]);
     } else {
         Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
         const int niveau = Numéro(Jeu().Niveau);
@@ -197,19 +197,19 @@ void EnregistreScore()
         for (int r = Jeu().NombreScores[niveau]; r > pos; --r)
             Jeu().MeilleursScores[niveau][r] = Jeu().MeilleursScores[niveau][r - 1];
         if (pos <= Jeu().NombreScores[niveau]) {
-            JoueSon(SonEtape);
+            JoueSon(SonsJeu().SonEtape);
             if (Jeu().Score > 0)
-                Boîte(Messages[39], StyleInformation, Messages[40]);
+                Boîte(Langues().Messages[39], StyleInformation, Langues().Messages[40]);
             else
-                Boîte(Messages[41], StyleInformation, Messages[42]);
+                Boîte(Langues().Messages[41], StyleInformation, Langues().Messages[42]);
             Jeu().MeilleursScores[niveau][pos] = TLigneScore{Jeu().NomJoueur, Jeu().Score, Jeu().DuréePartie};
             EcritFichierScores(true);
         } else {
-            JoueSon(SonPerdu);
-            Boîte(Messages[43], StyleInformation, Messages[35]);
+            JoueSon(SonsJeu().SonPerdu);
+            Boîte(Langues().Messages[43], StyleInformation, Langues().Messages[35]);
         }
     }
-    NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));
+    ScoresAffichés().NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));
     Jeu().PartieEnregistrée = true;
     Jeu().ScoresFinPartie = true;
     MontreAffichageScores();

@@ -28,9 +28,9 @@ bool RelitTelQuel(const QString &texte)
 
 QString FichierLancementNoté(const QString &dossierPartie)
 {
-    if (FichierLancement == ParamétrageNonSauvé)
-        return FichierLancement;
-    const QString complet = QDir::current().absoluteFilePath(FichierLancement);
+    if (Réglages().FichierLancement == ParamétrageNonSauvé)
+        return Réglages().FichierLancement;
+    const QString complet = QDir::current().absoluteFilePath(Réglages().FichierLancement);
     if (RelitTelQuel(complet))
         return complet;
     const QString relatif = QDir(dossierPartie).relativeFilePath(complet);
@@ -49,10 +49,10 @@ QString RépertoireDe(const QString &Chemin)
 QByteArray ContenuPartie(const QString &FichierNoté)
 {
     TFichierPartie p;
-    p.Version = VersionJeu;
-    p.Langue = Langue;
+    p.Version = Réglages().VersionJeu;
+    p.Langue = Langues().Langue;
     p.FichierNoté = FichierNoté;
-    if (FichierLancement == ParamétrageNonSauvé) {
+    if (Réglages().FichierLancement == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
             p.OrdreEtapes[i] = Jeu().OrdreEtapes[i];
         for (int n = 1; n <= 4; ++n)
@@ -81,17 +81,17 @@ bool EcritPartie(const QString &Chemin)
     if (dossier.isEmpty())
         dossier = QStringLiteral(".");
     if (!RépertoireAccessible(dossier)) {
-        Boîte(Messages[119], StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[119], StyleInformation, Langues().Messages[46]);
         return false;
     }
     // A score file that the game couldn't find again on resuming would leave its lists behind.
     const QString noté = FichierLancementNoté(dossier);
     if (noté.isEmpty()) {
-        Boîte(Messages[MessagePartieNonNotable] + FichierLancement, StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[MessagePartieNonNotable] + Réglages().FichierLancement, StyleInformation, Langues().Messages[46]);
         return false;
     }
     if (!EcritFichierEntier(Chemin, ContenuPartie(noté))) {
-        Boîte(Messages[134] + QStringLiteral(" ") + Chemin, StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[134] + QStringLiteral(" ") + Chemin, StyleInformation, Langues().Messages[46]);
         return false;
     }
     return true;
@@ -101,18 +101,18 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
 {
     // Everything is read aside first: a file cut short or out of range changes nothing.
     TFichierPartie p;
-    if (!LitOctetsPartie(contenu, VersionJeu, p))
+    if (!LitOctetsPartie(contenu, Réglages().VersionJeu, p))
         return false;
     QString fichier = p.FichierNoté;
     const i16 langue = p.Langue;
 
     // The file is sound: the game takes its state from it.
     RazScores();
-    Langue = langue >= 1 && langue <= NombreLangues ? langue : Langue;
+    Langues().Langue = langue >= 1 && langue <= Langues().NombreLangues ? langue : Langues().Langue;
     // A path noted from the saved game's folder is taken from there; older files hold full paths.
     if (fichier != ParamétrageNonSauvé && QDir::isRelativePath(fichier) && !dossierPartie.isEmpty())
         fichier = QDir::cleanPath(QDir(dossierPartie).absoluteFilePath(fichier));
-    FichierLancement = fichier;
+    Réglages().FichierLancement = fichier;
     if (fichier == ParamétrageNonSauvé) {
         for (int i = 1; i <= 4; ++i)
             Jeu().OrdreEtapes[i] = p.OrdreEtapes[i];
@@ -156,8 +156,8 @@ bool LitPartie(const QString &Chemin)
         return false;
     LectureEnregistrements tête(contenu);
     QString version;
-    if (!tête.Chaîne(version) || version != VersionJeu) {
-        Boîte(Messages[104] + Messages[0] + Messages[105], StyleCritique, Messages[19]);
+    if (!tête.Chaîne(version) || version != Réglages().VersionJeu) {
+        Boîte(Langues().Messages[104] + Langues().Messages[0] + Langues().Messages[105], StyleCritique, Langues().Messages[19]);
         return false;
     }
     return RestaurePartie(contenu, QFileInfo(Chemin).absolutePath());
@@ -167,7 +167,7 @@ bool LitPartie(const QString &Chemin)
 bool ConfirmeArrêt()
 {
     const bool enCours = PartieEnCours();
-    if (enCours && Boîte(Messages[32], StyleQuestion, Messages[33]) != RéponseOui)
+    if (enCours && Boîte(Langues().Messages[32], StyleQuestion, Langues().Messages[33]) != RéponseOui)
         return false;
     if (enCours) {
         ScoreAbandon(Jeu());

@@ -21,7 +21,7 @@ bool ConfirmeArrêt();
 // exactly: full, or else from that folder; empty when neither fits a record unchanged.
 QString FichierLancementNoté(const QString &dossierPartie);
 // The bytes of a .CAS file for the game in memory, with the score file noted as given.
-QByteArray ContenuPartie(const QString &FichierNoté = FichierLancement);
+QByteArray ContenuPartie(const QString &FichierNoté = Réglages().FichierLancement);
 // Restores the game from a .CAS file's bytes, a score file's path noted from the saved
 // game's folder taken from dossierPartie; false, with nothing changed, on any fault.
 bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie = QString());

@@ -15,7 +15,11 @@
 #include <QFileInfo>
 #include <algorithm>
 
-i16 NiveauAffiché = 0;
+TScoresAffichés &ScoresAffichés()
+{
+    static TScoresAffichés affichés;
+    return affichés;
+}
 
 
 void RazScores()
@@ -32,8 +36,8 @@ void RazScores()
 QByteArray ContenuScores(bool AvecScores)
 {
     TFichierScores f;
-    f.Version = VersionJeu;
-    f.Langue = Langue;
+    f.Version = Réglages().VersionJeu;
+    f.Langue = Langues().Langue;
     for (int i = 1; i <= 4; ++i)
         f.OrdreEtapes[i] = Jeu().OrdreEtapes[i];
     for (int i = 1; i <= NombrePlaces; ++i)
@@ -46,10 +50,10 @@ QByteArray ContenuScores(bool AvecScores)
 bool EcritFichierScores(bool AvecScores)
 {
     // The old file is replaced in one rename: a failure leaves it as it was.
-    if (EcritFichierEntier(FichierLancement, ContenuScores(AvecScores)))
+    if (EcritFichierEntier(Réglages().FichierLancement, ContenuScores(AvecScores)))
         return true;
-    Boîte(Messages[134] + QStringLiteral(" ") + FichierLancement + QLatin1Char('\n') + Messages[147],
-          StyleExclamation, Messages[46]);
+    Boîte(Langues().Messages[134] + QStringLiteral(" ") + Réglages().FichierLancement + QLatin1Char('\n') + Langues().Messages[147],
+          StyleExclamation, Langues().Messages[46]);
     return false;
 }
 
@@ -70,7 +74,7 @@ bool LitScores(const QByteArray &contenu)
 bool LitFichierScores()
 {
     QByteArray contenu;
-    return LitFichierEntier(FichierLancement, contenu) && LitScores(contenu);
+    return LitFichierEntier(Réglages().FichierLancement, contenu) && LitScores(contenu);
 }
 
 namespace {
@@ -84,33 +88,33 @@ bool ChargeFichierScores(const QString &chemin)
     LectureEnregistrements f(contenu);
     QString version;
     return f.Chaîne(version) && version.left(7) == QLatin1String("Version") && version.size() >= 10 &&
-           version.mid(8, 2) == VersionJeu.mid(8, 2) && LitScores(contenu);
+           version.mid(8, 2) == Réglages().VersionJeu.mid(8, 2) && LitScores(contenu);
 }
 
 void SignaleFichierScoresAbîmé(const QString &chemin)
 {
-    Boîte(chemin + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
+    Boîte(chemin + QStringLiteral(" : ") + Langues().Messages[27], StyleExclamation, Langues().Messages[28]);
 }
 } // namespace
 
 void ChargeScores()
 {
     RazScores();
-    const QFileInfo abandonné(FichierLancement);
-    if (QFile::exists(FichierLancement)) {
-        if (ChargeFichierScores(FichierLancement))
+    const QFileInfo abandonné(Réglages().FichierLancement);
+    if (QFile::exists(Réglages().FichierLancement)) {
+        if (ChargeFichierScores(Réglages().FichierLancement))
             return;
-        SignaleFichierScoresAbîmé(FichierLancement);
+        SignaleFichierScoresAbîmé(Réglages().FichierLancement);
     }
-    FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
-    EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), FichierLancement);
+    Réglages().FichierLancement = ComposeChemin(Réglages().RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
+    EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), Réglages().FichierLancement);
     // The default file keeps its own set and lists: the next best score is added to them
     // rather than written over them.
-    if (QFileInfo(FichierLancement) != abandonné && QFile::exists(FichierLancement)) {
+    if (QFileInfo(Réglages().FichierLancement) != abandonné && QFile::exists(Réglages().FichierLancement)) {
         RazScores();
-        if (ChargeFichierScores(FichierLancement))
+        if (ChargeFichierScores(Réglages().FichierLancement))
             return;
-        SignaleFichierScoresAbîmé(FichierLancement);
+        SignaleFichierScoresAbîmé(Réglages().FichierLancement);
     }
     for (int i = 1; i <= 4; ++i)
         Jeu().OrdreEtapes[i] = static_cast<TEtape>(i);
@@ -121,7 +125,7 @@ void ChargeScores()
 
 void ConfirmeRazScores()
 {
-    if (Boîte(Messages[30], StyleQuestion, Messages[31]) != RéponseOui)
+    if (Boîte(Langues().Messages[30], StyleQuestion, Langues().Messages[31]) != RéponseOui)
         return;
     RazScores();
     EcritFichierScores(false);

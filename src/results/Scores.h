@@ -3,8 +3,13 @@
 // level, kept together with the set itself in one .SCS file.
 #include "engine/communs.h"
 
-// The level whose list the best-scores form shows.
-extern i16 NiveauAffiché;
+struct TScoresAffichés {
+    // The level whose list the best-scores form shows.
+    i16 NiveauAffiché = 0;
+    // The statistics' display order, the costliest canton first: 1..26.
+    i16 TriPertes[NombrePlaces + 1] = {};
+};
+TScoresAffichés &ScoresAffichés();
 
 void ChargeScores();
 bool LitFichierScores();

@@ -27,9 +27,6 @@
 #include <QStorageInfo>
 #include <cmath>
 
-TTypeFichier TypeFichier = TTypeFichier::Partie;
-bool LancementDemandé = false;
-bool SortieParamétrage = false;
 
 namespace {
 const QString Parent = QStringLiteral("..");
@@ -47,9 +44,9 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
 {
     setObjectName(QStringLiteral("SélectionPartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);
-    SortieParamétrage = false;
-    setWindowTitle(TypeFichier == TTypeFichier::Partie ? Messages[89] : Messages[87]);
-    extension = TypeFichier == TTypeFichier::Partie ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
+    DemandeDossier().SortieParamétrage = false;
+    setWindowTitle(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[89] : Langues().Messages[87]);
+    extension = DemandeDossier().TypeFichier == TTypeFichier::Partie ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
 
     Entête = new QLabel(this);
     Entête->setGeometry(22, 9, 268, 22);
@@ -68,16 +65,16 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
     NomFichier->setGeometry(171, 212, 120, 22);
     BoutonOK = new QPushButton(QStringLiteral("OK"), this);
     BoutonOK->setGeometry(24, 264, 50, 36);
-    BoutonAnnuler = new QPushButton(Messages[80], this);
+    BoutonAnnuler = new QPushButton(Langues().Messages[80], this);
     BoutonAnnuler->setGeometry(216, 264, 74, 34);
     for (QWidget *w : std::initializer_list<QWidget *>{this, Répertoire, Lecteur, Fichier, NomFichier, BoutonOK, BoutonAnnuler})
         w->setProperty("HelpContextID", 10);
 
-    if (ModeRépertoires != TModeRépertoires::Chargement) {
-        Entête->setText(TypeFichier == TTypeFichier::Partie ? Messages[92] : Messages[93]);
+    if (DemandeDossier().ModeRépertoires != TModeRépertoires::Chargement) {
+        Entête->setText(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[92] : Langues().Messages[93]);
         NomFichier->show();
     } else {
-        Entête->setText(TypeFichier == TTypeFichier::Partie ? Messages[90] : Messages[88]);
+        Entête->setText(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[90] : Langues().Messages[88]);
         NomFichier->hide();
     }
 
@@ -103,7 +100,7 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
 void SélectionPartie::showEvent(QShowEvent *e)
 {
     QDialog::showEvent(e);
-    if (ModeRépertoires == TModeRépertoires::Sauvegarde)
+    if (DemandeDossier().ModeRépertoires == TModeRépertoires::Sauvegarde)
         NomFichier->setFocus();
 }
 
@@ -146,7 +143,7 @@ void SélectionPartie::RemplitListes()
 
 void SélectionPartie::Fichier_DblClick()
 {
-    if (ModeRépertoires == TModeRépertoires::Chargement) {
+    if (DemandeDossier().ModeRépertoires == TModeRépertoires::Chargement) {
         BoutonOK_Click();
         return;
     }
@@ -157,27 +154,27 @@ void SélectionPartie::Fichier_DblClick()
 void SélectionPartie::ProposeRépertoire()
 {
     const QString a = SansSéparateurFinal(chemin);
-    const QString b = SansSéparateurFinal(RépertoireSauvegarde);
+    const QString b = SansSéparateurFinal(Réglages().RépertoireSauvegarde);
     if (a.compare(b, Qt::CaseInsensitive) == 0)
         return;
-    if (Boîte(Messages[117] + chemin, StyleQuestion, Messages[118]) != RéponseOui)
+    if (Boîte(Langues().Messages[117] + chemin, StyleQuestion, Langues().Messages[118]) != RéponseOui)
         return;
     EcritValeur(CléJeu, QStringLiteral("répertoire"), chemin);
     QDir::setCurrent(chemin);
-    RépertoireSauvegarde = chemin;
+    Réglages().RépertoireSauvegarde = chemin;
 }
 
 void SélectionPartie::BoutonOK_Click()
 {
-    if (ModeRépertoires == TModeRépertoires::Chargement) {
+    if (DemandeDossier().ModeRépertoires == TModeRépertoires::Chargement) {
         if (!Fichier->currentItem()) {
-            Boîte(TypeFichier == TTypeFichier::Partie ? Messages[7] : Messages[10], StyleExclamation, Messages[8]);
+            Boîte(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[7] : Langues().Messages[10], StyleExclamation, Langues().Messages[8]);
             return;
         }
         const QString cheminFichier = ComposeChemin(chemin, Fichier->currentItem()->text());
-        if (TypeFichier == TTypeFichier::Partie) {
+        if (DemandeDossier().TypeFichier == TTypeFichier::Partie) {
             if (!LitPartie(cheminFichier)) {
-                Boîte(Messages[27], StyleExclamation, Messages[28]);
+                Boîte(Langues().Messages[27], StyleExclamation, Langues().Messages[28]);
                 return;
             }
             QFile::remove(cheminFichier);
@@ -195,11 +192,11 @@ void SélectionPartie::BoutonOK_Click()
             Jeu().HeureDépart = static_cast<i32>(std::lrint(Timer() - Jeu().DuréePartie));
             return;
         }
-        if (Boîte(Messages[9], StyleQuestion, Messages[109]) == RéponseOui) {
+        if (Boîte(Langues().Messages[9], StyleQuestion, Langues().Messages[109]) == RéponseOui) {
             EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), cheminFichier);
             ProposeRépertoire();
         }
-        FichierLancement = cheminFichier;
+        Réglages().FichierLancement = cheminFichier;
         ChargeScores();
         Jeu().Etape = TEtape::Aucune;
         DébutEtape(Jeu());
@@ -218,35 +215,35 @@ void SélectionPartie::BoutonOK_Click()
         nom = nom.left(point);
     NomFichier->setText(nom + extension);
     if (nom.trimmed().isEmpty()) {
-        Boîte(Messages[3], StyleExclamation, Messages[4]);
+        Boîte(Langues().Messages[3], StyleExclamation, Langues().Messages[4]);
         return;
     }
     const QString cheminFichier = ComposeChemin(chemin, nom + extension);
     if (QFile::exists(cheminFichier)) {
-        Boîte(Messages[5], StyleExclamation, Messages[6]);
+        Boîte(Langues().Messages[5], StyleExclamation, Langues().Messages[6]);
         return;
     }
-    if (TypeFichier == TTypeFichier::Partie) {
+    if (DemandeDossier().TypeFichier == TTypeFichier::Partie) {
         if (!EcritPartie(cheminFichier))
             return;
         ProposeRépertoire();
     } else {
-        FichierLancement = cheminFichier;
+        Réglages().FichierLancement = cheminFichier;
         for (int i = 1; i <= NombrePlaces; ++i)
             Jeu().Cantons[i].Inhibé = Jeu().Cantons[i].Trouvé;
-        if (ModeRépertoires == TModeRépertoires::SauvegardeAvecScores) {
+        if (DemandeDossier().ModeRépertoires == TModeRépertoires::SauvegardeAvecScores) {
             EcritFichierScores(true);
         } else {
             EcritFichierScores(false);
             RazScores();
         }
-        if (LancementDemandé) {
-            EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), FichierLancement);
+        if (DemandeDossier().LancementDemandé) {
+            EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), Réglages().FichierLancement);
             ProposeRépertoire();
         }
     }
     RetourAuRepos(Jeu());
-    SortieParamétrage = true;
+    DemandeDossier().SortieParamétrage = true;
     accept();
 }
 
@@ -268,8 +265,8 @@ void EnregistrePartie()
         return;
     }
     Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
-    ModeRépertoires = TModeRépertoires::Sauvegarde;
-    TypeFichier = TTypeFichier::Partie;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde;
+    DemandeDossier().TypeFichier = TTypeFichier::Partie;
     MontreSélectionPartie();
 }
 
@@ -277,8 +274,8 @@ void FichierLire_Click()
 {
     if (!ConfirmeArrêt())
         return;
-    ModeRépertoires = TModeRépertoires::Chargement;
-    TypeFichier = TTypeFichier::Partie;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
+    DemandeDossier().TypeFichier = TTypeFichier::Partie;
     MontreSélectionPartie();
     Jeu().ConseilFicheDonné = false;
 }

@@ -12,12 +12,6 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 
-// The kind of file the file dialog works on.
-enum class TTypeFichier : i16 { Partie = 4, Paramétrage = 5 };
-extern TTypeFichier TypeFichier;
-// The parameter set being saved must become the one used at the next starts.
-extern bool LancementDemandé;
-extern bool SortieParamétrage;
 
 class SélectionPartie : public QDialog {
 public:

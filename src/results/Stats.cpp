@@ -14,7 +14,6 @@
 #include <QSaveFile>
 #include <QWheelEvent>
 
-i16 TriPertes[NombrePlaces + 1];
 
 namespace {
 const QString NomFichierStats = QStringLiteral("KELM_STA.TXT");
@@ -68,7 +67,7 @@ void TriePertes()
                 p = j;
                 v = Jeu().Cantons[A[j]].Pertes[0];
             }
-        TriPertes[i] = A[p];
+        ScoresAffichés().TriPertes[i] = A[p];
         // The ones passed over move up one place and keep their order: equal losses stay by number.
         for (int j = p; j > i; --j)
             A[j] = A[j - 1];
@@ -100,12 +99,12 @@ Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     Baratin->setGeometry(8, 8, 505, 65);
     Baratin->setWordWrap(true);
     Baratin->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    Baratin->setText(Messages[148]);
-    EntêtePays = EnTête(this, 227, Messages[149]);
-    EntêteCapitales = EnTête(this, 299, Messages[150]);
-    EntêteDrapeaux = EnTête(this, 371, Messages[151]);
-    EntêtePlaques = EnTête(this, 440, Messages[166]);
-    setWindowTitle(Messages[152]);
+    Baratin->setText(Langues().Messages[148]);
+    EntêtePays = EnTête(this, 227, Langues().Messages[149]);
+    EntêteCapitales = EnTête(this, 299, Langues().Messages[150]);
+    EntêteDrapeaux = EnTête(this, 371, Langues().Messages[151]);
+    EntêtePlaques = EnTête(this, 440, Langues().Messages[166]);
+    setWindowTitle(Langues().Messages[152]);
 
     TriePertes();
 
@@ -148,7 +147,7 @@ Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     BoutonSauvegarde = BoutonImage(this, QStringLiteral("BoutonSauvegarde"), QRect(240, 432, 41, 41));
     BoutonSauvegarde->setToolTip(NomFichierStats);
     Command1 = BoutonImage(this, QStringLiteral("StatsCommand1"), QRect(320, 432, 41, 41));
-    Command1->setToolTip(Messages[59]);
+    Command1->setToolTip(Langues().Messages[59]);
 
     connect(BarreVerticale, &QScrollBar::valueChanged, this, [this](int v) { RemplitStats(static_cast<i16>(v)); });
     connect(BoutonSauvegarde, &QToolButton::clicked, this, [this] { BoutonSauvegarde_Click(); });
@@ -164,7 +163,7 @@ void Stats::RemplitStats(i16 Décalage)
     if (Décalage < 0 || Décalage >= NombrePlaces)
         return;
     for (int r = 1; r <= NombrePlaces - Décalage; ++r) {
-        const TCanton &c = Jeu().Cantons[TriPertes[Décalage + r]];
+        const TCanton &c = Jeu().Cantons[ScoresAffichés().TriPertes[Décalage + r]];
         NomPays[r]->setText(c.Nom);
         Etiquette *cellules[5] = {nullptr, PertePays[r], PerteCapitales[r], PerteDrapeaux[r], PertePlaques[r]};
         for (i16 k = 1; k <= 4; ++k) {
@@ -189,16 +188,16 @@ QByteArray ContenuStats()
     const QChar tab = QLatin1Char('\t');
 
     QString t;
-    t += Messages[154] + fin;
+    t += Langues().Messages[154] + fin;
     t += tirets + fin;
     t += fin;
-    t += Messages[110] + QStringLiteral(", ") + Messages[0] + fin;
+    t += Langues().Messages[110] + QStringLiteral(", ") + Langues().Messages[0] + fin;
     t += tirets + fin;
     t += fin;
-    t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Messages[72] + QLatin1Char('/') + Messages[73] + QLatin1Char('/') +
-         Messages[74] + QLatin1Char('/') + Messages[162] + fin;
+    t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Langues().Messages[72] + QLatin1Char('/') + Langues().Messages[73] + QLatin1Char('/') +
+         Langues().Messages[74] + QLatin1Char('/') + Langues().Messages[162] + fin;
     for (int n = 1; n <= NombrePlaces; ++n) {
-        const TCanton &c = Jeu().Cantons[TriPertes[n]];
+        const TCanton &c = Jeu().Cantons[ScoresAffichés().TriPertes[n]];
         const QChar guide = n % 4 == 0 ? QLatin1Char('-') : QLatin1Char(' ');
         t += c.Nom + Bourrage(L - int(c.Nom.size()) + 5, guide);
         t += tab + QString::number(c.Pertes[1]);
@@ -211,7 +210,7 @@ QByteArray ContenuStats()
 
 void Stats::BoutonSauvegarde_Click()
 {
-    const QString Chemin = ComposeChemin(RépertoireApplication, NomFichierStats);
+    const QString Chemin = ComposeChemin(Réglages().RépertoireApplication, NomFichierStats);
     // Written whole beside the old file, which the new one replaces in one rename.
     QSaveFile fichier(Chemin);
     bool écrit = fichier.open(QIODevice::WriteOnly);
@@ -225,11 +224,11 @@ void Stats::BoutonSauvegarde_Click()
         }
     }
     if (!écrit) {
-        Boîte(Messages[134] + QLatin1Char(' ') + Chemin + FinDeLigne + Messages[MessageStatsNonEcrites], StyleExclamation,
-              Messages[152]);
+        Boîte(Langues().Messages[134] + QLatin1Char(' ') + Chemin + FinDeLigne + Langues().Messages[MessageStatsNonEcrites], StyleExclamation,
+              Langues().Messages[152]);
         return;
     }
-    Boîte(Messages[153] + Chemin, StyleInformation, Messages[152]);
+    Boîte(Langues().Messages[153] + Chemin, StyleInformation, Langues().Messages[152]);
 }
 
 void Stats::Command1_Click() { accept(); }

@@ -2,14 +2,13 @@
 // The table of what each canton cost in the game just played, and its text file.
 #include "engine/communs.h"
 #include "platform/Controles.h"
+#include "results/Scores.h"
 
 #include <QByteArray>
 #include <QColor>
 #include <QDialog>
 #include <array>
 
-// The display order, the costliest canton first: 1..26.
-extern i16 TriPertes[NombrePlaces + 1];
 
 class Stats : public QDialog {
 public:

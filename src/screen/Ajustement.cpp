@@ -10,16 +10,18 @@
 
 #include <QLayout>
 
-short HauteurFenêtre = 0;
-short LargeurFenêtre = 0;
-TRectangle RectangleEcran;
+TFenêtreAjustée &FenêtreAjustée()
+{
+    static TFenêtreAjustée fenêtre;
+    return fenêtre;
+}
 
 // ---------------------------------------------------------------- screen fit
 
 void MesureCarte()
 {
     const QRect r = RectangleEcranDe(Principal().Carte);
-    RectangleEcran = {r.left(), r.top(), r.left() + r.width(), r.top() + r.height()};
+    FenêtreAjustée().RectangleEcran = {r.left(), r.top(), r.left() + r.width(), r.top() + r.height()};
 }
 
 void AjusteCarte()
@@ -28,17 +30,17 @@ void AjusteCarte()
     Contrôle<QWidget> *carte = E.Carte;
     carte->setTop(5);
     if (Jeu().ModeRévision)
-        carte->setWidth(LargeurEcran - 30);
+        carte->setWidth(EcranMesuré().LargeurEcran - 30);
     else
-        carte->setWidth(LargeurEcran - E.QueFaire->Width() - 30);
+        carte->setWidth(EcranMesuré().LargeurEcran - E.QueFaire->Width() - 30);
     // Refresh: the menu bar and the client area take their places before Carte is measured.
     E.layout()->activate();
     E.update();
     const QRect travail = MesureEcran().zoneTravail;
-    RectangleEcran = {travail.left(), travail.top(), travail.left() + travail.width(), travail.top() + travail.height()};
-    BasZoneTravail = RectangleEcran.Bottom;
+    FenêtreAjustée().RectangleEcran = {travail.left(), travail.top(), travail.left() + travail.width(), travail.top() + travail.height()};
+    EcranMesuré().BasZoneTravail = FenêtreAjustée().RectangleEcran.Bottom;
     MesureCarte();
-    carte->setHeight(BasZoneTravail - RectangleEcran.Top);
+    carte->setHeight(EcranMesuré().BasZoneTravail - FenêtreAjustée().RectangleEcran.Top);
     carte->setLeft(0);
 
     const int W = E.ImageRégion[0]->Width();
@@ -79,14 +81,14 @@ void AjusteCarte()
         E.BarreH->setSmallChange(E.BarreH->LargeChange() / 5);
     }
 
-    if (HauteurFenêtre != 0)
-        E.setHeight(HauteurFenêtre);
+    if (FenêtreAjustée().HauteurFenêtre != 0)
+        E.setHeight(FenêtreAjustée().HauteurFenêtre);
     else
-        E.setHeight(TwipsPerPixelY * (carte->Height() + carte->Top() + RectangleEcran.Top) - E.Top());
+        E.setHeight(TwipsPerPixelY * (carte->Height() + carte->Top() + FenêtreAjustée().RectangleEcran.Top) - E.Top());
     if (barreH)
         E.setHeight(E.Height() + TwipsPerPixelY * E.BarreH->Height());
-    if (LargeurFenêtre != 0)
-        E.setWidth(LargeurFenêtre);
+    if (FenêtreAjustée().LargeurFenêtre != 0)
+        E.setWidth(FenêtreAjustée().LargeurFenêtre);
     else
         E.setWidth(TwipsPerPixelX * (carte->Left() + carte->Width() + E.BarreV->Width() + 30 + E.QueFaire->Width()));
 }
@@ -158,16 +160,16 @@ void AjusteEcran()
     if (Bs > Bb) {
         if (Bs > Bc) {
             E.setHeight(E.Height() + TwipsPerPixelY * (Bs - Bc));
-            HauteurFenêtre = static_cast<short>(E.Height());
+            FenêtreAjustée().HauteurFenêtre = static_cast<short>(E.Height());
         }
     } else if (Bb > Bc) {
         E.setHeight(E.Height() + TwipsPerPixelY * (Bb + 10 - Bc));
-        HauteurFenêtre = static_cast<short>(E.Height());
+        FenêtreAjustée().HauteurFenêtre = static_cast<short>(E.Height());
     }
     const int largeur = TwipsPerPixelX * (E.LBLParam[2]->Left() + E.LBLParam[2]->Width() + 15);
     if (largeur > E.Width()) {
         E.setWidth(largeur);
-        LargeurFenêtre = static_cast<short>(E.Width());
+        FenêtreAjustée().LargeurFenêtre = static_cast<short>(E.Width());
     }
     PlaceTexteSpécifique();
 }

@@ -30,8 +30,8 @@
 void Form_Load()
 {
     const InfoEcran écran = MesureEcran();
-    LargeurEcran = écran.largeur;
-    HauteurEcran = écran.hauteur;
+    EcranMesuré().LargeurEcran = écran.largeur;
+    EcranMesuré().HauteurEcran = écran.hauteur;
     ChargeEcranPrincipal();
 }
 
@@ -42,14 +42,14 @@ void ChargeEcranPrincipal()
     E.setTop(0);
     PointeurEcran(PointeurSablier);
     EtiquetteEcran();
-    FichierAide = ComposeChemin(RépertoireApplication, NomsFichiersAide[Langue]);
+    Langues().FichierAide = ComposeChemin(Réglages().RépertoireApplication, Langues().NomsFichiersAide[Langues().Langue]);
     ChargeScores();
-    HauteurVignette = static_cast<i16>(E.ImageRecherchée->Height());
-    LargeurVignette = static_cast<i16>(E.ImageRecherchée->Width());
+    E.HauteurVignette = static_cast<i16>(E.ImageRecherchée->Height());
+    E.LargeurVignette = static_cast<i16>(E.ImageRecherchée->Width());
     ChargeCantons(Jeu());
     AjusteEcran();
-    E.setTop((HauteurEcran - E.ScaleHeight()) / 2 * TwipsPerPixelX);
-    E.setLeft((LargeurEcran - E.ScaleWidth()) / 2 * TwipsPerPixelX);
+    E.setTop((EcranMesuré().HauteurEcran - E.ScaleHeight()) / 2 * TwipsPerPixelX);
+    E.setLeft((EcranMesuré().LargeurEcran - E.ScaleWidth()) / 2 * TwipsPerPixelX);
     E.update();
     Randomize();
     InitialisationSpécifique();
@@ -69,11 +69,11 @@ void ChargeEcranPrincipal()
     }
     ChargeImagesPays();
 
-    SonErreur = ComposeChemin(RépertoireApplication, QStringLiteral("carte_er.wav"));
-    SonBravo = ComposeChemin(RépertoireApplication, QStringLiteral("carte_ok.wav"));
-    SonEtape = ComposeChemin(RépertoireApplication, QStringLiteral("carte_ga.wav"));
-    SonPerdu = ComposeChemin(RépertoireApplication, QStringLiteral("carte_pe.wav"));
-    SonInfo = ComposeChemin(RépertoireApplication, QStringLiteral("carte_hl.wav"));
+    SonsJeu().SonErreur = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_er.wav"));
+    SonsJeu().SonBravo = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_ok.wav"));
+    SonsJeu().SonEtape = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_ga.wav"));
+    SonsJeu().SonPerdu = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_pe.wav"));
+    SonsJeu().SonInfo = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_hl.wav"));
 
     Jeu().Niveau = TNiveau::Aucun;
 
@@ -89,9 +89,9 @@ void ChargeEcranPrincipal()
             E.rond[i]->raise();
 
     // A missing card file is made anew; whatever fails here, the game starts without cards.
-    for (int i = 1; i <= NombreLangues; ++i) {
-        CheminsInfo[i] = ComposeChemin(RépertoireInfo, NomsFichiersInfo[i]);
-        if (!QFileInfo::exists(CheminsInfo[i]))
+    for (int i = 1; i <= Langues().NombreLangues; ++i) {
+        Langues().CheminsInfo[i] = ComposeChemin(Réglages().RépertoireInfo, Langues().NomsFichiersInfo[i]);
+        if (!QFileInfo::exists(Langues().CheminsInfo[i]))
             CréeFichierInfo(Jeu(), i);
     }
 

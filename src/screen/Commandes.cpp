@@ -45,7 +45,7 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.MenuRecharger, [] { RechargeParamétrage(); });
     relie(E.MenuDéfinir, [] { DéfinitParamétrage(); });
     relie(E.MenuInf, [] {
-        ModeRépertoires = TModeRépertoires::DossierInformation;
+        DemandeDossier().ModeRépertoires = TModeRépertoires::DossierInformation;
         MontreParamétrageRépertoires();
     });
     relie(E.FichierVersion, [] { ChercheVersions(); });
@@ -78,7 +78,7 @@ void LanceRévision()
     AjusteCarte();
     MontreCantons();
     AffichePanneau();
-    Boîte(Messages[138], StyleInformation, Messages[17]);
+    Boîte(Langues().Messages[138], StyleInformation, Langues().Messages[17]);
 }
 
 void AfficheAide()
@@ -90,13 +90,13 @@ void AfficheAide()
 
 void AfficheAPropos()
 {
-    Boîte(Messages[110] + Messages[0] + QLatin1Char('\n') + Messages[16], StyleInformation, Messages[17]);
+    Boîte(Langues().Messages[110] + Langues().Messages[0] + QLatin1Char('\n') + Langues().Messages[16], StyleInformation, Langues().Messages[17]);
 }
 
 void Menuson_Click()
 {
-    SonActif = !SonActif;
-    Principal().Menuson->setText(SonActif ? Messages[157] : Messages[158]);
+    Réglages().SonActif = !Réglages().SonActif;
+    Principal().Menuson->setText(Réglages().SonActif ? Langues().Messages[157] : Langues().Messages[158]);
 }
 
 // ---------------------------------------------------------------- the start and a new game

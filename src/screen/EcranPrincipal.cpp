@@ -14,8 +14,6 @@
 #include <QMenuBar>
 
 
-i16 HauteurVignette = 188;
-i16 LargeurVignette = 200;
 
 namespace {
 EcranPrincipal *forme = nullptr;

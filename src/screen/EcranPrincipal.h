@@ -17,6 +17,9 @@ public:
     EcranPrincipal();
     ~EcranPrincipal() override;
 
+    // The size of the question's picture frame, read at load before a question changes it.
+    i16 HauteurVignette = 188, LargeurVignette = 200;
+
     // The window's own geometry, in twips as the game counts it.
     int Left() const;
     int Top() const;
@@ -97,5 +100,3 @@ QSize TaillePays(int i);
 // Index of the form named "EcranPrincipal" among the top-level forms, -1 if none.
 int IndiceEcranPrincipal();
 
-// The size of the question's picture frame, read at load before a question changes it.
-extern i16 HauteurVignette, LargeurVignette;

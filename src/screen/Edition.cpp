@@ -67,9 +67,9 @@ Edition::Edition() : QDialog(FenêtrePrincipale())
     // Centred in the work area as it is now, counted from the screen's corner.
     const QRect zone = MesureEcran().zoneTravail;
     move(Moitié(zone.width() - width()), Moitié(zone.height() - height()));
-    setWindowTitle(Messages[169]);
+    setWindowTitle(Langues().Messages[169]);
 
-    FichierFichesOuvert = (Langue >= 1 && Langue < int(CheminsInfo.size())) ? CheminsInfo[Langue] : QString();
+    FicheEnEdition().FichierFichesOuvert = (Langues().Langue >= 1 && Langues().Langue < int(Langues().CheminsInfo.size())) ? Langues().CheminsInfo[Langues().Langue] : QString();
     VaÀ(1);
 
     BTNQuit->show();
@@ -85,14 +85,14 @@ Edition::Edition() : QDialog(FenêtrePrincipale())
 bool Edition::EnregistreSiModifiée()
 {
     // The name alone decides nothing: it is written with a changed text, or lost.
-    if (TXTInfos->Text() == TexteFiche::CommeAffiché(TexteLu))
+    if (TXTInfos->Text() == TexteFiche::CommeAffiché(FicheEnEdition().TexteLu))
         return true;
-    return EcrireFiche(FicheEditée, TFiche{LBLPays->text(), TXTInfos->Text()});
+    return EcrireFiche(FicheEnEdition().FicheEditée, TFiche{LBLPays->text(), TXTInfos->Text()});
 }
 
 void Edition::VaÀ(int numéro)
 {
-    FicheEditée = static_cast<i16>(numéro);
+    FicheEnEdition().FicheEditée = static_cast<i16>(numéro);
     const TFiche fiche = LireFiche(numéro);
     TXTInfos->setText(fiche.Texte);
     LBLPays->setText(fiche.Nom);
@@ -112,21 +112,21 @@ void Edition::BTNDown_Click()
 
 void Edition::BTNLeft_Click()
 {
-    if (EnregistreSiModifiée() && FicheEditée > 1)
-        VaÀ(FicheEditée - 1);
+    if (EnregistreSiModifiée() && FicheEnEdition().FicheEditée > 1)
+        VaÀ(FicheEnEdition().FicheEditée - 1);
 }
 
 void Edition::BTNRight_Click()
 {
-    if (EnregistreSiModifiée() && FicheEditée < NombreFiches)
-        VaÀ(FicheEditée + 1);
+    if (EnregistreSiModifiée() && FicheEnEdition().FicheEditée < NombreFiches)
+        VaÀ(FicheEnEdition().FicheEditée + 1);
 }
 
 void Edition::BTNQuit_Click()
 {
     if (!EnregistreSiModifiée())
         return;
-    FichierFichesOuvert.clear();
+    FicheEnEdition().FichierFichesOuvert.clear();
     accept();
 }
 
@@ -142,5 +142,5 @@ void EditerFiches()
     }
     Edition forme;
     ExécuteModal(forme);
-    FichierFichesOuvert.clear();
+    FicheEnEdition().FichierFichesOuvert.clear();
 }

@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <cmath>
 
-short RepèreChoisi = 1;
 
 namespace {
 struct Couleur {
@@ -48,7 +47,7 @@ QPixmap RondDeCouleur(int k)
     return rond;
 }
 
-Palette::Palette() : QDialog(FormePrincipale(), Qt::Dialog | Qt::FramelessWindowHint)
+Palette::Palette(short repère) : QDialog(FormePrincipale(), Qt::Dialog | Qt::FramelessWindowHint), RepèreChoisi(repère)
 {
     setObjectName(QStringLiteral("Palette"));
     setFixedSize(132, 99);
@@ -69,7 +68,7 @@ Palette::Palette() : QDialog(FormePrincipale(), Qt::Dialog | Qt::FramelessWindow
         ChoixCouleur[k] = im;
     }
     // Its top left corner near the middle of the screen, from the form's user scale.
-    move(int((LargeurEcran - 21.6) / 2), int((HauteurEcran - 31.2) / 2));
+    move(int((EcranMesuré().LargeurEcran - 21.6) / 2), int((EcranMesuré().HauteurEcran - 31.2) / 2));
 }
 
 void Palette::ChoixCouleur_Click(int k)
@@ -86,20 +85,18 @@ void Palette::ChoixCouleur_Click(int k)
 
 void Palette::BoutonFermeture_Click() { reject(); }
 
-void OuvrePalette()
+void OuvrePalette(short repère)
 {
-    Palette palette;
+    Palette palette(repère);
     ExécuteModal(palette);
 }
 
 void MenuCouleurCapitalesATrouver_Click()
 {
-    RepèreChoisi = 1;
-    OuvrePalette();
+    OuvrePalette(1);
 }
 
 void MenuCouleurCapitalesTrouvées_Click()
 {
-    RepèreChoisi = 2;
-    OuvrePalette();
+    OuvrePalette(2);
 }

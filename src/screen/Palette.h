@@ -5,11 +5,10 @@
 #include <QDialog>
 #include <array>
 
-extern short RepèreChoisi; // 1 the dot of a town to find, 2 of a town found
-
 class Palette : public QDialog {
 public:
-    Palette();
+    explicit Palette(short repère);
+    const short RepèreChoisi; // 1 the dot of a town to find, 2 of a town found
     Image *BoutonFermeture;
     std::array<Image *, 41> ChoixCouleur{}; // 1..40
 
@@ -22,6 +21,7 @@ QPixmap RondDeCouleur(int k);
 // The French name of colour k, its tool tip in every language.
 QString NomCouleur(int k);
 
-void OuvrePalette();
+// The grid for the dots of the towns to find (1) or of the towns found (2).
+void OuvrePalette(short repère);
 void MenuCouleurCapitalesATrouver_Click();
 void MenuCouleurCapitalesTrouvées_Click();

@@ -17,12 +17,12 @@
 #include <QFile>
 #include <QMenu>
 
+namespace {
 bool GrilleActive = false;
 i32 CodeEtapes = 0;
 bool ParamétrageNommé = false;
 bool ParamétrageDeLancement = false;
 
-namespace {
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");
 
 CaseACocher *Case(int colonne, int rang) { return Principal().Bouton[(colonne - 1) * 4 + rang]; }
@@ -76,8 +76,8 @@ void ParamétrageDéfaut()
 {
     if (!ConfirmeArrêt())
         return;
-    FichierLancement = ComposeChemin(RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
-    EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
+    Réglages().FichierLancement = ComposeChemin(Réglages().RépertoireSauvegarde, QStringLiteral("KELMOR.SCS"));
+    EcritValeur(CléJeu, FichierDeLancement, Réglages().FichierLancement);
     ChargeScores();
     Jeu().Etape = TEtape::ParamétrageAffiché;
     SéquenceEntrée();
@@ -87,8 +87,8 @@ void RechargeParamétrage()
 {
     if (!ConfirmeArrêt())
         return;
-    ModeRépertoires = TModeRépertoires::Chargement;
-    TypeFichier = TTypeFichier::Paramétrage;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
+    DemandeDossier().TypeFichier = TTypeFichier::Paramétrage;
     MontreSélectionPartie();
     Jeu().Etape = TEtape::ParamétrageAffiché;
     SéquenceEntrée();
@@ -117,14 +117,14 @@ void AfficheParamétrage()
             E.Bouton[k]->setChecked(true);
             CodeEtapes += 1 << k;
         }
-    if (FichierLancement == ParamétrageNonSauvé) {
-        E.LBLParam[3]->setText(Messages[94]);
+    if (Réglages().FichierLancement == ParamétrageNonSauvé) {
+        E.LBLParam[3]->setText(Langues().Messages[94]);
         ParamétrageNommé = false;
         E.Bouton[18]->hide();
         E.LBLParam[13]->hide();
     } else {
-        E.LBLParam[3]->setText(Messages[71] + QLatin1Char('\n') + FichierLancement);
-        E.LBLParam[3]->setToolTip(FichierLancement);
+        E.LBLParam[3]->setText(Langues().Messages[71] + QLatin1Char('\n') + Réglages().FichierLancement);
+        E.LBLParam[3]->setToolTip(Réglages().FichierLancement);
         ParamétrageNommé = true;
         E.Bouton[17]->setChecked(true);
         E.Bouton[18]->show();
@@ -132,17 +132,17 @@ void AfficheParamétrage()
         E.Bouton[18]->setEnabled(Jeu().Etape != TEtape::ParamétrageAffiché);
         QString lancement;
         LitValeur(CléJeu, FichierDeLancement, lancement);
-        ParamétrageDeLancement = lancement == FichierLancement;
+        ParamétrageDeLancement = lancement == Réglages().FichierLancement;
         E.Bouton[18]->setChecked(ParamétrageDeLancement);
     }
     if (Jeu().Etape == TEtape::ParamétrageAffiché) {
         E.BTN[1]->hide();
         E.BTN[2]->hide();
-        E.LBLParam[2]->setText(Messages[70]);
+        E.LBLParam[2]->setText(Langues().Messages[70]);
     } else {
         E.BTN[1]->show();
         E.BTN[2]->show();
-        E.LBLParam[2]->setText(Messages[69]);
+        E.LBLParam[2]->setText(Langues().Messages[69]);
         MenusDeJeu(false);
     }
     GrilleActive = true;
@@ -186,15 +186,15 @@ void Bouton_Click(int k)
                         Case(j, rr)->setChecked(false);
                 return;
             }
-            Boîte(Messages[48], StyleInformation, Messages[46]);
+            Boîte(Langues().Messages[48], StyleInformation, Langues().Messages[46]);
             E.Bouton[k]->setChecked(true);
             return;
         }
         if (vide) {
-            Boîte(Messages[45], StyleInformation, Messages[46]);
+            Boîte(Langues().Messages[45], StyleInformation, Langues().Messages[46]);
             E.Bouton[k]->setChecked(false);
         } else if (doublon) {
-            Boîte(Messages[47], StyleInformation, Messages[46]);
+            Boîte(Langues().Messages[47], StyleInformation, Langues().Messages[46]);
             E.Bouton[k]->setChecked(false);
         } else {
             for (int rr = 1; rr <= 4; ++rr)
@@ -227,7 +227,7 @@ void BTN_Click(int i)
     for (int c = 1; c <= NombrePlaces; ++c)
         tousRouges = tousRouges && Jeu().Cantons[c].Trouvé;
     if (tousRouges) {
-        Boîte(Messages[121], StyleExclamation, Messages[46]);
+        Boîte(Langues().Messages[121], StyleExclamation, Langues().Messages[46]);
         return;
     }
     ValideParamétrage();
@@ -236,7 +236,7 @@ void BTN_Click(int i)
 void ValideParamétrage()
 {
     auto &E = Principal();
-    SortieParamétrage = true;
+    DemandeDossier().SortieParamétrage = true;
     i32 code = 0;
     for (int n = 1; n <= 4; ++n) {
         Jeu().OrdreEtapes[n] = TEtape::Aucune;
@@ -251,10 +251,10 @@ void ValideParamétrage()
         modifié = modifié || Jeu().Cantons[c].Trouvé != Jeu().Cantons[c].Inhibé;
 
     if (!E.Bouton[17]->isChecked()) {
-        if (Boîte(Messages[29], StyleQuestion, Messages[106]) != RéponseOui)
+        if (Boîte(Langues().Messages[29], StyleQuestion, Langues().Messages[106]) != RéponseOui)
             return;
         QFile::remove(ParamétrageNonSauvé);
-        FichierLancement = ParamétrageNonSauvé;
+        Réglages().FichierLancement = ParamétrageNonSauvé;
         if (code == CodeEtapes && !modifié) {
             EcritFichierScores(true);
         } else {
@@ -264,20 +264,20 @@ void ValideParamétrage()
             EcritFichierScores(false);
         }
     } else {
-        LancementDemandé = E.Bouton[18]->isChecked();
+        DemandeDossier().LancementDemandé = E.Bouton[18]->isChecked();
         if (code != CodeEtapes || modifié) {
-            ModeRépertoires = TModeRépertoires::Sauvegarde;
-            TypeFichier = TTypeFichier::Paramétrage;
+            DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde;
+            DemandeDossier().TypeFichier = TTypeFichier::Paramétrage;
             MontreSélectionPartie();
-        } else if (ParamétrageNommé && !ParamétrageDeLancement && LancementDemandé) {
-            EcritValeur(CléJeu, FichierDeLancement, FichierLancement);
+        } else if (ParamétrageNommé && !ParamétrageDeLancement && DemandeDossier().LancementDemandé) {
+            EcritValeur(CléJeu, FichierDeLancement, Réglages().FichierLancement);
         } else if (!ParamétrageNommé) {
-            ModeRépertoires = TModeRépertoires::SauvegardeAvecScores;
-            TypeFichier = TTypeFichier::Paramétrage;
+            DemandeDossier().ModeRépertoires = TModeRépertoires::SauvegardeAvecScores;
+            DemandeDossier().TypeFichier = TTypeFichier::Paramétrage;
             MontreSélectionPartie();
         }
     }
-    if (SortieParamétrage) {
+    if (DemandeDossier().SortieParamétrage) {
         CacheParamétrage();
         RetourAuRepos(Jeu());
     }

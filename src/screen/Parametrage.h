@@ -3,11 +3,6 @@
 // play, a grid of step kinds by rank in the side panel.
 #include "engine/communs.h"
 
-extern bool GrilleActive;
-extern i32 CodeEtapes;
-extern bool ParamétrageNommé;
-extern bool ParamétrageDeLancement;
-
 void DéfinitParamétrage();
 void RevoitParamétrage();
 void ParamétrageDéfaut();

@@ -119,7 +119,7 @@ Pompe::Pompe() : QDialog(FenêtrePrincipale())
     if (i < 1 || i > NombrePlaces || !FormePrincipale())
         return;
     auto &E = Principal();
-    setWindowTitle(Messages[114]);
+    setWindowTitle(Langues().Messages[114]);
     E.rond[i]->show();
 
     // The frame isn't known before the card is shown: the main window's, from the same
@@ -128,7 +128,7 @@ Pompe::Pompe() : QDialog(FenêtrePrincipale())
     if (cadre <= 0)
         cadre = E.frameGeometry().height() - E.geometry().height();
     const TPlaceFiche place = PlaceFiche(E.inv[i]->Left() + E.Carte->Left(), E.inv[i]->Width(), width(), height(),
-                                         LargeurEcran, BasZoneTravail, cadre, BTNOK->Height() + 15);
+                                         EcranMesuré().LargeurEcran, EcranMesuré().BasZoneTravail, cadre, BTNOK->Height() + 15);
     if (place.hauteur != height()) {
         setFixedSize(width(), place.hauteur);
         BTNOK->setTop(height() - 15 - BTNOK->Height());
@@ -138,15 +138,15 @@ Pompe::Pompe() : QDialog(FenêtrePrincipale())
     LBLPays->setText(Jeu().Cantons[i].Nom + QStringLiteral(" (") + Jeu().Plaques[i] + QLatin1Char(')'));
     IMGDrapeau->setPicture(E.drapeau[i]->Picture());
     IMGDrapeau->setLeft(Moitié(width() - IMGDrapeau->Width()));
-    LBLCapitale->setText(Messages[115] + QStringLiteral(" : ") + Jeu().Cantons[i].ChefLieu);
+    LBLCapitale->setText(Langues().Messages[115] + QStringLiteral(" : ") + Jeu().Cantons[i].ChefLieu);
     LBLCapitale->setTop(IMGDrapeau->Top() + IMGDrapeau->Height() + 5);
     TXTInfos->setTop(LBLCapitale->Top() + LBLCapitale->Height() + 5);
     TXTInfos->setHeight(qMax(0, BTNOK->Top() - TXTInfos->Top() - 5));
 
     // The name on the card comes from the game; the file gives the text alone.
     TFiche fiche;
-    if (Langue >= 1 && Langue < int(CheminsInfo.size()))
-        fiche = FicheMontrée(CheminsInfo[Langue], i);
+    if (Langues().Langue >= 1 && Langues().Langue < int(Langues().CheminsInfo.size()))
+        fiche = FicheMontrée(Langues().CheminsInfo[Langues().Langue], i);
     TXTInfos->setText(fiche.Texte);
     BTNOK->setFocus();
 }

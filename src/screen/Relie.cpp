@@ -34,25 +34,25 @@ public:
     void Son(TSon son) override
     {
         switch (son) {
-        case TSon::Erreur: JoueSon(SonErreur); break;
-        case TSon::Bravo: JoueSon(SonBravo); break;
-        case TSon::Etape: JoueSon(SonEtape); break;
-        case TSon::Perdu: JoueSon(SonPerdu); break;
-        case TSon::Info: JoueSon(SonInfo); break;
+        case TSon::Erreur: JoueSon(SonsJeu().SonErreur); break;
+        case TSon::Bravo: JoueSon(SonsJeu().SonBravo); break;
+        case TSon::Etape: JoueSon(SonsJeu().SonEtape); break;
+        case TSon::Perdu: JoueSon(SonsJeu().SonPerdu); break;
+        case TSon::Info: JoueSon(SonsJeu().SonInfo); break;
         }
     }
     void Annonce(TAnnonce annonce) override
     {
         switch (annonce) {
-        case TAnnonce::ConseilFiche: Boîte(Messages[137], StyleInformation, Messages[17]); break;
-        case TAnnonce::QuestionPerdue: Boîte(Messages[38], StyleExclamation, Messages[37]); break;
-        case TAnnonce::QuestionPerdueAssistée: Boîte(Messages[36], StyleExclamation, Messages[37]); break;
-        case TAnnonce::PartiePerdue: Boîte(Messages[34], StyleCritique, Messages[35]); break;
+        case TAnnonce::ConseilFiche: Boîte(Langues().Messages[137], StyleInformation, Langues().Messages[17]); break;
+        case TAnnonce::QuestionPerdue: Boîte(Langues().Messages[38], StyleExclamation, Langues().Messages[37]); break;
+        case TAnnonce::QuestionPerdueAssistée: Boîte(Langues().Messages[36], StyleExclamation, Langues().Messages[37]); break;
+        case TAnnonce::PartiePerdue: Boîte(Langues().Messages[34], StyleCritique, Langues().Messages[35]); break;
         }
     }
     void AnnonceEtape(TEtape finie, TEtape suivante) override
     {
-        Boîte(MessageTransition(finie, suivante), StyleInformation, Messages[20]);
+        Boîte(MessageTransition(finie, suivante), StyleInformation, Langues().Messages[20]);
     }
     void EtapeCommencée() override { PrépareEtape(); }
     void QuestionPosée() override { MontreQuestion(); }
@@ -124,13 +124,13 @@ void RelieEcranPrincipal(EcranPrincipal &E)
 
 bool Main()
 {
-    HauteurFenêtre = 0;
-    LargeurFenêtre = 0;
-    RépertoireApplication = DossierProgramme();
+    FenêtreAjustée().HauteurFenêtre = 0;
+    FenêtreAjustée().LargeurFenêtre = 0;
+    Réglages().RépertoireApplication = DossierProgramme();
     LitParamètres(Jeu());
-    if (!ParamètresLus)
+    if (!Réglages().ParamètresLus)
         return false;
-    SonActif = true;
+    Réglages().SonActif = true;
     if (!ChargeCarteZones(Jeu().Carte))
         return false;
     AffichePatience();
@@ -139,7 +139,7 @@ bool Main()
     RelieEcranPrincipal(*forme);
     Form_Load();
     forme->show();
-    if (Langue != 1)
+    if (Langues().Langue != 1)
         ChargeImagesPays();
     PointeurEcran(PointeurNormal);
     return true;

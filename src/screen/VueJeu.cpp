@@ -77,9 +77,9 @@ void MontreQuestion()
     auto remplitCadre = [&E](const Image *source) {
         const int h = source->Height();
         const int w = source->Width();
-        E.ImageRecherchée->setTop(Arrondi((HauteurVignette - h) / 2.0));
+        E.ImageRecherchée->setTop(Arrondi((E.HauteurVignette - h) / 2.0));
         E.ImageRecherchée->setHeight(h);
-        E.ImageRecherchée->setLeft(Arrondi((LargeurVignette - w) / 2.0));
+        E.ImageRecherchée->setLeft(Arrondi((E.LargeurVignette - w) / 2.0));
         E.ImageRecherchée->setWidth(w);
         E.ImageRecherchée->setPicture(source->Picture());
     };
@@ -88,7 +88,7 @@ void MontreQuestion()
             E.TexteAChercher->setText(Jeu().Cantons[c].Nom);
             if (Jeu().Niveau == TNiveau::Moyen && c != 0) {
                 const Image *source = E.inv[c];
-                if ((source->Width() > LargeurVignette - 2 || source->Height() > HauteurVignette - 2) && E.miniature[c])
+                if ((source->Width() > E.LargeurVignette - 2 || source->Height() > E.HauteurVignette - 2) && E.miniature[c])
                     source = E.miniature[c];
                 remplitCadre(source);
             }
@@ -314,18 +314,18 @@ QString MessageTransition(TEtape étape, TEtape suivante)
 {
     QString tête;
     switch (étape) {
-    case TEtape::Cantons: tête = Messages[21]; break;
-    case TEtape::ChefsLieux: tête = Messages[22]; break;
-    case TEtape::Drapeaux: tête = Messages[23]; break;
-    case TEtape::Plaques: tête = Messages[163]; break;
+    case TEtape::Cantons: tête = Langues().Messages[21]; break;
+    case TEtape::ChefsLieux: tête = Langues().Messages[22]; break;
+    case TEtape::Drapeaux: tête = Langues().Messages[23]; break;
+    case TEtape::Plaques: tête = Langues().Messages[163]; break;
     default: break;
     }
     QString queue;
     switch (suivante) {
-    case TEtape::Cantons: queue = Messages[24]; break;
-    case TEtape::ChefsLieux: queue = Messages[25]; break;
-    case TEtape::Drapeaux: queue = Messages[26]; break;
-    case TEtape::Plaques: queue = Messages[165]; break;
+    case TEtape::Cantons: queue = Langues().Messages[24]; break;
+    case TEtape::ChefsLieux: queue = Langues().Messages[25]; break;
+    case TEtape::Drapeaux: queue = Langues().Messages[26]; break;
+    case TEtape::Plaques: queue = Langues().Messages[165]; break;
     default: break;
     }
     return tête + queue;
@@ -391,5 +391,5 @@ void MontreCantonSpécifique(i16 i)
         MontreCantonEtapesSuivantes(i);
 }
 
-void LibelléSpécifique() { Principal().LBLParam[7]->setText(Messages[162]); }
+void LibelléSpécifique() { Principal().LBLParam[7]->setText(Langues().Messages[162]); }
 

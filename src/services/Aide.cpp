@@ -39,9 +39,9 @@ protected:
 QString PageAide(int contexte)
 {
     // Each language's help is a folder of pages named after their contexts.
-    const QString langue = FichierAide.endsWith(QLatin1String("DRAVELN.HLP"), Qt::CaseInsensitive) ? QStringLiteral("de")
+    const QString langue = Langues().FichierAide.endsWith(QLatin1String("DRAVELN.HLP"), Qt::CaseInsensitive) ? QStringLiteral("de")
                                                                                                     : QStringLiteral("fr");
-    return RépertoireApplication + QStringLiteral("/aide/") + langue + QStringLiteral("/aide_%1.html").arg(contexte);
+    return Réglages().RépertoireApplication + QStringLiteral("/aide/") + langue + QStringLiteral("/aide_%1.html").arg(contexte);
 }
 
 int ContexteDe(QWidget *contrôle)
@@ -80,7 +80,7 @@ void OuvreAide(int contexte)
     }
     fenêtre->setSource(QUrl::fromLocalFile(page));
     // The topic stands in the title, as in the desktop's own help viewers.
-    const QString aide = Messages.size() > 67 ? Messages[67] : QStringLiteral("Aide");
+    const QString aide = Langues().Messages.size() > 67 ? Langues().Messages[67] : QStringLiteral("Aide");
     const QString sujet = fenêtre->documentTitle();
     fenêtre->setWindowTitle(sujet.isEmpty() ? aide : aide + QStringLiteral(" - ") + sujet);
     fenêtre->show();

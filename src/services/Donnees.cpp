@@ -12,7 +12,7 @@
 
 void ChargeCantons(Partie &P)
 {
-    const int décalage = 200 * (Langue - 1);
+    const int décalage = 200 * (Langues().Langue - 1);
     for (int i = 1; i <= NombrePlaces; ++i) {
         TCanton &c = P.Cantons[i];
         const QString ville = ChaîneTable(4000 + i);
@@ -36,9 +36,9 @@ void ChargePlaques(Partie &P)
 
 bool ChargeCarteZones(TCarteZones &carte)
 {
-    const QString CheminFichierZones = ComposeChemin(RépertoireApplication, QStringLiteral("KELMOR.pts"));
+    const QString CheminFichierZones = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("KELMOR.pts"));
     if (!QFile::exists(CheminFichierZones)) {
-        Boîte(Messages[132], StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[132], StyleInformation, Langues().Messages[46]);
         return false;
     }
     // More than the tables could hold is refused before it is read.
@@ -48,7 +48,7 @@ bool ChargeCarteZones(TCarteZones &carte)
     const bool lu = fichier.open(QIODevice::ReadOnly) && fichier.size() <= OctetsMax &&
                     (octets = fichier.readAll()).size() == fichier.size();
     if (!lu || !LitCarteZones(octets, carte)) {
-        Boîte(Messages[27], StyleCritique, CheminFichierZones);
+        Boîte(Langues().Messages[27], StyleCritique, CheminFichierZones);
         return false;
     }
     return true;

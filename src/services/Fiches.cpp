@@ -10,9 +10,11 @@
 #include <QFile>
 #include <QFileInfo>
 
-i16 FicheEditée = 1;
-QString TexteLu;
-QString FichierFichesOuvert;
+TFicheEnEdition &FicheEnEdition()
+{
+    static TFicheEnEdition édition;
+    return édition;
+}
 
 namespace {
 using Lecture = TLectureFiche;
@@ -37,7 +39,7 @@ TFiche FicheMontrée(const QString &chemin, int numéro)
 {
     TFiche fiche;
     if (LitFiche(chemin, numéro, fiche) == Lecture::Abîmée) {
-        Boîte(chemin + QStringLiteral(" : ") + Messages[27], StyleExclamation, Messages[28]);
+        Boîte(chemin + QStringLiteral(" : ") + Langues().Messages[27], StyleExclamation, Langues().Messages[28]);
         fiche = TFiche{};
     }
     return fiche;
@@ -46,8 +48,8 @@ TFiche FicheMontrée(const QString &chemin, int numéro)
 
 TFiche LireFiche(int numéro)
 {
-    const TFiche fiche = FicheMontrée(FichierFichesOuvert, numéro);
-    TexteLu = fiche.Texte;
+    const TFiche fiche = FicheMontrée(FicheEnEdition().FichierFichesOuvert, numéro);
+    FicheEnEdition().TexteLu = fiche.Texte;
     return fiche;
 }
 
@@ -59,12 +61,12 @@ bool EcrireFiche(int numéro, const TFiche &fiche)
         // The other records are kept byte for byte: an existing file that can't be read
         // is not replaced.
         QByteArray contenu;
-        if (!QFileInfo::exists(FichierFichesOuvert) || LitFichierEntier(FichierFichesOuvert, contenu)) {
+        if (!QFileInfo::exists(FicheEnEdition().FichierFichesOuvert) || LitFichierEntier(FicheEnEdition().FichierFichesOuvert, contenu)) {
             const qint64 début = qint64(numéro - 1) * TailleFiche;
             if (contenu.size() < début + TailleFiche)
                 contenu.append(QByteArray(début + TailleFiche - contenu.size(), '\0'));
             contenu.replace(début, TailleFiche, enregistrement);
-            écrit = EcritFichierEntier(FichierFichesOuvert, contenu);
+            écrit = EcritFichierEntier(FicheEnEdition().FichierFichesOuvert, contenu);
         }
     }
     if (!écrit) {
@@ -79,25 +81,25 @@ bool EcrireFiche(int numéro, const TFiche &fiche)
 
 void CréeFichierInfo(const Partie &P, int langue)
 {
-    if (langue < 1 || langue >= int(CheminsInfo.size()))
+    if (langue < 1 || langue >= int(Langues().CheminsInfo.size()))
         return;
-    if (langue == Langue)
-        Boîte(Messages[18], StyleInformation, Messages[102]);
-    if (!RépertoireAccessible(RépertoireInfo)) {
-        Boîte(Messages[119] + QStringLiteral(" (") + RépertoireInfo + QLatin1Char(')'), StyleInformation, Messages[46]);
-        Boîte(Messages[135], StyleInformation, Messages[118]);
-        ModeRépertoires = TModeRépertoires::DossierInformation;
+    if (langue == Langues().Langue)
+        Boîte(Langues().Messages[18], StyleInformation, Langues().Messages[102]);
+    if (!RépertoireAccessible(Réglages().RépertoireInfo)) {
+        Boîte(Langues().Messages[119] + QStringLiteral(" (") + Réglages().RépertoireInfo + QLatin1Char(')'), StyleInformation, Langues().Messages[46]);
+        Boîte(Langues().Messages[135], StyleInformation, Langues().Messages[118]);
+        DemandeDossier().ModeRépertoires = TModeRépertoires::DossierInformation;
         MontreParamétrageRépertoires();
     }
     // The folder chosen may hold a file already written.
-    if (QFileInfo::exists(CheminsInfo[langue]))
+    if (QFileInfo::exists(Langues().CheminsInfo[langue]))
         return;
     // Names and text in the language in use, also for the other language's file: it is
     // the player's to rewrite them.
     QByteArray contenu;
     contenu.reserve(NombreFiches * TailleFiche);
     for (int k = 1; k <= NombreFiches; ++k) {
-        QByteArray r = OctetsFiche({P.Cantons[k].Nom, Messages[103]});
+        QByteArray r = OctetsFiche({P.Cantons[k].Nom, Langues().Messages[103]});
         if (r.isEmpty())
             r = OctetsFiche({P.Cantons[k].Nom, QString()});
         if (r.isEmpty())
@@ -105,5 +107,5 @@ void CréeFichierInfo(const Partie &P, int langue)
         contenu.append(r);
     }
     // A folder that still can't be written leaves the game without cards, and nothing more.
-    EcritFichierEntier(CheminsInfo[langue], contenu);
+    EcritFichierEntier(Langues().CheminsInfo[langue], contenu);
 }

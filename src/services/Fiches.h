@@ -11,12 +11,15 @@ bool LitFicheInfo(const QString &chemin, int numéro, TFiche &fiche);
 // a damaged record is told to the player as a file that can't be read, and shows empty.
 TFiche FicheMontrée(const QString &chemin, int numéro);
 
-// The record on screen in Edition, and the text last read there: a box that still
-// holds that text has nothing to write.
-extern i16 FicheEditée;
-extern QString TexteLu;
-// The information file that Edition works on, from its load to its closing.
-extern QString FichierFichesOuvert;
+struct TFicheEnEdition {
+    // The record on screen in Edition, and the text last read there: a box that still
+    // holds that text has nothing to write.
+    i16 FicheEditée = 1;
+    QString TexteLu;
+    // The information file that Edition works on, from its load to its closing.
+    QString FichierFichesOuvert;
+};
+TFicheEnEdition &FicheEnEdition();
 
 // Record numéro of the open file, as FicheMontrée gives it. Its text becomes TexteLu.
 TFiche LireFiche(int numéro);

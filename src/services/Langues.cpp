@@ -8,14 +8,11 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-std::vector<QString> Messages(170);
-short NombreMessages = 169;
-unsigned char NombreLangues = 2;
-short Langue = 1;
-std::vector<QString> NomsFichiersAide;
-std::vector<QString> NomsFichiersInfo;
-std::vector<QString> CheminsInfo;
-QString FichierAide;
+TLangues &Langues()
+{
+    static TLangues langues;
+    return langues;
+}
 
 namespace {
 // The buttons of the message boxes and dialogs speak the language too.
@@ -29,7 +26,7 @@ void TraductionsQt()
         QCoreApplication::installTranslator(traduction);
     }
     // An empty translator leaves Qt's own English: the French one is loaded for French too.
-    const QString nom = Langue == 2 ? QStringLiteral("qtbase_de") : QStringLiteral("qtbase_fr");
+    const QString nom = Langues().Langue == 2 ? QStringLiteral("qtbase_de") : QStringLiteral("qtbase_fr");
     if (!traduction->load(nom, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         return;
     QCoreApplication::removeTranslator(traduction);
@@ -40,25 +37,25 @@ void TraductionsQt()
 
 void ChargeMessages()
 {
-    for (int i = 0; i <= NombreMessages; ++i)
-        Messages[i] = ChaîneTable(1000 + i + 250 * (Langue - 1));
+    for (int i = 0; i <= Langues().NombreMessages; ++i)
+        Langues().Messages[i] = ChaîneTable(1000 + i + 250 * (Langues().Langue - 1));
     TraductionsQt();
 }
 
 void ChargeChaînes()
 {
-    NombreMessages = static_cast<short>(ValeurEnTête(ChaîneTable(1)));
-    Messages.assign(NombreMessages + 1, QString());
-    NombreLangues = static_cast<unsigned char>(ValeurEnTête(ChaîneTable(2)));
-    if (Langue > NombreLangues)
-        Langue = 1;
-    NomsFichiersAide.assign(NombreLangues + 1, QString());
-    NomsFichiersInfo.assign(NombreLangues + 1, QString());
-    CheminsInfo.assign(NombreLangues + 1, QString());
+    Langues().NombreMessages = static_cast<short>(ValeurEnTête(ChaîneTable(1)));
+    Langues().Messages.assign(Langues().NombreMessages + 1, QString());
+    Langues().NombreLangues = static_cast<unsigned char>(ValeurEnTête(ChaîneTable(2)));
+    if (Langues().Langue > Langues().NombreLangues)
+        Langues().Langue = 1;
+    Langues().NomsFichiersAide.assign(Langues().NombreLangues + 1, QString());
+    Langues().NomsFichiersInfo.assign(Langues().NombreLangues + 1, QString());
+    Langues().CheminsInfo.assign(Langues().NombreLangues + 1, QString());
     ChargeMessages();
-    for (int i = 1; i <= NombreLangues; ++i) {
-        NomsFichiersAide[i] = ChaîneTable(10 + i);
-        NomsFichiersInfo[i] = ChaîneTable(20 + i);
+    for (int i = 1; i <= Langues().NombreLangues; ++i) {
+        Langues().NomsFichiersAide[i] = ChaîneTable(10 + i);
+        Langues().NomsFichiersInfo[i] = ChaîneTable(20 + i);
     }
 }
 

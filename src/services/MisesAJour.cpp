@@ -19,8 +19,11 @@
 #include <QTextEdit>
 #include <QTimer>
 
-std::vector<TJeu> JeuxFamille(1);
-i16 NombreJeux = 0;
+TFamille &Famille()
+{
+    static TFamille famille;
+    return famille;
+}
 
 namespace {
 const QString Version = QStringLiteral("version");
@@ -36,9 +39,9 @@ bool ChiffreOuPoint(QChar c) { return (c >= QLatin1Char('0') && c <= QLatin1Char
 
 TJeu &Ajoute(TJeu jeu)
 {
-    JeuxFamille.push_back(std::move(jeu));
-    NombreJeux = static_cast<i16>(JeuxFamille.size() - 1);
-    return JeuxFamille.back();
+    Famille().JeuxFamille.push_back(std::move(jeu));
+    Famille().NombreJeux = static_cast<i16>(Famille().JeuxFamille.size() - 1);
+    return Famille().JeuxFamille.back();
 }
 
 // Two-digit years as the desktop reads them: 00 to 29 this century, 30 to 99 the last.
@@ -104,8 +107,8 @@ QDate ExtraitDate(const QString &texte)
 
 i16 IndiceJeu(const QString &nom)
 {
-    for (i16 i = 1; i <= NombreJeux; ++i)
-        if (JeuxFamille[i].Nom == nom)
+    for (i16 i = 1; i <= Famille().NombreJeux; ++i)
+        if (Famille().JeuxFamille[i].Nom == nom)
             return i;
     return 0;
 }
@@ -114,8 +117,8 @@ void ChargeListeJeux()
 {
     // The list is made once per run; starting afresh keeps a second reading of the
     // settings from mixing two stores.
-    JeuxFamille.assign(1, TJeu{});
-    NombreJeux = 0;
+    Famille().JeuxFamille.assign(1, TJeu{});
+    Famille().NombreJeux = 0;
     const int nombre = ValeurEnTête(ChaîneTable(6000).trimmed());
     for (int i = 1; i <= nombre; ++i) {
         const QString ligne = ChaîneTable(6001 + 2 * (i - 1));
@@ -136,7 +139,7 @@ void ChargeListeJeux()
             Ajoute(TJeu{nom, description, QString(), AucuneDate, version, date});
             continue;
         }
-        TJeu &jeu = JeuxFamille[j];
+        TJeu &jeu = Famille().JeuxFamille[j];
         if (version > jeu.VersionDisponible) {
             jeu.VersionDisponible = version;
             jeu.DateDisponible = date;
@@ -157,8 +160,8 @@ void SauveMisesAJour()
     // When the key can't be made, reads and writes fail and the list works from memory.
     const QString clé = CléUpdates();
     CréeClé(clé);
-    for (i16 i = 1; i <= NombreJeux; ++i) {
-        TJeu &jeu = JeuxFamille[i];
+    for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
+        TJeu &jeu = Famille().JeuxFamille[i];
         // The store trims value names: a name with blanks around it would land on
         // another game's value. Such a game, read from the site, lives in memory only.
         if (jeu.Nom.isEmpty() || jeu.Nom != jeu.Nom.trimmed())
@@ -183,7 +186,7 @@ void ExploreJeux()
         QString texte;
         const bool lu = LitValeur(CléFamille + QLatin1Char('\\') + nom, Version, texte) == 0;
         if (const i16 j = IndiceJeu(nom)) {
-            TJeu &jeu = JeuxFamille[j];
+            TJeu &jeu = Famille().JeuxFamille[j];
             // Found without a readable version: counted as out of date.
             jeu.VersionInstallée = QStringLiteral("0.00");
             if (lu) {
@@ -217,17 +220,17 @@ void ExploreJeux()
 void AfficheRappel()
 {
     bool aDire = false;
-    for (i16 i = 1; i <= NombreJeux; ++i) {
-        const TJeu &jeu = JeuxFamille[i];
+    for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
+        const TJeu &jeu = Famille().JeuxFamille[i];
         if (jeu.VersionInstallée.isEmpty() || jeu.VersionInstallée < jeu.VersionDisponible ||
             jeu.DateInstallée < jeu.DateDisponible)
             aDire = true;
     }
-    QString texte = Messages[123];
+    QString texte = Langues().Messages[123];
     if (aDire) {
-        texte += FinDeLigne + FinDeLigne + Messages[146] + FinDeLigne + FinDeLigne;
-        for (i16 i = 1; i <= NombreJeux; ++i) {
-            const TJeu &jeu = JeuxFamille[i];
+        texte += FinDeLigne + FinDeLigne + Langues().Messages[146] + FinDeLigne + FinDeLigne;
+        for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
+            const TJeu &jeu = Famille().JeuxFamille[i];
             if (jeu.VersionInstallée >= jeu.VersionDisponible && jeu.DateInstallée >= jeu.DateDisponible)
                 continue;
             texte += (jeu.Description.trimmed().isEmpty() ? jeu.Nom : jeu.Description) + QStringLiteral(" : version ") +
@@ -237,7 +240,7 @@ void AfficheRappel()
             texte += FinDeLigne;
         }
     }
-    Boîte(texte, StyleInformation, Messages[124]);
+    Boîte(texte, StyleInformation, Langues().Messages[124]);
 }
 
 void LitListePage(const QString &page)
@@ -258,7 +261,7 @@ void LitListePage(const QString &page)
             !LitDate(LitChamp(contenu, 3), date))
             continue;
         if (const i16 j = IndiceJeu(nom)) {
-            TJeu &jeu = JeuxFamille[j];
+            TJeu &jeu = Famille().JeuxFamille[j];
             jeu.Description = description;
             if (date > jeu.DateDisponible)
                 jeu.DateDisponible = date;

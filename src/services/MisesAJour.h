@@ -24,11 +24,14 @@ struct TJeu {
     QDate DateDisponible = AucuneDate;
 };
 
-// The family's games from index 1 (element 0 stays empty), NombreJeux of them.
-// The list lives for the whole run and only grows; only VersionDisponible is kept,
-// in the key Updates.
-extern std::vector<TJeu> JeuxFamille;
-extern i16 NombreJeux;
+struct TFamille {
+    // The family's games from index 1 (element 0 stays empty), NombreJeux of them.
+    // The list lives for the whole run and only grows; only VersionDisponible is kept,
+    // in the key Updates.
+    std::vector<TJeu> JeuxFamille = std::vector<TJeu>(1);
+    i16 NombreJeux = 0;
+};
+TFamille &Famille();
 
 // The list as the string table has it (ids 6000 on), merged with Updates.
 void ChargeListeJeux();

@@ -19,7 +19,11 @@
 #include <QStorageInfo>
 #include <QStyle>
 
-TModeRépertoires ModeRépertoires = TModeRépertoires::Aucun;
+TDemandeDossier &DemandeDossier()
+{
+    static TDemandeDossier demande;
+    return demande;
+}
 
 namespace {
 const QString Parent = QStringLiteral("..");
@@ -85,16 +89,16 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FenêtrePrincipal
     setProperty("HelpContextID", 180);
 
     const InfoEcran écran = MesureEcran();
-    LargeurEcran = écran.largeur;
-    HauteurEcran = écran.hauteur;
-    move((LargeurEcran - width()) / 2, (HauteurEcran - height()) / 2);
-    setWindowTitle(Messages[145]);
-    if (ModeRépertoires == TModeRépertoires::DossierJeu) {
+    EcranMesuré().LargeurEcran = écran.largeur;
+    EcranMesuré().HauteurEcran = écran.hauteur;
+    move((EcranMesuré().LargeurEcran - width()) / 2, (EcranMesuré().HauteurEcran - height()) / 2);
+    setWindowTitle(Langues().Messages[145]);
+    if (DemandeDossier().ModeRépertoires == TModeRépertoires::DossierJeu) {
         motif = QStringLiteral("*.SCS");
-        Entête->setText(Messages[143]);
+        Entête->setText(Langues().Messages[143]);
     } else {
         motif = QStringLiteral("*.INF");
-        Entête->setText(Messages[144]);
+        Entête->setText(Langues().Messages[144]);
     }
 
     // Single files mounted in place (as containers do) are no drives.
@@ -104,8 +108,8 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FenêtrePrincipal
     chemin = SansSéparateurFinal(QDir::currentPath());
     RemplitListes();
     // A RépertoireInfo that is gone leaves the list on the current folder.
-    if (ModeRépertoires == TModeRépertoires::DossierInformation)
-        ChangeRépertoire(RépertoireInfo);
+    if (DemandeDossier().ModeRépertoires == TModeRépertoires::DossierInformation)
+        ChangeRépertoire(Réglages().RépertoireInfo);
 
     connect(Lecteur, &QComboBox::activated, this, [this](int i) { Lecteur_Change(i); });
     connect(Répertoire, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
@@ -197,11 +201,11 @@ std::optional<bool> ParamétrageRépertoires::CréeSousRépertoire()
     // The folder is looked at, not gone into: the process's current folder is where the
     // bare name of the score file is found, and it must not follow the player's attempts.
     if (QFileInfo(cible).isDir()) {
-        Boîte(Messages[125], StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[125], StyleInformation, Langues().Messages[46]);
         return false;
     }
     if (!QDir().mkdir(cible) || !Listable(cible)) {
-        Boîte(Messages[120], StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[120], StyleInformation, Langues().Messages[46]);
         return false;
     }
     return true;
@@ -230,22 +234,22 @@ void ParamétrageRépertoires::BoutonOK_Click()
     const QString dossier = chemin;
     QString essai = dossier;
     if (!RépertoireAccessible(essai)) {
-        Boîte(Messages[119], StyleInformation, Messages[46]);
+        Boîte(Langues().Messages[119], StyleInformation, Langues().Messages[46]);
         return;
     }
-    if (ModeRépertoires == TModeRépertoires::DossierJeu) {
+    if (DemandeDossier().ModeRépertoires == TModeRépertoires::DossierJeu) {
         EcritValeur(CléJeu, QStringLiteral("répertoire"), dossier);
-        RépertoireSauvegarde = dossier;
+        Réglages().RépertoireSauvegarde = dossier;
         // The bare name of the score file is found in the current folder.
         QDir::setCurrent(dossier);
         EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), ComposeChemin(dossier, FichierScoresParDéfaut));
-        FichierLancement = FichierScoresParDéfaut;
+        Réglages().FichierLancement = FichierScoresParDéfaut;
     } else {
         EcritValeur(CléJeu, QStringLiteral("répertoire information"), dossier);
-        RépertoireInfo = dossier;
+        Réglages().RépertoireInfo = dossier;
         // The other language's file is looked for in the new folder at the next start.
-        if (Langue >= 1 && Langue < int(CheminsInfo.size()) && Langue < int(NomsFichiersInfo.size()))
-            CheminsInfo[Langue] = ComposeChemin(RépertoireInfo, NomsFichiersInfo[Langue]);
+        if (Langues().Langue >= 1 && Langues().Langue < int(Langues().CheminsInfo.size()) && Langues().Langue < int(Langues().NomsFichiersInfo.size()))
+            Langues().CheminsInfo[Langues().Langue] = ComposeChemin(Réglages().RépertoireInfo, Langues().NomsFichiersInfo[Langues().Langue]);
     }
     accept();
 }

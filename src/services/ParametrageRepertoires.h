@@ -23,7 +23,17 @@ enum class TModeRépertoires : i16 {
     DossierInformation = 6,   // the folder of the information cards
     DossierJeu = 7,           // the folder of scores, parameter sets and saved games
 };
-extern TModeRépertoires ModeRépertoires;
+// The kind of file the file dialog works on.
+enum class TTypeFichier : i16 { Partie = 4, Paramétrage = 5 };
+// What the file dialog or the folder form is asked for, set by the caller just before.
+struct TDemandeDossier {
+    TModeRépertoires ModeRépertoires = TModeRépertoires::Aucun;
+    TTypeFichier TypeFichier = TTypeFichier::Partie;
+    // The parameter set being saved must become the one used at the next starts.
+    bool LancementDemandé = false;
+    bool SortieParamétrage = false;
+};
+TDemandeDossier &DemandeDossier();
 
 class ParamétrageRépertoires : public QDialog {
 public:

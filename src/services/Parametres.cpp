@@ -42,8 +42,8 @@ int ValeurNumérique(const QString &texte)
 
 void DemandeRépertoireSauvegarde()
 {
-    Boîte(Messages[122], StyleInformation, Messages[118]);
-    ModeRépertoires = TModeRépertoires::DossierJeu;
+    Boîte(Langues().Messages[122], StyleInformation, Langues().Messages[118]);
+    DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
     MontreParamétrageRépertoires();
 }
 
@@ -51,8 +51,8 @@ void DemandeRépertoireSauvegarde()
 // that doesn't exist leaves it where it was.
 void VaDansRépertoireSauvegarde()
 {
-    if (!RépertoireSauvegarde.trimmed().isEmpty())
-        QDir::setCurrent(RépertoireSauvegarde);
+    if (!Réglages().RépertoireSauvegarde.trimmed().isEmpty())
+        QDir::setCurrent(Réglages().RépertoireSauvegarde);
 }
 
 // The installed games are looked at on every ordinary run. The reminder comes when
@@ -75,8 +75,8 @@ void RappelSiLeTempsEstVenu()
 // The language is among what couldn't be read: the messages in use if there are any, else the French.
 void SignaleRéglagesIllisibles()
 {
-    const QString texte = int(Messages.size()) > MessageRéglagesIllisibles
-                              ? Messages[MessageRéglagesIllisibles]
+    const QString texte = int(Langues().Messages.size()) > MessageRéglagesIllisibles
+                              ? Langues().Messages[MessageRéglagesIllisibles]
                               : ChaîneTable(1000 + MessageRéglagesIllisibles);
     Boîte(texte + QDir::toNativeSeparators(FichierRegistre()), StyleCritique, QStringLiteral("Les cantons kelmors"));
 }
@@ -95,25 +95,25 @@ void MessageCléImpossible()
 
 void DossiersParDéfaut()
 {
-    if (RépertoireAccessible(RépertoireApplication)) {
-        EcritValeur(CléJeu, Répertoire, RépertoireApplication);
-        RépertoireSauvegarde = RépertoireApplication;
-        EcritValeur(CléJeu, FichierDeLancement, ComposeChemin(RépertoireSauvegarde, FichierScoresParDéfaut));
-        FichierLancement = FichierScoresParDéfaut;
+    if (RépertoireAccessible(Réglages().RépertoireApplication)) {
+        EcritValeur(CléJeu, Répertoire, Réglages().RépertoireApplication);
+        Réglages().RépertoireSauvegarde = Réglages().RépertoireApplication;
+        EcritValeur(CléJeu, FichierDeLancement, ComposeChemin(Réglages().RépertoireSauvegarde, FichierScoresParDéfaut));
+        Réglages().FichierLancement = FichierScoresParDéfaut;
     } else {
         DemandeRépertoireSauvegarde();
     }
-    RépertoireInfo = RépertoireApplication;
-    EcritValeur(CléJeu, RépertoireInformation, RépertoireInfo);
+    Réglages().RépertoireInfo = Réglages().RépertoireApplication;
+    EcritValeur(CléJeu, RépertoireInformation, Réglages().RépertoireInfo);
 }
 
 void PremierLancement()
 {
     EcritValeur(CléFamille, Date, TexteMaintenant());
-    EcritValeur(CléJeu, Version, VersionJeu);
+    EcritValeur(CléJeu, Version, Réglages().VersionJeu);
     EcritValeur(CléJeu, Joueur, QString());
     EcritValeur(CléJeu, LangueValeur, QStringLiteral("1"));
-    Langue = 1;
+    Langues().Langue = 1;
     ChargeChaînes();
     DossiersParDéfaut();
     // The very first run always reminds.
@@ -124,17 +124,17 @@ void PremierLancement()
 void MiseAJourVersion()
 {
     EcritValeur(CléFamille, Date, TexteMaintenant());
-    EcritValeur(CléJeu, Version, VersionJeu);
+    EcritValeur(CléJeu, Version, Réglages().VersionJeu);
     DossiersParDéfaut();
 }
 
 void LitParamètres(Partie &P)
 {
-    ParamètresLus = true;
-    VersionJeu = ChaîneTable(1000);
+    Réglages().ParamètresLus = true;
+    Réglages().VersionJeu = ChaîneTable(1000);
     NettoieRegistre();
     if (!RegistreLisible()) {
-        ParamètresLus = false;
+        Réglages().ParamètresLus = false;
         SignaleRéglagesIllisibles();
         return;
     }
@@ -143,7 +143,7 @@ void LitParamètres(Partie &P)
     QString version;
     const i32 lu = LitValeur(CléJeu, Version, version);
     if (lu == -1 && CréeClé(CléJeu) != 0) {
-        ParamètresLus = false;
+        Réglages().ParamètresLus = false;
         MessageCléImpossible();
         return;
     }
@@ -157,22 +157,22 @@ void LitParamètres(Partie &P)
 
     QString langue;
     LitValeur(CléJeu, LangueValeur, langue);
-    Langue = static_cast<short>(ValeurNumérique(langue));
-    if (Langue < 1)
-        Langue = 1;
+    Langues().Langue = static_cast<short>(ValeurNumérique(langue));
+    if (Langues().Langue < 1)
+        Langues().Langue = 1;
     ChargeChaînes();
 
-    if (version != VersionJeu)
+    if (version != Réglages().VersionJeu)
         MiseAJourVersion();
     else
         RappelSiLeTempsEstVenu();
 
     LitValeur(CléJeu, Joueur, P.NomJoueur);
-    LitValeur(CléJeu, Répertoire, RépertoireSauvegarde);
-    if (!RépertoireAccessible(RépertoireSauvegarde))
+    LitValeur(CléJeu, Répertoire, Réglages().RépertoireSauvegarde);
+    if (!RépertoireAccessible(Réglages().RépertoireSauvegarde))
         DemandeRépertoireSauvegarde();
     VaDansRépertoireSauvegarde();
-    LitValeur(CléJeu, FichierDeLancement, FichierLancement);
-    LitValeur(CléJeu, RépertoireInformation, RépertoireInfo);
+    LitValeur(CléJeu, FichierDeLancement, Réglages().FichierLancement);
+    LitValeur(CléJeu, RépertoireInformation, Réglages().RépertoireInfo);
     CoupeSonsSystème();
 }

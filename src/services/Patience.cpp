@@ -9,9 +9,11 @@
 #include <QLabel>
 #include <QPointer>
 
+namespace {
 int BitsParPixel = 0;
-std::vector<TMode> Modes;
+std::vector<TMode> Modes; // 0 the best found, the modes kept from 1
 short CapacitéModes = 36;
+} // namespace
 
 namespace {
 QPointer<Patience> patience;
@@ -21,11 +23,11 @@ std::function<std::vector<TMode>()> sourceModes;
 QString Profondeur(int bits)
 {
     switch (bits) {
-    case 4: return QStringLiteral("16 ") + Messages[97] + QStringLiteral("]");
-    case 8: return QStringLiteral("256") + Messages[97] + QStringLiteral("]");
-    case 16: return QStringLiteral("65536") + Messages[97] + QStringLiteral("]");
-    case 24: return Messages[97] + QStringLiteral(" 24 bits]");
-    case 32: return Messages[97] + QStringLiteral(" 32 bits]");
+    case 4: return QStringLiteral("16 ") + Langues().Messages[97] + QStringLiteral("]");
+    case 8: return QStringLiteral("256") + Langues().Messages[97] + QStringLiteral("]");
+    case 16: return QStringLiteral("65536") + Langues().Messages[97] + QStringLiteral("]");
+    case 24: return Langues().Messages[97] + QStringLiteral(" 24 bits]");
+    case 32: return Langues().Messages[97] + QStringLiteral(" 32 bits]");
     default: return QString();
     }
 }
@@ -44,7 +46,7 @@ bool SondeModes()
     Modes.assign(CapacitéModes + 1, TMode{});
     int suivant = 1;
     for (const TMode &m : sourceModes ? sourceModes() : std::vector<TMode>{}) {
-        if (m.Bits < 16 || m.Largeur <= LargeurEcran)
+        if (m.Bits < 16 || m.Largeur <= EcranMesuré().LargeurEcran)
             continue;
         if (suivant > CapacitéModes) {
             CapacitéModes = static_cast<short>(CapacitéModes + 10);
@@ -52,7 +54,7 @@ bool SondeModes()
         }
         Modes[suivant++] = m;
     }
-    Modes[0].Largeur = LargeurEcran;
+    Modes[0].Largeur = EcranMesuré().LargeurEcran;
     Modes[0].Bits = BitsParPixel;
     bool meilleur = false;
     for (int i = 1; i < suivant; ++i) {
@@ -70,10 +72,10 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Q
     setObjectName(QStringLiteral("Patience"));
     setFixedSize(500, 296);
     const InfoEcran écran = MesureEcran();
-    LargeurEcran = écran.largeur;
-    HauteurEcran = écran.hauteur;
+    EcranMesuré().LargeurEcran = écran.largeur;
+    EcranMesuré().HauteurEcran = écran.hauteur;
     BitsParPixel = écran.profondeur;
-    setWindowTitle(Messages[91] + QStringLiteral("...  (") + Messages[0] + QStringLiteral(")"));
+    setWindowTitle(Langues().Messages[91] + QStringLiteral("...  (") + Langues().Messages[0] + QStringLiteral(")"));
 
     // The window's emblem, drawn large in the picture's place.
     Image1 = new Image(this);
@@ -90,19 +92,19 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Q
     Conseil = étiquette({184, 96, 289, 89});
     Adresse = étiquette({8, 184, 473, 105});
     Adresse->setStyleSheet(QStringLiteral("color: #0000ff;"));
-    Adresse->setText(Messages[95]);
-    move((LargeurEcran - width()) / 2, (HauteurEcran - height()) / 2);
+    Adresse->setText(Langues().Messages[95]);
+    move((EcranMesuré().LargeurEcran - width()) / 2, (EcranMesuré().HauteurEcran - height()) / 2);
 
-    Commentaire->setText(Messages[96] + QStringLiteral("%1x%2  [").arg(LargeurEcran).arg(HauteurEcran) +
+    Commentaire->setText(Langues().Messages[96] + QStringLiteral("%1x%2  [").arg(EcranMesuré().LargeurEcran).arg(EcranMesuré().HauteurEcran) +
                          Profondeur(BitsParPixel));
     const bool mieux = SondeModes();
-    const bool large = LargeurEcran >= 1024;
+    const bool large = EcranMesuré().LargeurEcran >= 1024;
     Conseil->setStyleSheet(large ? QStringLiteral("color: #000000;") : QStringLiteral("color: #ff0000;"));
     const QString mode = Mode(Modes[0].Largeur, Modes[0].Hauteur, Modes[0].Bits);
     if (!mieux)
-        Conseil->setText(large ? Messages[98] : Messages[99]);
+        Conseil->setText(large ? Langues().Messages[98] : Langues().Messages[99]);
     else
-        Conseil->setText(Messages[100] + mode + (large ? QStringLiteral(" ; ") + Messages[101] : Messages[107]));
+        Conseil->setText(Langues().Messages[100] + mode + (large ? QStringLiteral(" ; ") + Langues().Messages[101] : Langues().Messages[107]));
 }
 
 void Patience::closeEvent(QCloseEvent *e) { e->ignore(); }

@@ -14,9 +14,6 @@ struct TMode {
     int Bits = 0;
 };
 
-extern int BitsParPixel;
-extern std::vector<TMode> Modes; // 0 the best found, the modes kept from 1
-extern short CapacitéModes;
 
 class Patience : public QDialog {
 public:

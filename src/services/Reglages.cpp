@@ -4,12 +4,11 @@
 
 #include <QCoreApplication>
 
-QString RépertoireApplication;
-QString RépertoireSauvegarde;
-QString RépertoireInfo;
-QString FichierLancement;
-QString VersionJeu;
-bool ParamètresLus = false;
+TRéglages &Réglages()
+{
+    static TRéglages réglages;
+    return réglages;
+}
 
 namespace {
 QString dossierInstallé;

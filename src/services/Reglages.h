@@ -5,13 +5,19 @@
 #include <QString>
 #include <functional>
 
-extern QString RépertoireApplication;
-extern QString RépertoireSauvegarde;
-extern QString RépertoireInfo;
-extern QString FichierLancement;
-extern QString VersionJeu;
-// False when the game's key couldn't be created: nothing is loaded and the start stops.
-extern bool ParamètresLus;
+// What the run keeps in memory of the settings store, and the program's folder.
+struct TRéglages {
+    QString RépertoireApplication;
+    QString RépertoireSauvegarde;
+    QString RépertoireInfo;
+    QString FichierLancement;
+    QString VersionJeu;
+    // False when the game's key couldn't be created: nothing is loaded and the start stops.
+    bool ParamètresLus = false;
+    bool SonActif = true;
+};
+// The run's one set of settings, read at the start.
+TRéglages &Réglages();
 
 // The family's key, shared with its other games, and this game's own.
 inline const QString CléFamille = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium");

@@ -1,11 +1,14 @@
 #include "services/Sons.h"
 
 #include "platform/Son.h"
+#include "services/Reglages.h"
 #include "services/Registre.h"
 
-bool SonActif = true;
-QString SonBravo, SonErreur, SonEtape, SonPerdu, SonInfo;
-QString SonSystèmeExclamation, SonSystèmeAsterisk, SonSystèmeHand, SonSystèmeQuestion;
+TSonsJeu &SonsJeu()
+{
+    static TSonsJeu sons;
+    return sons;
+}
 
 namespace {
 // The sounds the desktop's scheme gives its message boxes, and where the game keeps them meanwhile.
@@ -14,16 +17,16 @@ struct SonSystème {
     QString *gardé;
 };
 const SonSystème SonsSystème[4] = {
-    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemExclamation\\.current", &SonSystèmeExclamation},
-    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemAsterisk\\.current", &SonSystèmeAsterisk},
-    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemHand\\.current", &SonSystèmeHand},
-    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemQuestion\\.current", &SonSystèmeQuestion},
+    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemExclamation\\.current", &SonsJeu().SonSystèmeExclamation},
+    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemAsterisk\\.current", &SonsJeu().SonSystèmeAsterisk},
+    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemHand\\.current", &SonsJeu().SonSystèmeHand},
+    {"HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemQuestion\\.current", &SonsJeu().SonSystèmeQuestion},
 };
 } // namespace
 
 void JoueSon(const QString &chemin)
 {
-    if (SonActif)
+    if (Réglages().SonActif)
         JoueFichierSon(chemin);
 }
 

@@ -25,7 +25,7 @@ const QString Données = QStringLiteral(DOSSIER_DONNEES);
 // drawn in each picture (just inside the canton) resolves to it.
 TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
 {
-    Langue = 1, ChargeChaînes(), ChargeCantons(Jeu());
+    Langues().Langue = 1, ChargeChaînes(), ChargeCantons(Jeu());
     QFile f(Données + "/KELMOR.pts");
     ASSERT_TRUE(f.open(QIODevice::ReadOnly) && LitCarteZones(f.readAll(), Jeu().Carte));
     int pays = 0;

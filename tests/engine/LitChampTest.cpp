@@ -24,7 +24,7 @@ TEST(LitChamp, FieldsBetweenHashesAndTheirLeadingNumbers)
 TEST(ChargeCantons, GermanNamesOnTheSamePlacesAndAChangeKeepsWhatTheGameKnows)
 {
     Jeu().Cantons[6].Trouvé = True, Jeu().Cantons[6].Pertes[2] = 17;
-    auto charge = [](int langue) { Langue = langue, ChargeChaînes(), ChargeCantons(Jeu()); };
+    auto charge = [](int langue) { Langues().Langue = langue, ChargeChaînes(), ChargeCantons(Jeu()); };
     charge(1);
     const std::vector<TCanton> fr(std::begin(Jeu().Cantons), std::end(Jeu().Cantons));
     charge(2);

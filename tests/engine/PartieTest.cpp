@@ -44,8 +44,8 @@ TEST_F(Partie, AWholeGameAtEachLevelShowsEveryQuestionAndEndsAt999999WithThreeAn
         EXPECT_EQ(boîtes.journal[0].texte, QString::fromUtf8("Après les cantons nous allons passer aux chefs-lieux"));
         EXPECT_EQ(boîtes.journal[1].titre, "Etape suivante");
         EXPECT_EQ(boîtes.journal[2].texte, QString::fromUtf8("Après les drapeaux, nous allons passer à la recherche des plaques..."));
-        EXPECT_EQ(boîtes.journal[3].texte, Messages[39]);
-        EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonEtape), 4);
+        EXPECT_EQ(boîtes.journal[3].texte, Langues().Messages[39]);
+        EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonsJeu().SonEtape), 4);
         EXPECT_FALSE(E.rond[5]->Visible());
     }
     EXPECT_EQ(E.drapeau[1]->Width(), 125);
@@ -85,11 +85,11 @@ TEST_F(Partie, ADoubleClickAnswersOnceAndEachAnnouncementReachesThePlayerInItsBo
     Vue(Jeu()).Annonce(TAnnonce::QuestionPerdue);
     PartiePerdue(Jeu());
     ASSERT_EQ(boîtes.journal.size(), 4u);
-    EXPECT_TRUE(boîtes.journal[0].texte == Messages[137] && boîtes.journal[0].titre == "A propos...");
-    EXPECT_TRUE(boîtes.journal[1].texte == Messages[38] && boîtes.journal[1].titre == "Resaisissez-vous !");
+    EXPECT_TRUE(boîtes.journal[0].texte == Langues().Messages[137] && boîtes.journal[0].titre == "A propos...");
+    EXPECT_TRUE(boîtes.journal[1].texte == Langues().Messages[38] && boîtes.journal[1].titre == "Resaisissez-vous !");
     EXPECT_EQ(boîtes.journal[1].style, StyleExclamation);
     EXPECT_TRUE(boîtes.journal[2].titre == "Bon pour un tour gratuit" && boîtes.journal[2].style == StyleCritique);
-    EXPECT_EQ(boîtes.journal[3].texte, Messages[41]) << "a lost game still enters a list with room";
+    EXPECT_EQ(boîtes.journal[3].texte, Langues().Messages[41]) << "a lost game still enters a list with room";
     EXPECT_TRUE(sons.AJoué("carte_hl.wav") && sons.AJoué("carte_pe.wav"));
     EXPECT_FALSE(Principal().BoîteScore->Visible());
 }

@@ -85,7 +85,7 @@ TEST(Raster, TheStartSaysWhetherTheFileIsDamagedOrMissing)
     QTemporaryDir dossier;
     BoîtesScriptées boîtes;
     InstalleBoîtes(&boîtes);
-    Langue = 1, ChargeChaînes(), RépertoireApplication = dossier.path();
+    Langues().Langue = 1, ChargeChaînes(), Réglages().RépertoireApplication = dossier.path();
     QFile f(dossier.filePath(QStringLiteral("KELMOR.pts")));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(Tête + Ligne) == 8);
     f.close();
@@ -94,8 +94,8 @@ TEST(Raster, TheStartSaysWhetherTheFileIsDamagedOrMissing)
     EXPECT_FALSE(lu || luSansFichier);
     ASSERT_EQ(boîtes.journal.size(), 2u);
     const auto &format = boîtes.journal[0], &absent = boîtes.journal[1];
-    EXPECT_TRUE(format.texte == Messages[27] && format.style == StyleCritique && format.titre.endsWith("KELMOR.pts"));
-    EXPECT_TRUE(absent.texte == Messages[132] && absent.style == StyleInformation && absent.titre == "Erreur");
+    EXPECT_TRUE(format.texte == Langues().Messages[27] && format.style == StyleCritique && format.titre.endsWith("KELMOR.pts"));
+    EXPECT_TRUE(absent.texte == Langues().Messages[132] && absent.style == StyleInformation && absent.titre == "Erreur");
 }
 
 } // namespace

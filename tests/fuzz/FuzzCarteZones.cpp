@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     boîtes = new BoîtesScriptées();
     InstalleBoîtes(boîtes);
     ChargeChaînes();
-    RépertoireApplication = dossier.path();
+    Réglages().RépertoireApplication = dossier.path();
     fichier = dossier.filePath(QStringLiteral("KELMOR.pts"));
     return 0;
 }

@@ -53,14 +53,14 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
     }
     if (page.size() > LongueurMaxPage)
         return 0; // refused whole, as the fetch does
-    JeuxFamille = connus;
-    NombreJeux = i16(connus.size() - 1);
+    Famille().JeuxFamille = connus;
+    Famille().NombreJeux = i16(connus.size() - 1);
     LitListePage(page);
-    if (NombreJeux != qsizetype(JeuxFamille.size()) - 1 ||
-        NombreJeux - qsizetype(connus.size() - 1) > page.count(QStringLiteral("<!--")))
+    if (Famille().NombreJeux != qsizetype(Famille().JeuxFamille.size()) - 1 ||
+        Famille().NombreJeux - qsizetype(connus.size() - 1) > page.count(QStringLiteral("<!--")))
         __builtin_trap();
-    for (i16 i = 1; i <= NombreJeux; ++i) {
-        const TJeu &jeu = JeuxFamille[i];
+    for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
+        const TJeu &jeu = Famille().JeuxFamille[i];
         if (IndiceJeu(jeu.Nom) != i)
             __builtin_trap();
         if (i < i16(connus.size())) {

@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     InstalleFormesModales([](QDialog &) { return 0; });
     static QTemporaryDir dossier;
     InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
-    RépertoireApplication = dossier.path();
+    Réglages().RépertoireApplication = dossier.path();
     LitParamètres(Jeu());
     RelieEcranPrincipal(*new EcranPrincipal());
     Form_Load();
@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *octets, size_t taille
     // Most inputs fail at the version: give half of them the right one.
     if (taille > 0 && (octets[0] & 1)) {
         QByteArray tête(128, '\0');
-        const QByteArray v = VersionJeu.toLatin1();
+        const QByteArray v = Réglages().VersionJeu.toLatin1();
         tête[0] = char(v.size());
         tête.replace(2, v.size(), v);
         contenu = tête + contenu.mid(1);

@@ -56,25 +56,25 @@ TEST_F(Meilleurs, NoLevelYetAsksFirstThenShowsFacileAndAChosenLevelShowsItsLines
     AfficheMeilleursScores(Numéro(Jeu().Niveau));
     EXPECT_EQ(boîtesAvant, 1u) << "the box comes before the list";
     ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[13]);
-    EXPECT_EQ(NiveauAffiché, 1);
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[13]);
+    EXPECT_EQ(ScoresAffichés().NiveauAffiché, 1);
 
     Jeu().NombreScores[2] = 4;
     Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
     Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
     Jeu().MeilleursScores[2][3] = {QStringLiteral("Nul"), 0, 77};
     Jeu().MeilleursScores[2][4] = {QStringLiteral("Lou"), -4321, 42};
-    NiveauAffiché = 2;
+    ScoresAffichés().NiveauAffiché = 2;
     EXPECT_EQ(Vu(AffichageScores()), (std::vector<std::string>{"Niveau moyen", "Zoé|812345|1h02mn05s",
                                                                "Marc-André Weißmüller|1500|2mn05s", "||", "Lou|-4321|42s"}));
-    NiveauAffiché = 4;
+    ScoresAffichés().NiveauAffiché = 4;
     EXPECT_EQ(Vu(AffichageScores()), std::vector<std::string>{"Expert"});
     EXPECT_EQ(boîtes.journal.size(), 1u) << "a level chosen asks nothing";
 }
 
 TEST_F(Meilleurs, EnterOnTheFocusedCloseButtonClosesTheForm)
 {
-    NiveauAffiché = 2;
+    ScoresAffichés().NiveauAffiché = 2;
     AffichageScores f;
     f.show();
     QApplication::processEvents();

@@ -35,11 +35,11 @@ protected:
     void SetUp() override
     {
         JeuTest::SetUp();
-        FichierLancement = dossier.filePath("KELMOR.SCS");
-        RépertoireSauvegarde = dossier.path();
+        Réglages().FichierLancement = dossier.filePath("KELMOR.SCS");
+        Réglages().RépertoireSauvegarde = dossier.path();
         QDir::setCurrent(dossier.path());
-        ModeRépertoires = TModeRépertoires::Sauvegarde;
-        TypeFichier = TTypeFichier::Partie;
+        DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde;
+        DemandeDossier().TypeFichier = TTypeFichier::Partie;
     }
     // A game at Difficile in its third step of four, a few cantons found, the question open after two errors.
     void PartieEntamée()
@@ -72,7 +72,7 @@ TEST_F(Sauvegarde, WrittenRecordByRecordAndAnUnsavedSetTravelsInTheFile)
     QByteArray o = ContenuPartie();
     ASSERT_EQ(o.size(), 295 * 128);
     EXPECT_EQ(QList<QByteArray>({Chaîne(o, 1), Chaîne(o, 3), Chaîne(o, 5)}),
-              QList<QByteArray>({"Version 6.07 du 30/07/2008", QFile::encodeName(FichierLancement), "Zo\xE9"}));
+              QList<QByteArray>({"Version 6.07 du 30/07/2008", QFile::encodeName(Réglages().FichierLancement), "Zo\xE9"}));
     EXPECT_EQ(std::vector<int>({Entier(o, 2), Entier(o, 4), Entier(o, 6), Entier(o, 7), Long(o, 8), Long(o, 295)}),
               std::vector<int>({1, 3, 3, 0, Jeu().Score, 3725}));
     for (int i = 1; i <= 26; ++i) {
@@ -83,7 +83,7 @@ TEST_F(Sauvegarde, WrittenRecordByRecordAndAnUnsavedSetTravelsInTheFile)
         }
     }
 
-    FichierLancement = "~tmp.~cf";
+    Réglages().FichierLancement = "~tmp.~cf";
     Jeu().OrdreEtapes[1] = TEtape::Cantons, Jeu().OrdreEtapes[2] = TEtape::Plaques, Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     Jeu().NombreScores[2] = 2, Jeu().NombreScores[4] = 1;
     Jeu().MeilleursScores[2][1] = {"A", 10, 1};
@@ -111,19 +111,19 @@ TEST_F(Sauvegarde, TheScoreFileComesBackExactlyOrTheGameIsNotSaved)
     for (auto [scores, partie] : {std::pair{loin, loin}, {long_, long_}, {loin, QString(".")}, {long_, QString(".")}}) {
         const bool enregistrée = partie != ".";
         QDir(dossier.path()).mkdir(scores);
-        FichierLancement = dossier.filePath(scores + "/KELMOR.SCS");
+        Réglages().FichierLancement = dossier.filePath(scores + "/KELMOR.SCS");
         Jeu().NombreScores[2] = 1;
         Jeu().MeilleursScores[2][1] = {"Ola", 5, 5};
         ASSERT_TRUE(EcritFichierScores(true));
-        const QString chemin = dossier.filePath(partie + "/p.CAS"), avant = FichierLancement;
+        const QString chemin = dossier.filePath(partie + "/p.CAS"), avant = Réglages().FichierLancement;
         boîtes.journal.clear();
         EXPECT_EQ(EcritPartie(chemin), enregistrée);
         EXPECT_EQ(QFile::exists(chemin), enregistrée);
-        EXPECT_EQ(boîtes.ADit(Messages[MessagePartieNonNotable] + avant), !enregistrée);
+        EXPECT_EQ(boîtes.ADit(Langues().Messages[MessagePartieNonNotable] + avant), !enregistrée);
         RazScores();
         if (enregistrée) {
             ASSERT_TRUE(LitPartie(chemin));
-            EXPECT_EQ(FichierLancement, avant);
+            EXPECT_EQ(Réglages().FichierLancement, avant);
             EXPECT_EQ(Jeu().MeilleursScores[2][1].Nom, "Ola");
             QFile::remove(chemin);
         }
@@ -178,7 +178,7 @@ TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
     // The resumed game asks before it is left, even before its first click.
     boîtes.réponses = {RéponseNon};
     EXPECT_FALSE(ConfirmeArrêt());
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[32]);
+    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[32]);
 
     // Another version chosen in the dialog: its message, then the dialog's own; the file stays.
     QFile vieux(dossier.filePath("vieux.CAS"));
@@ -189,7 +189,7 @@ TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
     Choisit();
     FichierLire_Click();
     ASSERT_EQ(boîtes.journal.size(), 2u);
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[104] + Messages[0] + Messages[105]);
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[104] + Langues().Messages[0] + Langues().Messages[105]);
     EXPECT_TRUE(QFile::exists(dossier.filePath("vieux.CAS")));
 }
 
@@ -203,7 +203,7 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnc
         SélectionPartie s;
         s.NomFichier->setText("   ");
         s.BoutonOK->click();
-        EXPECT_EQ(boîtes.journal.back().texte, Messages[3]);
+        EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[3]);
         EXPECT_EQ(s.NomFichier->text(), "   .CAS");
         s.Fichier->setCurrentRow(0);
         s.Fichier_DblClick(); // an existing name refused is the screen tests' (Enter in the file dialog)
@@ -219,20 +219,20 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnc
         boîtes.réponses = {RéponseOui};
         s.ProposeRépertoire();
         ASSERT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_EQ(boîtes.journal[0].texte, Messages[117] + dossier.filePath("autre"));
-        EXPECT_EQ(RépertoireSauvegarde, dossier.filePath("autre"));
+        EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[117] + dossier.filePath("autre"));
+        EXPECT_EQ(Réglages().RépertoireSauvegarde, dossier.filePath("autre"));
         EXPECT_EQ(QDir::currentPath(), dossier.filePath("autre"));
     }
-    ModeRépertoires = TModeRépertoires::Chargement;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
     {
         SélectionPartie s;
         EXPECT_TRUE(s.NomFichier->isHidden());
         s.Fichier->setCurrentRow(-1);
         s.BoutonOK->click();
-        EXPECT_EQ(boîtes.journal.back().texte, Messages[7]);
+        EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[7]);
     }
     EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[119]);
+    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[119]);
     EXPECT_EQ(Jeu().Etape, TEtape::Drapeaux);
 }
 

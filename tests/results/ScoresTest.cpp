@@ -95,7 +95,7 @@ TEST(FichierScores, DamagedFilesAreRefusedAndChangeNothing)
 }
 
 void Ecrit(const QString &chemin, const QByteArray &o) { QFile f(chemin); EXPECT_TRUE(f.open(QIODevice::WriteOnly) && f.write(o) == o.size()); }
-QByteArray Lit() { QFile f(FichierLancement); return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray(); }
+QByteArray Lit() { QFile f(Réglages().FichierLancement); return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray(); }
 // The step kinds in order, then whether cantons 3 and 7 are left out, then the number of lines at levels 2 and 3.
 std::vector<int> Ensemble()
 {
@@ -105,7 +105,7 @@ std::vector<int> Ensemble()
 
 class Store : public JeuTest {
 protected:
-    void SetUp() override { JeuTest::SetUp(), FichierLancement = dossier.filePath("KELMOR.SCS"); }
+    void SetUp() override { JeuTest::SetUp(), Réglages().FichierLancement = dossier.filePath("KELMOR.SCS"); }
     void TearDown() override
     {
         for (int k = 1; k <= 4; ++k)
@@ -134,13 +134,13 @@ TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToT
     EXPECT_TRUE(QDir(dossier.path()).entryList({"*.tmp", "*~*"}, QDir::Files | QDir::Hidden).isEmpty());
 
     // Another minor version is read whole, the set with the lists.
-    Ecrit(FichierLancement, Octets{}.Tête(4, 1, 0, 0, {3}, "Version 6.12 du 01/02/2011", 2).Ligne("Lou", 9, 9, 2).o);
+    Ecrit(Réglages().FichierLancement, Octets{}.Tête(4, 1, 0, 0, {3}, "Version 6.12 du 01/02/2011", 2).Ligne("Lou", 9, 9, 2).o);
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
     EXPECT_EQ(Ensemble(), std::vector<int>({4, 1, 0, 0, True, False, 1, 0}));
 
     // The default file's set and lists are taken in place of a bad file's; a bad default file too gives the default set.
-    const QString défaut = ComposeChemin(RépertoireSauvegarde, "KELMOR.SCS"), abîmé = dossier.filePath("abime.SCS");
+    const QString défaut = ComposeChemin(Réglages().RépertoireSauvegarde, "KELMOR.SCS"), abîmé = dossier.filePath("abime.SCS");
     Ecrit(défaut, Octets{}.Tête(2, 1, 0, 0, {7}).Ligne("Def", 77, 7, 3).o);
     // Another major version, a file cut inside the set, then (empty here) a bad default file as well.
     for (const QByteArray &o : {Octets{}.Tête(1, 2, 3, 4, {}, "Version 7.12 du 01/02/2011").o, Octets{}.Tête(1, 2, 3, 4).o.left(20 * 128),
@@ -148,17 +148,17 @@ TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToT
         const bool défautBon = !o.isEmpty();
         if (!défautBon)
             Ecrit(défaut, "x");
-        Ecrit(FichierLancement = abîmé, o.isEmpty() ? "y" : o);
+        Ecrit(Réglages().FichierLancement = abîmé, o.isEmpty() ? "y" : o);
         boîtes.journal.clear();
         ChargeScores();
         ASSERT_EQ(boîtes.journal.size(), défautBon ? 1u : 2u);
-        EXPECT_EQ(boîtes.journal[0].texte, abîmé + " : " + Messages[27]);
-        EXPECT_EQ(FichierLancement, défaut);
+        EXPECT_EQ(boîtes.journal[0].texte, abîmé + " : " + Langues().Messages[27]);
+        EXPECT_EQ(Réglages().FichierLancement, défaut);
         EXPECT_EQ(Ensemble(), défautBon ? std::vector<int>({2, 1, 0, 0, False, True, 0, 1}) : std::vector<int>({1, 2, 3, 4, False, False, 0, 0}));
     }
     // No file at all: no message, nothing created.
     QFile::remove(défaut);
-    FichierLancement = dossier.filePath("absent.SCS");
+    Réglages().FichierLancement = dossier.filePath("absent.SCS");
     boîtes.journal.clear();
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
@@ -170,16 +170,16 @@ TEST_F(Store, RankingIntoTheBestTen)
     RazScores();
     for (int i = 0; i <= 9; ++i)
         Termine(2, 500 + 10 * i, 100);
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[39]);
-    EXPECT_TRUE(FormesMontrées().back() == "AffichageScores" && NiveauAffiché == 2) << "the list of the game's level follows";
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[39]);
+    EXPECT_TRUE(FormesMontrées().back() == "AffichageScores" && ScoresAffichés().NiveauAffiché == 2) << "the list of the game's level follows";
     ASSERT_EQ(Jeu().NombreScores[2], 10);
     EXPECT_EQ(Jeu().MeilleursScores[2][1].Points, 590);
 
     const QByteArray avant = Lit();
     Termine(2, 499, 10); // an eleventh below the tenth: nothing changes
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[43]);
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[43]);
     Termine(2, 500, 100); // equal in points and length: the older line stays
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[43]);
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[43]);
     EXPECT_EQ(Lit(), avant);
     Termine(2, 500, 99); // equal in points, shorter: takes the tenth place
     EXPECT_EQ(Jeu().MeilleursScores[2][10].Durée, 99);
@@ -191,13 +191,13 @@ TEST_F(Store, RankingIntoTheBestTen)
     // Negative, across midnight.
     Termine(3, -432773, 500, 86000);
     EXPECT_TRUE(Jeu().MeilleursScores[3][1].Points == -432773 && Jeu().MeilleursScores[3][1].Durée == 500);
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[41]);
+    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[41]);
     // Apprentissage keeps no score.
     boîtes.journal.clear();
     Jeu().ScoreGelé = true, Jeu().Niveau = TNiveau::Facile, Jeu().PartieEnregistrée = false;
     EnregistreScore();
     EXPECT_TRUE(Jeu().NombreScores[1] == 0 && Jeu().PartieEnregistrée);
-    EXPECT_EQ(boîtes.journal.at(0).texte, Messages[44]);
+    EXPECT_EQ(boîtes.journal.at(0).texte, Langues().Messages[44]);
 }
 
 TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
@@ -211,11 +211,11 @@ TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
     EXPECT_EQ(Jeu().NombreScores[1], 0);
     EXPECT_EQ(Lit(), Octets{}.Tête(3, 1, 0, 0, {7}).o);
 
-    FichierLancement = dossier.filePath("nulle/part/KELMOR.SCS");
+    Réglages().FichierLancement = dossier.filePath("nulle/part/KELMOR.SCS");
     Termine(4, 1000, 10);
     ASSERT_GE(boîtes.journal.size(), 2u);
-    EXPECT_TRUE(boîtes.journal[1].texte.startsWith(Messages[134]));
-    EXPECT_TRUE(boîtes.journal[1].texte.contains(Messages[147]));
+    EXPECT_TRUE(boîtes.journal[1].texte.startsWith(Langues().Messages[134]));
+    EXPECT_TRUE(boîtes.journal[1].texte.contains(Langues().Messages[147]));
     EXPECT_EQ(Jeu().NombreScores[4], 1);
 }
 

@@ -32,7 +32,7 @@ TEST_F(Statistiques, TheCostliestFirstAndEqualLossesInTheOrderOfTheNumbers)
         Jeu().Cantons[c].Pertes[0] = p;
     Jeu().Cantons[2].Inhibé = True; // left out: takes part with its 0
     TriePertes();
-    EXPECT_EQ(std::vector<int>(TriPertes + 1, TriPertes + NombrePlaces + 1),
+    EXPECT_EQ(std::vector<int>(ScoresAffichés().TriPertes + 1, ScoresAffichés().TriPertes + NombrePlaces + 1),
               (std::vector<int>{26, 3, 7, 20, 1, 25, 2, 4, 5, 6, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 21, 22, 23, 24}));
 }
 
@@ -101,7 +101,7 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
     Pertes(26, 4, 0, 0, 1);
     const QString chemin = dossier.filePath(QStringLiteral("KELM_STA.TXT"));
     Stats().BoutonSauvegarde->click(); // a first file, in French
-    const QString ditFr = Messages[153] + chemin;
+    const QString ditFr = Langues().Messages[153] + chemin;
     ChangeLangue(2);
     {
         Stats s;
@@ -110,7 +110,7 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
     }
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[0].texte, ditFr);
-    EXPECT_EQ(boîtes.journal[1].texte, Messages[153] + chemin);
+    EXPECT_EQ(boîtes.journal[1].texte, Langues().Messages[153] + chemin);
     QFile fichier(chemin);
     ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
     const QList<QByteArray> lignes = fichier.readAll().split('\n');
@@ -138,19 +138,19 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
         auto &s = dynamic_cast<Stats &>(forme);
         s.BoutonSauvegarde->click();
         s.BarreVerticale->setValue(9);
-        EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[TriPertes[10]].Nom) << "the table still scrolls";
+        EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[ScoresAffichés().TriPertes[10]].Nom) << "the table still scrolls";
         s.Command1->click();
         EXPECT_EQ(s.result(), QDialog::Accepted);
         return s.result();
     });
     for (const QString &d : {dossier.filePath(QStringLiteral("absent/encore")), bouchon}) {
-        RépertoireApplication = d;
+        Réglages().RépertoireApplication = d;
         boîtes.journal.clear();
         MontreStats();
         ASSERT_EQ(boîtes.journal.size(), 1u);
         EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Messages[134] + ' ' + d));
-        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Messages[MessageStatsNonEcrites]));
+        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Langues().Messages[134] + ' ' + d));
+        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Langues().Messages[MessageStatsNonEcrites]));
     }
     EXPECT_FALSE(QFile::exists(dossier.filePath(QStringLiteral("absent")))) << "no folder made";
     EXPECT_EQ(QFileInfo(bouchon).size(), 0) << "the file in the folder's place is left alone";

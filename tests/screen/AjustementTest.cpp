@@ -15,7 +15,7 @@ protected:
         Jeu().PartieVierge = true;
         delete std::exchange(forme, nullptr);
         InstalleEcran(InfoEcran{largeur, hauteur, QRect(0, 0, largeur, basTravail), 24});
-        HauteurFenêtre = LargeurFenêtre = 0;
+        FenêtreAjustée().HauteurFenêtre = FenêtreAjustée().LargeurFenêtre = 0;
         ASSERT_TRUE(Main());
         forme = FormePrincipale();
     }

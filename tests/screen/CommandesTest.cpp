@@ -70,7 +70,7 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             if (état == 1 && entrée != E.MenuRévision && entrée != E.FichierNouveau && entrée != E.FichierLire) {
                 EXPECT_EQ(Jeu().Etape, avant) << où << " left the game";
             }
-            if (Langue != 1)
+            if (Langues().Langue != 1)
                 ChangeLangue(1);
         }
 }
@@ -79,13 +79,13 @@ TEST_F(Marques, AChangeOfLanguageRenamesMenusAndTownsButNotTheLanguages)
 {
     auto &E = Principal();
     LanceRévision();
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[138]);
+    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[138]);
     EXPECT_TRUE(E.Pays[5]->Visible());
     EXPECT_EQ(E.rond[5]->toolTip(), QString::fromUtf8("Bâle"));
     const QString allemand = E.MenuAllemand->text(), nouveau = E.FichierNouveau->text();
     ChangeLangue(2);
     EXPECT_EQ(E.rond[5]->toolTip(), "Basel");
-    EXPECT_EQ(E.FichierNouveau->text(), Messages[56]);
+    EXPECT_EQ(E.FichierNouveau->text(), Langues().Messages[56]);
     EXPECT_NE(E.FichierNouveau->text(), nouveau);
     EXPECT_EQ(E.MenuAllemand->text(), allemand);
     ChangeLangue(1);
@@ -100,14 +100,13 @@ TEST_F(Marques, AColourChoiceRepaintsTheDotsByTheirFoundStateAndTheCloseSignChan
     RépondJuste();
     const i16 àTrouver = Jeu().CantonRecherché;
     for (auto [repère, choix] : {std::pair{1, 14}, {2, 12}}) {
-        RepèreChoisi = repère;
-        Palette p;
-        EXPECT_LE((p.pos() - QPoint(LargeurEcran / 2, HauteurEcran / 2)).manhattanLength(), 30) << "near the middle";
+        Palette p(repère);
+        EXPECT_LE((p.pos() - QPoint(EcranMesuré().LargeurEcran / 2, EcranMesuré().HauteurEcran / 2)).manhattanLength(), 30) << "near the middle";
         p.ChoixCouleur_Click(choix);
     }
     EXPECT_EQ(CouleurAuMilieu(E.rond[àTrouver]->Picture()), qRgb(0, 0, 255));
     EXPECT_EQ(CouleurAuMilieu(E.rond[trouvé]->Picture()), qRgb(0, 0x80, 0));
-    Palette().BoutonFermeture_Click();
+    Palette(1).BoutonFermeture_Click();
     EXPECT_EQ(CouleurAuMilieu(E.RondVille->Picture()), qRgb(0, 0, 255));
     RépondJuste();
     EXPECT_EQ(CouleurAuMilieu(E.rond[àTrouver]->Picture()), qRgb(0, 0x80, 0));

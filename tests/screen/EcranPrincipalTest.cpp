@@ -71,13 +71,13 @@ TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
         E.Bouton[b]->show(), Tape(E, E.Bouton[b], Qt::Key_F1);
     E.MenuAide->trigger();
     Tape(E, E.Bouton[3], Qt::Key_F1);
-    NiveauAffiché = 1;
+    ScoresAffichés().NiveauAffiché = 1;
     Jeu().CantonFiche = 6;
-    ModeRépertoires = TModeRépertoires::DossierJeu;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
     const std::vector<std::function<QDialog *()>> formes = {
         [] { return new NouvellePartie; }, [] { return new AffichageScores; }, [] { return new Pompe; },
         [] { return new ParamétrageRépertoires; },
-        [] { ModeRépertoires = TModeRépertoires::Sauvegarde; return new SélectionPartie; }};
+        [] { DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde; return new SélectionPartie; }};
     for (const auto &crée : formes) {
         std::unique_ptr<QDialog> d(crée());
         Tape(*d, nullptr, Qt::Key_F1);
@@ -96,13 +96,13 @@ TEST_F(Chargement, EnterInTheFileDialogDoesOneThingOnly)
     QDir::setCurrent(dossier.path());
     QDir(dossier.path()).mkdir("autre");
     QFile(dossier.filePath("pris.CAS")).open(QIODevice::WriteOnly);
-    ModeRépertoires = TModeRépertoires::Sauvegarde;
-    TypeFichier = TTypeFichier::Partie;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde;
+    DemandeDossier().TypeFichier = TTypeFichier::Partie;
     SélectionPartie s;
     s.NomFichier->setText("pris");
     Tape(s, s.NomFichier, Qt::Key_Return);
     ASSERT_EQ(boîtes.journal.size(), 1u) << "OK was pressed twice";
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[5]);
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[5]);
     s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
     Tape(s, s.Répertoire, Qt::Key_Return);
     EXPECT_EQ(s.Chemin(), dossier.filePath("autre")) << "Enter opens the folder";

@@ -24,9 +24,9 @@ protected:
     void SetUp() override
     {
         JeuTest::SetUp();
-        RépertoireSauvegarde = dossier.path();
+        Réglages().RépertoireSauvegarde = dossier.path();
         QDir::setCurrent(dossier.path());
-        FichierLancement = dossier.filePath("KELMOR.SCS");
+        Réglages().FichierLancement = dossier.filePath("KELMOR.SCS");
         OrdreParDéfaut();
     }
     void TearDown() override { OrdreParDéfaut(), JeuTest::TearDown(); }
@@ -78,7 +78,7 @@ TEST_F(Parametrage, EveryTextFitsItsBoxAndTheGridKeepsOneKindPerRankNoGapAndAFir
         const std::string où = std::to_string(c.rang) + "," + std::to_string(c.genre) + (c.coché ? " ticked" : " cleared");
         EXPECT_EQ(Grille(), c.grille) << où;
         const QString dit = boîtes.journal.empty() ? QString() : boîtes.journal.back().texte;
-        EXPECT_TRUE(boîtes.journal.size() <= 1 && dit == (c.message ? Messages[c.message] : QString())) << où << ": " << dit.toStdString();
+        EXPECT_TRUE(boîtes.journal.size() <= 1 && dit == (c.message ? Langues().Messages[c.message] : QString())) << où << ": " << dit.toStdString();
     }
 }
 
@@ -96,17 +96,17 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyListsAndItsOrderIsPlayed)
     B(2, 2)->setChecked(false);
     InstalleFormesModales([](QDialog &d) {
         auto &s = static_cast<SélectionPartie &>(d);
-        EXPECT_EQ(ModeRépertoires, TModeRépertoires::Sauvegarde);
+        EXPECT_EQ(DemandeDossier().ModeRépertoires, TModeRépertoires::Sauvegarde);
         s.NomFichier->setText("plaques");
         s.BoutonOK->click();
         return s.result();
     });
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_EQ(FichierLancement, dossier.filePath("plaques.SCS"));
+    EXPECT_EQ(Réglages().FichierLancement, dossier.filePath("plaques.SCS"));
     EXPECT_TRUE(Jeu().Cantons[25].Inhibé == True && Jeu().Cantons[3].Inhibé == False);
     EXPECT_EQ(Jeu().NombreScores[1], 0);
-    EXPECT_EQ(QFileInfo(FichierLancement).size(), 34 * 128) << "the set alone, without lists";
+    EXPECT_EQ(QFileInfo(Réglages().FichierLancement).size(), 34 * 128) << "the set alone, without lists";
     NouvellePartieAuNiveau(2);
     EXPECT_EQ(Jeu().Etape, TEtape::Plaques);
     EXPECT_EQ(Jeu().RestantsEtape, 25);
@@ -123,14 +123,14 @@ TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChan
     EXPECT_TRUE(FormesMontrées().empty() && boîtes.journal.empty());
     QString lancement;
     LitValeur(CléKelmor, "fichier de lancement", lancement);
-    EXPECT_EQ(lancement, FichierLancement);
-    EXPECT_FALSE(QFile::exists(FichierLancement)) << "nothing is written to the file";
+    EXPECT_EQ(lancement, Réglages().FichierLancement);
+    EXPECT_FALSE(QFile::exists(Réglages().FichierLancement)) << "nothing is written to the file";
     // Shown again, it is the start-up set and everything is locked.
     RevoitParamétrage();
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());
     EXPECT_FALSE(Principal().Bouton[3]->isEnabled());
     EXPECT_TRUE(Principal().BTN[1]->isHidden());
-    EXPECT_EQ(Principal().LBLParam[2]->text(), Messages[70]);
+    EXPECT_EQ(Principal().LBLParam[2]->text(), Langues().Messages[70]);
 }
 
 TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToTheTemporaryFileAndTheDefaultComesBack)
@@ -139,7 +139,7 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     for (int c = 1; c <= 26; ++c)
         TraiteClic(Jeu(), static_cast<i16>(c), 1, 1);
     Principal().BTN[1]->click();
-    EXPECT_EQ(boîtes.journal.back().texte, Messages[121]);
+    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[121]);
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
@@ -159,14 +159,14 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     boîtes.réponses = {RéponseOui};
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_EQ(FichierLancement, "~tmp.~cf");
+    EXPECT_EQ(Réglages().FichierLancement, "~tmp.~cf");
     EXPECT_EQ(Jeu().NombreScores[2], 0);
     EXPECT_EQ(QFileInfo(dossier.filePath("~tmp.~cf")).size(), 34 * 128);
 
     // The default set comes back and becomes the start-up set.
     Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     ParamétrageDéfaut();
-    EXPECT_EQ(FichierLancement, ComposeChemin(dossier.path(), "KELMOR.SCS"));
+    EXPECT_EQ(Réglages().FichierLancement, ComposeChemin(dossier.path(), "KELMOR.SCS"));
     EXPECT_EQ(Jeu().OrdreEtapes[4], TEtape::Plaques);
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageAffiché);
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());

@@ -86,7 +86,7 @@ TEST_F(Fiches, ACardShowsFlagNameWithPlateChiefTownAndTheRecordsTextBesideItsCan
 {
     QByteArray f = FichierType();
     f.replace(23 * 650, 650, Enreg("Vaud", "Capitale olympique.\r\nL\xE9man\xA0: 582 km\xB2"));
-    Ecrit(CheminsInfo[1], f);
+    Ecrit(Langues().CheminsInfo[1], f);
     auto &E = Principal();
     OuvreFiche(24, [&](Pompe &p) {
         EXPECT_EQ(QStringList({p.LBLPays->text(), p.LBLCapitale->text(), p.TXTInfos->Text()}),
@@ -152,19 +152,19 @@ TEST_F(Fiches, AMissingOrDamagedFileGivesAnEmptyCardAndADamagedRecordIsTold)
                                        {"damaged record", abîmé},
                                        {"folder gone", {}}}) {
         if (cas == std::string("folder gone"))
-            CheminsInfo[1] = dossier.filePath("parti/KELMOR.INF");
+            Langues().CheminsInfo[1] = dossier.filePath("parti/KELMOR.INF");
         else if (contenu.isEmpty())
-            ASSERT_TRUE(QFile::remove(CheminsInfo[1]));
+            ASSERT_TRUE(QFile::remove(Langues().CheminsInfo[1]));
         else
-            Ecrit(CheminsInfo[1], contenu);
+            Ecrit(Langues().CheminsInfo[1], contenu);
         OuvreFiche(3, [&](Pompe &p) {
             EXPECT_TRUE(p.TXTInfos->Text().isEmpty()) << cas;
             EXPECT_FALSE(p.LBLPays->text().isEmpty()) << cas;
         });
         const bool abîmé = cas == std::string("damaged record");
-        EXPECT_EQ(boîtes.ADit(CheminsInfo[1] + " : " + Messages[27]), abîmé) << cas;
+        EXPECT_EQ(boîtes.ADit(Langues().CheminsInfo[1] + " : " + Langues().Messages[27]), abîmé) << cas;
         EXPECT_EQ(boîtes.journal.size(), abîmé ? 1u : 0u) << cas;
-        EXPECT_EQ(QFile::exists(CheminsInfo[1]), !contenu.isEmpty()) << cas << ": a card doesn't make the file";
+        EXPECT_EQ(QFile::exists(Langues().CheminsInfo[1]), !contenu.isEmpty()) << cas << ": a card doesn't make the file";
     }
 }
 
@@ -175,7 +175,7 @@ protected:
     void SetUp() override
     {
         Fiches::SetUp();
-        chemin = CheminsInfo[1];
+        chemin = Langues().CheminsInfo[1];
         Ecrit(chemin, FichierType());
         avant = Lit(chemin);
     }
@@ -187,7 +187,7 @@ protected:
 TEST_F(Editeur, TheMenuOpensRecordOneOfTheLanguageInUseCentredInTheWorkArea)
 {
     InstalleEcran(InfoEcran{1280, 1024, QRect(0, 30, 1280, 960), 24});
-    Ecrit(CheminsInfo[2], Enreg("Waadt", "Deutsch"));
+    Ecrit(Langues().CheminsInfo[2], Enreg("Waadt", "Deutsch"));
     for (const auto &[langue, nom, texte] : {std::tuple{1, "Nom 1", "Texte 1"}, {2, "Waadt", "Deutsch"}}) {
         ChangeLangue(langue);
         bool vue = false;
@@ -195,7 +195,7 @@ TEST_F(Editeur, TheMenuOpensRecordOneOfTheLanguageInUseCentredInTheWorkArea)
             auto &e = dynamic_cast<Edition &>(d);
             vue = true;
             EXPECT_EQ(QStringList({e.LBLPays->text(), e.TXTInfos->Text()}), QStringList({nom, texte}));
-            EXPECT_EQ(FicheEditée, 1);
+            EXPECT_EQ(FicheEnEdition().FicheEditée, 1);
             // The work area's own corner isn't added.
             EXPECT_EQ(e.pos(), QPoint((1280 - 416) / 2, (960 - 435) / 2));
             e.BTNQuit->click();
@@ -223,7 +223,7 @@ TEST_F(Editeur, OnlyAChangedTextIsWrittenAndThenInItsPlace)
     e.BTNRight->click();
     e.BTNLeft->click();
     e.BTNLeft->click();
-    EXPECT_EQ(FicheEditée, 2);
+    EXPECT_EQ(FicheEnEdition().FicheEditée, 2);
     EXPECT_EQ(e.LBLPays->text(), "Nom 2") << "a name typed alone is lost";
     EXPECT_EQ(Lit(chemin), avant) << "nothing changed, nothing written";
 
@@ -231,7 +231,7 @@ TEST_F(Editeur, OnlyAChangedTextIsWrittenAndThenInItsPlace)
     e.LBLPays->setText("Berne");
     e.TXTInfos->setPlainText(QString::fromUtf8("Capitale fédérale\nAar"));
     e.BTNDown->click();
-    EXPECT_EQ(FicheEditée, 26);
+    EXPECT_EQ(FicheEnEdition().FicheEditée, 26);
     const QByteArray après = Lit(chemin);
     EXPECT_EQ(après.mid(650, 650), QByteArray("\x05\x00" "Berne\x16\x00" "Capitale f\xE9" "d\xE9rale\r\nAar", 31) + QByteArray(619, '\0'));
     EXPECT_EQ(après.left(650) + après.mid(1300), avant.left(650) + avant.mid(1300));
@@ -250,7 +250,7 @@ TEST_F(Editeur, ARecordOverSixHundredAndFiftyBytesIsRefusedAndOnlyBTNQuitLeaves)
     const QString juste = QString(319, 'a') + "\n" + QString(319, 'b');
     e.TXTInfos->setPlainText(juste);
     e.BTNUp->click();
-    EXPECT_TRUE(boîtes.journal.empty() && FicheEditée == 1);
+    EXPECT_TRUE(boîtes.journal.empty() && FicheEnEdition().FicheEditée == 1);
     EXPECT_EQ(Record(25), Enreg("Nom 25", QByteArray(319, 'a') + "\r\n" + QByteArray(319, 'b')));
 
     e.BTNDown->click();
@@ -264,7 +264,7 @@ TEST_F(Editeur, ARecordOverSixHundredAndFiftyBytesIsRefusedAndOnlyBTNQuitLeaves)
         ASSERT_EQ(boîtes.journal.size(), 1u);
         EXPECT_TRUE(boîtes.journal[0].texte.endsWith(QString::fromUtf8("est de 651 pour un maximum autorisé de 650")));
         EXPECT_EQ(e.TXTInfos->Text(), QString(juste).replace("\n", "\r\n") + "c");
-        EXPECT_TRUE(FicheEditée == 25 && e.isVisible()) << "not even BTNQuit leaves";
+        EXPECT_TRUE(FicheEnEdition().FicheEditée == 25 && e.isVisible()) << "not even BTNQuit leaves";
         EXPECT_EQ(Lit(chemin), fichier);
     }
     // Neither Escape nor the window's closing leave either; shortened, it is written and the editor closes.
@@ -274,7 +274,7 @@ TEST_F(Editeur, ARecordOverSixHundredAndFiftyBytesIsRefusedAndOnlyBTNQuitLeaves)
     e.TXTInfos->setPlainText("court");
     e.BTNQuit->click();
     EXPECT_EQ(e.result(), QDialog::Accepted);
-    EXPECT_TRUE(FichierFichesOuvert.isEmpty());
+    EXPECT_TRUE(FicheEnEdition().FichierFichesOuvert.isEmpty());
     EXPECT_EQ(Record(25), Enreg("Nom 25", "court"));
 }
 
@@ -287,7 +287,7 @@ TEST_F(Editeur, AtTheEdgesTheArrowsWriteAndStayWhileUpAndDownReadAgain)
         const QByteArray attendu = Enreg("Nom " + QByteArray::number(bord), "au bord");
         e.TXTInfos->setPlainText("au bord");
         flèche->click();
-        EXPECT_EQ(FicheEditée, bord);
+        EXPECT_EQ(FicheEnEdition().FicheEditée, bord);
         EXPECT_EQ(Record(bord), attendu);
         // The reference is only renewed by a read: the same press writes again, and so does Up or Down,
         // which then reads the record back, so that the box holds no change any more.
@@ -318,13 +318,13 @@ TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
     EXPECT_EQ(Lit(chemin), QByteArray(1300, '\0') + Enreg("Uri", "Altdorf"));
 
     // A folder that is gone: the message, with the length, and the editor stays.
-    CheminsInfo[1] = dossier.filePath("parti/KELMOR.INF");
+    Langues().CheminsInfo[1] = dossier.filePath("parti/KELMOR.INF");
     Edition e;
     e.TXTInfos->setPlainText("Zoug");
     e.BTNRight->click();
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_TRUE(boîtes.journal[0].texte.contains("est de 8 pour"));
-    EXPECT_EQ(FicheEditée, 1);
+    EXPECT_EQ(FicheEnEdition().FicheEditée, 1);
     EXPECT_FALSE(QDir(dossier.filePath("parti")).exists());
 }
 
@@ -333,7 +333,7 @@ TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
 TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
 {
     auto messagesCréation = [this] {
-        return std::count_if(boîtes.journal.begin(), boîtes.journal.end(), [](const auto &b) { return b.titre == Messages[102]; });
+        return std::count_if(boîtes.journal.begin(), boîtes.journal.end(), [](const auto &b) { return b.titre == Langues().Messages[102]; });
     };
     QFile::remove(dossier.filePath("KELMOR.INF"));
     QFile::remove(dossier.filePath("DRAVELN.INF"));
@@ -341,7 +341,7 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
     EXPECT_EQ(messagesCréation(), 1);
     QByteArray attendu;
     for (int k = 1; k <= 26; ++k)
-        attendu += Enreg(VersAnsi(Jeu().Cantons[k].Nom), VersAnsi(Messages[103]));
+        attendu += Enreg(VersAnsi(Jeu().Cantons[k].Nom), VersAnsi(Langues().Messages[103]));
     for (const char *nom : {"KELMOR.INF", "DRAVELN.INF"})
         EXPECT_EQ(Lit(dossier.filePath(nom)), attendu) << nom;
     Relance();
@@ -349,18 +349,18 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
 
     // In German the French file gets German names and text, without a word.
     ChangeLangue(2);
-    QFile::remove(CheminsInfo[1]);
-    QFile::remove(CheminsInfo[2]);
+    QFile::remove(Langues().CheminsInfo[1]);
+    QFile::remove(Langues().CheminsInfo[2]);
     boîtes.journal.clear();
     CréeFichierInfo(Jeu(), 1);
     EXPECT_TRUE(boîtes.journal.empty()) << "the French file is not the language in use";
     CréeFichierInfo(Jeu(), 2);
     ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(boîtes.journal[0].texte, Messages[18]);
+    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[18]);
     for (int langue : {1, 2}) {
         TFiche fiche;
-        ASSERT_TRUE(LitFicheInfo(CheminsInfo[langue], 24, fiche));
-        EXPECT_EQ(QStringList({fiche.Nom, fiche.Texte}), QStringList({"Waadt", Messages[103]}));
+        ASSERT_TRUE(LitFicheInfo(Langues().CheminsInfo[langue], 24, fiche));
+        EXPECT_EQ(QStringList({fiche.Nom, fiche.Texte}), QStringList({"Waadt", Langues().Messages[103]}));
     }
     ChangeLangue(1);
 }
@@ -379,20 +379,20 @@ TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
         return f->result();
     });
     const QString disparu = dossier.filePath("parti");
-    RépertoireInfo = disparu;
-    CheminsInfo[1] = disparu + "/KELMOR.INF";
-    ModeRépertoires = TModeRépertoires::Aucun;
+    Réglages().RépertoireInfo = disparu;
+    Langues().CheminsInfo[1] = disparu + "/KELMOR.INF";
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Aucun;
     CréeFichierInfo(Jeu(), 1);
     ASSERT_EQ(boîtes.journal.size(), 3u);
-    EXPECT_EQ(boîtes.journal[1].texte, Messages[119] + " (" + disparu + "/)");
-    EXPECT_EQ(ModeRépertoires, TModeRépertoires::DossierInformation);
+    EXPECT_EQ(boîtes.journal[1].texte, Langues().Messages[119] + " (" + disparu + "/)");
+    EXPECT_EQ(DemandeDossier().ModeRépertoires, TModeRépertoires::DossierInformation);
     EXPECT_FALSE(QDir(disparu).exists()) << "given up: no file, no folder";
 
     boîtes.journal.clear();
     CréeFichierInfo(Jeu(), 1);
     EXPECT_EQ(boîtes.journal.size(), 3u);
-    EXPECT_EQ(CheminsInfo[1], dossier.filePath("cartes/KELMOR.INF"));
-    EXPECT_EQ(Lit(CheminsInfo[1]).size(), 16900);
+    EXPECT_EQ(Langues().CheminsInfo[1], dossier.filePath("cartes/KELMOR.INF"));
+    EXPECT_EQ(Lit(Langues().CheminsInfo[1]).size(), 16900);
 }
 
 } // namespace

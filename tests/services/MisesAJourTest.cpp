@@ -49,7 +49,7 @@ void Installe(const char *jeu, const char *version) { Pose(CléFamille + '\\' + 
 const TJeu *Jeu(const QString &nom)
 {
     const i16 i = IndiceJeu(nom);
-    return i ? &JeuxFamille[i] : nullptr;
+    return i ? &Famille().JeuxFamille[i] : nullptr;
 }
 
 QByteArray Http(const char *statut, const QByteArray &corps)
@@ -93,8 +93,8 @@ protected:
         ASSERT_TRUE(dossier.isValid());
         InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
         InstalleBoîtes(&boîtes);
-        RépertoireApplication = dossier.path(); // a first run keeps its files there
-        Langue = 1;
+        Réglages().RépertoireApplication = dossier.path(); // a first run keeps its files there
+        Langues().Langue = 1;
         ChargeChaînes();
         // Nothing leaves this machine: a port where no server listens, unless a test serves a page.
         InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/")));
@@ -119,7 +119,7 @@ protected:
             return QString();
         const auto b = boîtes.journal.back();
         boîtes.journal.clear();
-        EXPECT_EQ(b.titre, Messages[124]);
+        EXPECT_EQ(b.titre, Langues().Messages[124]);
         EXPECT_EQ(b.style, StyleInformation);
         return b.texte;
     }
@@ -146,16 +146,16 @@ TEST_F(MisesAJour, VersionAndDateAreReadFromTheVersionText)
 TEST_F(MisesAJour, TheListComesFromTheTableAndUpdatesKeepsTheHigherVersionBothWays)
 {
     ChargeListeJeux();
-    ASSERT_EQ(NombreJeux, 12);
-    ASSERT_EQ(JeuxFamille.size(), 13u);
-    for (i16 i = 1; i <= NombreJeux; ++i)
-        EXPECT_EQ(Lit(Updates, JeuxFamille[i].Nom), JeuxFamille[i].VersionDisponible) << "written at the first run";
+    ASSERT_EQ(Famille().NombreJeux, 12);
+    ASSERT_EQ(Famille().JeuxFamille.size(), 13u);
+    for (i16 i = 1; i <= Famille().NombreJeux; ++i)
+        EXPECT_EQ(Lit(Updates, Famille().JeuxFamille[i].Nom), Famille().JeuxFamille[i].VersionDisponible) << "written at the first run";
 
     // Versions compare as text: "10.00" is below "6.07". A name the table doesn't hold stays apart.
     for (const auto &[nom, version] : {std::pair{"Arvenne", "5.20"}, {"Brisolie", "4.10"}, {"Kelmor", "10.00"}, {"Zébrane", "1.00"}})
         Pose(Updates, nom, version);
     ChargeListeJeux();
-    EXPECT_EQ(NombreJeux, 12);
+    EXPECT_EQ(Famille().NombreJeux, 12);
     EXPECT_EQ(QStringList({Jeu("Arvenne")->VersionDisponible, Jeu("Brisolie")->VersionDisponible, Jeu("Kelmor")->VersionDisponible}),
               QStringList({"5.20", "4.30", "6.07"}));
     EXPECT_EQ(Jeu("Arvenne")->DateDisponible, Le(14, 3, 2007)) << "the stored version brings no date";
@@ -185,7 +185,7 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
     ASSERT_EQ(CréeClé(CléFamille + S("\\Faldine\\Extensions")), 0); // one level down only: Faldine is there
     ExploreJeux();
 
-    ASSERT_EQ(NombreJeux, 14) << "Updates itself is no game";
+    ASSERT_EQ(Famille().NombreJeux, 14) << "Updates itself is no game";
     EXPECT_EQ(QStringList({Jeu("Arvenne")->VersionInstallée, Jeu("Brisolie")->VersionInstallée,
                            Jeu("Corvalie")->VersionInstallée, Jeu("Corvalie")->VersionDisponible,
                            Jeu("Faldine")->VersionInstallée, Jeu("Gorvane")->VersionInstallée}),
@@ -200,7 +200,7 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
               QStringList({"3.10", "1.00", ""}));
 
     AfficheRappel();
-    QString attendu = Messages[123] + "\r\n\r\n" + Messages[146] + "\r\n\r\n";
+    QString attendu = Langues().Messages[123] + "\r\n\r\n" + Langues().Messages[146] + "\r\n\r\n";
     for (const char *l : {"Les régions brisoliennes : version 4.30 du 02/11/2006", "Les états dunmarkois : version 2.41 du 09/09/2004",
                           "Les provinces estravaises : version 4.02 du 17/05/2006", "Les comtés faldins : version 1.90 du 28/02/2003",
                           "Les districts gorvanais : version 3.60 du 11/12/2005", "Les pays d'Afrique : version 2.15 du 05/04/2004",
@@ -211,15 +211,15 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
     EXPECT_EQ(Jeu("Orvelle")->VersionDisponible, "") << "nothing known of it, nothing to tell";
 
     // Everything there as published: the site's message alone.
-    for (i16 i = 1; i <= NombreJeux; ++i) {
-        const TJeu &j = JeuxFamille[i];
+    for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
+        const TJeu &j = Famille().JeuxFamille[i];
         if (!j.VersionDisponible.isEmpty())
             Installe(j.Nom.toUtf8().constData(),
                  ("Version " + j.VersionDisponible + " du " + j.DateDisponible.toString("dd/MM/yyyy")).toUtf8().constData());
     }
     ExploreJeux();
     AfficheRappel();
-    EXPECT_EQ(RappelVu(), Messages[123]);
+    EXPECT_EQ(RappelVu(), Langues().Messages[123]);
 }
 
 TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)
@@ -276,9 +276,9 @@ TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
     EXPECT_EQ(QStringList({Jeu("Dunmark")->VersionDisponible, Jeu("Estrava")->VersionDisponible, Jeu("Gorvane")->VersionDisponible,
                            Jeu("Hestral")->VersionDisponible, Jeu("Ilmarie")->VersionDisponible}),
               QStringList({"2.41", "4.02", "3.60", "2.15", "5.01"}));
-    ASSERT_EQ(NombreJeux, 14);
+    ASSERT_EQ(Famille().NombreJeux, 14);
     // The blank belongs to the name: " Faldine" is another game than Faldine.
-    EXPECT_EQ(QStringList({JeuxFamille[13].Nom, JeuxFamille[14].Nom, JeuxFamille[14].VersionDisponible, Jeu("Faldine")->VersionDisponible}),
+    EXPECT_EQ(QStringList({Famille().JeuxFamille[13].Nom, Famille().JeuxFamille[14].Nom, Famille().JeuxFamille[14].VersionDisponible, Jeu("Faldine")->VersionDisponible}),
               QStringList({"Nordhal", S(" Faldine"), "1.50", "1.90"}));
     EXPECT_EQ(QStringList({Lit(Updates, "Arvenne"), Lit(Updates, "Nordhal"), Lit(Updates, "Corvalie"), Lit(Updates, "Faldine")}),
               QStringList({"5.20", "1.00", "3.05", "1.90"}));

@@ -45,14 +45,14 @@ protected:
         ASSERT_EQ(CréeClé(CléJeu), 0);
         InstalleBoîtes(&boîtes);
         InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 984), 24});
-        LargeurEcran = HauteurEcran = 0;
-        Langue = langue;
+        EcranMesuré().LargeurEcran = EcranMesuré().HauteurEcran = 0;
+        Langues().Langue = langue;
         ChargeChaînes();
-        CheminsInfo[1] = "avant/KELMOR.INF";
-        CheminsInfo[2] = "avant/DRAVELN.INF";
-        RépertoireSauvegarde = "avant";
-        FichierLancement = "avant/MES.SCS";
-        RépertoireInfo = Chemin("infos");
+        Langues().CheminsInfo[1] = "avant/KELMOR.INF";
+        Langues().CheminsInfo[2] = "avant/DRAVELN.INF";
+        Réglages().RépertoireSauvegarde = "avant";
+        Réglages().FichierLancement = "avant/MES.SCS";
+        Réglages().RépertoireInfo = Chemin("infos");
         ASSERT_TRUE(QDir::setCurrent(Chemin("courant")));
     }
     void TearDown() override
@@ -62,9 +62,9 @@ protected:
         InstalleBoîtes(nullptr);
         InstalleEcran(std::nullopt);
         InstalleFichierRegistre(QString());
-        Langue = 1;
+        Langues().Langue = 1;
         ChargeChaînes();
-        RépertoireSauvegarde = RépertoireInfo = FichierLancement = QString();
+        Réglages().RépertoireSauvegarde = Réglages().RépertoireInfo = Réglages().FichierLancement = QString();
     }
 
     QString Chemin(const char *nom) const { return dossier.filePath(QString::fromUtf8(nom)); }
@@ -80,7 +80,7 @@ protected:
     }
     QStringList Globales() const
     {
-        return {RépertoireSauvegarde, FichierLancement, RépertoireInfo, CheminsInfo[1], CheminsInfo[2], QDir::currentPath()};
+        return {Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, Langues().CheminsInfo[1], Langues().CheminsInfo[2], QDir::currentPath()};
     }
     QStringList Boîtes() const
     {
@@ -89,12 +89,12 @@ protected:
             vues << b.texte + " | " + b.titre;
         return vues;
     }
-    static QString Erreur(int id) { return Messages[id - 1000] + " | " + Messages[46]; }
+    static QString Erreur(int id) { return Langues().Messages[id - 1000] + " | " + Langues().Messages[46]; }
 
     // Opens the form as the game does; `joue` stands for the player and answers the form's result.
     int Ouvre(i16 mode, const std::function<int(ParamétrageRépertoires &)> &joue)
     {
-        ModeRépertoires = static_cast<TModeRépertoires>(mode);
+        DemandeDossier().ModeRépertoires = static_cast<TModeRépertoires>(mode);
         int résultat = -1;
         InstalleFormesModales([&](QDialog &d) { return résultat = joue(dynamic_cast<ParamétrageRépertoires &>(d)); });
         MontreParamétrageRépertoires();
@@ -120,7 +120,7 @@ TEST_F(Dossiers, EachUseStartsWhereItShouldAndItsOKWritesItsOwnValuesOnly)
         EXPECT_EQ(Ouvre(mode,
                         [&](ParamétrageRépertoires &f) {
                             EXPECT_EQ(f.Chemin(), sauvegarde ? courant : infos);
-                            EXPECT_EQ(QSize(LargeurEcran, HauteurEcran), QSize(1280, 1024)) << "the screen measured";
+                            EXPECT_EQ(QSize(EcranMesuré().LargeurEcran, EcranMesuré().HauteurEcran), QSize(1280, 1024)) << "the screen measured";
                             // The files of the use's pattern, in any case of letters, and nothing else.
                             EXPECT_TRUE(f.ChangeRépertoire(choisi));
                             EXPECT_EQ(Liste(f.Fichier), sauvegarde ? QStringList({"KELMOR.SCS", "vieux.scs"}) : QStringList{"KELMOR.INF"});
@@ -179,7 +179,7 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
 {
     const QString choisi = Chemin("choisi");
     ASSERT_TRUE(QFile(Chemin("choisi/un fichier")).open(QIODevice::WriteOnly));
-    ModeRépertoires = TModeRépertoires::DossierJeu;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
     ParamétrageRépertoires f;
     f.show();
     ASSERT_TRUE(f.ChangeRépertoire(choisi));
@@ -228,12 +228,12 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
 TEST_F(Dossiers, FoldersThatCantBeShownLeaveTheListWhereItStood)
 {
     // The information folder is gone: the list stays on the current folder, and OK takes that one.
-    RépertoireInfo = Chemin("parti");
+    Réglages().RépertoireInfo = Chemin("parti");
     EXPECT_EQ(Ouvre(6, [](ParamétrageRépertoires &f) { f.BoutonOK->click(); return f.result(); }), QDialog::Accepted);
     EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(QStringList({Valeurs()[2], RépertoireInfo}), QStringList({Chemin("courant"), Chemin("courant")}));
+    EXPECT_EQ(QStringList({Valeurs()[2], Réglages().RépertoireInfo}), QStringList({Chemin("courant"), Chemin("courant")}));
 
-    RépertoireInfo = Chemin("infos/");
+    Réglages().RépertoireInfo = Chemin("infos/");
     ParamétrageRépertoires f;
     EXPECT_EQ(f.Chemin(), Chemin("infos")) << "a final separator in the settings is no matter";
 

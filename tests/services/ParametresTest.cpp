@@ -57,7 +57,7 @@ protected:
             }
             return forme.result();
         });
-        RépertoireApplication = programme;
+        Réglages().RépertoireApplication = programme;
     }
     void TearDown() override
     {
@@ -67,20 +67,20 @@ protected:
         InstalleBoîtes(nullptr);
         InstalleFichierRegistre(QString());
         InstalleDossierProgramme(QString());
-        Langue = 1;
+        Langues().Langue = 1;
         ChargeChaînes();
     }
 
     // Each case of a loop starts from a store of its own, in French, with nothing read yet.
     void NouveauMagasin()
     {
-        for (QString *g : {&RépertoireSauvegarde, &RépertoireInfo, &FichierLancement, &Jeu().NomJoueur})
+        for (QString *g : {&Réglages().RépertoireSauvegarde, &Réglages().RépertoireInfo, &Réglages().FichierLancement, &Jeu().NomJoueur})
             g->clear();
         fichier = dossier.filePath(QStringLiteral("registre%1.ini").arg(++magasins));
         InstalleFichierRegistre(fichier);
         boîtes.journal.clear();
         QDir::setCurrent(dossierCourant);
-        Langue = 1;
+        Langues().Langue = 1;
     }
     // What an earlier run, with a folder of the player's own, left.
     void InstallationExistante(std::optional<QString> version = ChaîneTable(1000), const char *date = "2024-05-01 08:00:00",
@@ -108,8 +108,8 @@ protected:
         for (const auto &b : boîtes.journal) {
             vues.push_back(-1);
             for (const auto &[texte, titre] : {std::pair{123, 124}, {122, 118}})
-                if ((texte == 123 ? b.texte.startsWith(Messages[texte]) : b.texte == Messages[texte]) &&
-                    b.titre == Messages[titre] && b.style == StyleInformation)
+                if ((texte == 123 ? b.texte.startsWith(Langues().Messages[texte]) : b.texte == Langues().Messages[texte]) &&
+                    b.titre == Langues().Messages[titre] && b.style == StyleInformation)
                     vues.back() = texte;
         }
         return vues;
@@ -139,20 +139,20 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
         NouveauMagasin();
         if (c.clé)
             InstallationExistante(c.version ? std::optional(S(c.version)) : std::nullopt, "2024-05-01 08:00:00", " 2");
-        Langue = 2;
+        Langues().Langue = 2;
         LitParamètres(Jeu());
-        EXPECT_TRUE(ParamètresLus);
+        EXPECT_TRUE(Réglages().ParamètresLus);
         EXPECT_EQ(Vues(), c.premier ? Boîtes{123} : Boîtes{}) << "the very first run reminds, an upgrade doesn't";
         for (const auto &[nom, texte] : {std::pair{"version", ChaîneTable(1000)}, {"joueur", S(c.premier ? "" : "Zoé")},
                                          {"langue", S(c.premier ? "1" : " 2")}, {"répertoire", programme + '/'},
                                          {"fichier de lancement", programme + "/KELMOR.SCS"}, {"répertoire information", programme + '/'}})
             EXPECT_EQ(Lit(nom), texte) << nom;
         EXPECT_EQ(Lit("date", CléFamille), "2024-05-10 14:30:00");
-        EXPECT_EQ(Langue, c.premier ? 1 : 2);
-        EXPECT_EQ(Messages[0], ChaîneTable(c.premier ? 1000 : 1250));
-        EXPECT_EQ(VersionJeu, ChaîneTable(1000)) << "the version always in French";
+        EXPECT_EQ(Langues().Langue, c.premier ? 1 : 2);
+        EXPECT_EQ(Langues().Messages[0], ChaîneTable(c.premier ? 1000 : 1250));
+        EXPECT_EQ(Réglages().VersionJeu, ChaîneTable(1000)) << "the version always in French";
         // A first run leaves the bare name of the score file, found in the current folder.
-        EXPECT_EQ(QStringList({Jeu().NomJoueur, RépertoireSauvegarde, RépertoireInfo, FichierLancement, QDir::currentPath()}),
+        EXPECT_EQ(QStringList({Jeu().NomJoueur, Réglages().RépertoireSauvegarde, Réglages().RépertoireInfo, Réglages().FichierLancement, QDir::currentPath()}),
                   QStringList({S(c.premier ? "" : "Zoé"), programme + '/', programme + '/',
                                c.premier ? S("KELMOR.SCS") : programme + "/KELMOR.SCS", programme}));
 
@@ -190,16 +190,16 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
         InstallationExistante(ChaîneTable(1000), c.stocké, c.langue);
         maintenant = QDateTime::fromString(S(c.maintenant), FormatDate);
         const QByteArray avant = Contenu();
-        Langue = 2;
+        Langues().Langue = 2;
         LitParamètres(Jeu());
         EXPECT_EQ(Vues(), c.rappel ? Boîtes{123} : Boîtes{});
         EXPECT_EQ(Lit("date", CléFamille), S(c.renouvelée ? c.maintenant : c.stocké));
         if (!c.renouvelée) {
             EXPECT_EQ(Contenu(), avant);
         }
-        EXPECT_EQ(Langue, c.lue);
-        EXPECT_EQ(Messages[0], ChaîneTable(c.lue == 2 ? 1250 : 1000));
-        EXPECT_EQ(QStringList({Lit("langue"), Jeu().NomJoueur, RépertoireSauvegarde, FichierLancement, RépertoireInfo, QDir::currentPath()}),
+        EXPECT_EQ(Langues().Langue, c.lue);
+        EXPECT_EQ(Langues().Messages[0], ChaîneTable(c.lue == 2 ? 1250 : 1000));
+        EXPECT_EQ(QStringList({Lit("langue"), Jeu().NomJoueur, Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, QDir::currentPath()}),
                   QStringList({S(c.langue), "Zoé", choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
     }
 }
@@ -209,31 +209,31 @@ TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsG
     InstallationExistante();
     const QString disparu = dossier.filePath(QStringLiteral("disparu"));
     Pose("répertoire", disparu);
-    ModeRépertoires = TModeRépertoires::Aucun;
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Aucun;
     LitParamètres(Jeu()); // given up: the start goes on with what it had
     EXPECT_EQ(Vues(), Boîtes{122});
-    EXPECT_EQ(ModeRépertoires, TModeRépertoires::DossierJeu);
+    EXPECT_EQ(DemandeDossier().ModeRépertoires, TModeRépertoires::DossierJeu);
     EXPECT_EQ(Lit("répertoire"), disparu);
     EXPECT_EQ(QDir::currentPath(), dossierCourant) << "no folder to go to";
-    EXPECT_EQ(FichierLancement, choisi + "/MES.SCS");
+    EXPECT_EQ(Réglages().FichierLancement, choisi + "/MES.SCS");
 
     // The form's refusal of a folder that can't be written is the folder form's own test.
     boîtes.journal.clear();
     dossiersChoisis = {choisi};
     LitParamètres(Jeu());
     EXPECT_EQ(Vues(), Boîtes{122});
-    EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), RépertoireSauvegarde, FichierLancement, QDir::currentPath()}),
+    EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), Réglages().RépertoireSauvegarde, Réglages().FichierLancement, QDir::currentPath()}),
               QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi + "/KELMOR.SCS", choisi}));
 }
 
 TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheReminder)
 {
-    RépertoireApplication = dossier.filePath(QStringLiteral("programme.bin")); // a file: nothing can be made in it
-    ASSERT_TRUE(QFile(RépertoireApplication).open(QIODevice::WriteOnly));
+    Réglages().RépertoireApplication = dossier.filePath(QStringLiteral("programme.bin")); // a file: nothing can be made in it
+    ASSERT_TRUE(QFile(Réglages().RépertoireApplication).open(QIODevice::WriteOnly));
     dossiersChoisis = {choisi};
     LitParamètres(Jeu());
     EXPECT_EQ(Vues(), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
-    EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), Lit("répertoire information"), FichierLancement,
+    EXPECT_EQ(QStringList({Lit("répertoire"), Lit("fichier de lancement"), Lit("répertoire information"), Réglages().FichierLancement,
                            QDir::currentPath()}),
               QStringList({choisi, choisi + "/KELMOR.SCS", dossier.filePath(QStringLiteral("programme.bin/")),
                            "KELMOR.SCS", choisi}));
@@ -257,7 +257,7 @@ TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLe
         InstalleFichierRegistre(magasin);
         boîtes.journal.clear();
         EXPECT_FALSE(Main());
-        EXPECT_FALSE(ParamètresLus);
+        EXPECT_FALSE(Réglages().ParamètresLus);
         EXPECT_EQ(FormePrincipale(), nullptr);
         ASSERT_EQ(boîtes.journal.size(), 1u);
         EXPECT_EQ(boîtes.journal[0].style, StyleCritique);
@@ -290,11 +290,11 @@ TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStart)
     Jeu().PartieVierge = true;
     delete forme;
     forme = nullptr;
-    Langue = 1;
+    Langues().Langue = 1;
     Jeu().NomJoueur.clear();
     ASSERT_TRUE(Main());
     forme = FormePrincipale();
-    EXPECT_EQ(Langue, 2);
+    EXPECT_EQ(Langues().Langue, 2);
     EXPECT_EQ(Jeu().NomJoueur, "Zoé");
     EXPECT_EQ(Principal().FichierNouveau->text(), ChaîneTable(1306));
 }
