@@ -70,7 +70,7 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
 {
     setObjectName(QStringLiteral("AffichageScores"));
     setFixedSize(9075 / TwipsPerPixelX, 5595 / TwipsPerPixelY);
-    setWindowTitle(Langues().Messages[50]);
+    setWindowTitle(Message(TMessage::MeilleursScores));
     setProperty("HelpContextID", 90);
     setAutoFillBackground(true);
     QPalette fond = palette();
@@ -85,8 +85,8 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
     }
     Command1 = BoutonImage(this, QStringLiteral("AffichageScoresCommand1"), QRect(560, 144, 40, 37));
     BoutonStatistiques = BoutonImage(this, QStringLiteral("BoutonStatistiques"), QRect(560, 224, 40, 37));
-    Command1->setToolTip(Langues().Messages[59]);
-    BoutonStatistiques->setToolTip(Langues().Messages[152]);
+    Command1->setToolTip(Message(TMessage::Quitter));
+    BoutonStatistiques->setToolTip(Message(TMessage::Statistiques));
     setTabOrder(Command1, BoutonStatistiques);
     connect(Command1, &QToolButton::clicked, this, [this] { Command1_Click(); });
     connect(BoutonStatistiques, &QToolButton::clicked, this, [this] { BoutonStatistiques_Click(); });
@@ -99,13 +99,13 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
 
     switch (ScoresAffichés().NiveauAffiché) {
     case 0:
-        Boîte(Langues().Messages[13], StyleInformation, Langues().Messages[14]);
-        Etiquette->setText(Langues().Messages[52]);
+        Boîte(Message(TMessage::NiveauNonChoisi), StyleInformation, Message(TMessage::TitreSoyezPlusPrécis));
+        Etiquette->setText(Message(TMessage::NiveauFacile));
         break;
-    case 1: Etiquette->setText(Langues().Messages[52]); break;
-    case 2: Etiquette->setText(Langues().Messages[53]); break;
-    case 3: Etiquette->setText(Langues().Messages[54]); break;
-    case 4: Etiquette->setText(Langues().Messages[131]); break;
+    case 1: Etiquette->setText(Message(TMessage::NiveauFacile)); break;
+    case 2: Etiquette->setText(Message(TMessage::NiveauMoyen)); break;
+    case 3: Etiquette->setText(Message(TMessage::NiveauDifficile)); break;
+    case 4: Etiquette->setText(Message(TMessage::MenuExpert)); break;
     default: break;
     }
     if (ScoresAffichés().NiveauAffiché == 0)
@@ -179,7 +179,7 @@ void EnregistreScore()
 {
     if (Jeu().ScoreGelé) {
         JoueSon(SonsJeu().SonPerdu);
-        Boîte(Langues().Messages[44], StyleInformation, Langues().Messages[35]);
+        Boîte(Message(TMessage::ScoreNonEnregistréAssistance), StyleInformation, Message(TMessage::TitreTourGratuit));
     } else {
         Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
         const int niveau = Numéro(Jeu().Niveau);
@@ -199,14 +199,14 @@ void EnregistreScore()
         if (pos <= Jeu().NombreScores[niveau]) {
             JoueSon(SonsJeu().SonEtape);
             if (Jeu().Score > 0)
-                Boîte(Langues().Messages[39], StyleInformation, Langues().Messages[40]);
+                Boîte(Message(TMessage::BravoTopTen), StyleInformation, Message(TMessage::JoliScore));
             else
-                Boîte(Langues().Messages[41], StyleInformation, Langues().Messages[42]);
+                Boîte(Message(TMessage::MieuxFaireTopTen), StyleInformation, Message(TMessage::TitreMeilleurScore));
             Jeu().MeilleursScores[niveau][pos] = TLigneScore{Jeu().NomJoueur, Jeu().Score, Jeu().DuréePartie};
             EcritFichierScores(true);
         } else {
             JoueSon(SonsJeu().SonPerdu);
-            Boîte(Langues().Messages[43], StyleInformation, Langues().Messages[35]);
+            Boîte(Message(TMessage::HorsDesDixMeilleurs), StyleInformation, Message(TMessage::TitreTourGratuit));
         }
     }
     ScoresAffichés().NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));

@@ -20,10 +20,10 @@ NouvellePartie::NouvellePartie() : QDialog(FenêtrePrincipale(), CadreDialogueFi
 {
     setObjectName(QStringLiteral("NouvellePartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4545 / TwipsPerPixelY);
-    setWindowTitle(Langues().Messages[56]);
+    setWindowTitle(Message(TMessage::NouvellePartie));
     setProperty("HelpContextID", HelpContextID);
 
-    Label1 = new QLabel(Langues().Messages[81], this);
+    Label1 = new QLabel(Message(TMessage::EntrezVotreNom), this);
     Label1->setGeometry(31, 29, 226, 21);
     Label1->setAlignment(Qt::AlignCenter);
     QFont f(QStringLiteral("Times New Roman"));
@@ -32,22 +32,22 @@ NouvellePartie::NouvellePartie() : QDialog(FenêtrePrincipale(), CadreDialogueFi
     Label1->setFont(f);
     BoîteNomJoueur = new QLineEdit(this);
     BoîteNomJoueur->setGeometry(33, 56, 224, 24);
-    Frame1 = new QGroupBox(Langues().Messages[86], this);
+    Frame1 = new QGroupBox(Message(TMessage::Difficulté), this);
     Frame1->setGeometry(31, 109, 140, 129);
-    NiveauApprentissage = new QRadioButton(Langues().Messages[82], Frame1);
+    NiveauApprentissage = new QRadioButton(Message(TMessage::Apprentissage), Frame1);
     NiveauApprentissage->setGeometry(16, 24, 105, 17);
-    NiveauFacile = new QRadioButton(Langues().Messages[83], Frame1);
+    NiveauFacile = new QRadioButton(Message(TMessage::Facile), Frame1);
     NiveauFacile->setGeometry(16, 43, 108, 17);
-    NiveauMoyen = new QRadioButton(Langues().Messages[84], Frame1);
+    NiveauMoyen = new QRadioButton(Message(TMessage::Moyen), Frame1);
     NiveauMoyen->setGeometry(16, 63, 118, 17);
-    NiveauDifficile = new QRadioButton(Langues().Messages[85], Frame1);
+    NiveauDifficile = new QRadioButton(Message(TMessage::Difficile), Frame1);
     NiveauDifficile->setGeometry(16, 84, 114, 17);
-    NiveauExpert = new QRadioButton(Langues().Messages[128], Frame1);
+    NiveauExpert = new QRadioButton(Message(TMessage::Expert), Frame1);
     NiveauExpert->setGeometry(16, 104, 105, 17);
     BoutonSortie = new QPushButton(QStringLiteral("OK"), this);
     BoutonSortie->setGeometry(56, 264, 66, 31);
     BoutonSortie->setDefault(true);
-    BoutonAnnuler = new QPushButton(Langues().Messages[80], this);
+    BoutonAnnuler = new QPushButton(Message(TMessage::Annuler), this);
     BoutonAnnuler->setGeometry(184, 264, 66, 31);
     setTabOrder(BoîteNomJoueur, NiveauFacile);
 
@@ -80,7 +80,7 @@ void NouvellePartie::showEvent(QShowEvent *e)
 void NouvellePartie::BoutonSortie_Click()
 {
     if (BoîteNomJoueur->text().trimmed().isEmpty()) {
-        Boîte(Langues().Messages[11], StyleExclamation, Langues().Messages[12]);
+        Boîte(Message(TMessage::IndiquerVotreNom), StyleExclamation, Message(TMessage::TitreSaisieIncomplète));
         return;
     }
     Jeu().NomJoueur = BoîteNomJoueur->text().left(20);

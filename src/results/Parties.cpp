@@ -81,17 +81,17 @@ bool EcritPartie(const QString &Chemin)
     if (dossier.isEmpty())
         dossier = QStringLiteral(".");
     if (!RépertoireAccessible(dossier)) {
-        Boîte(Langues().Messages[119], StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::RépertoireNonInscriptible), StyleInformation, Message(TMessage::TitreErreur));
         return false;
     }
     // A score file that the game couldn't find again on resuming would leave its lists behind.
     const QString noté = FichierLancementNoté(dossier);
     if (noté.isEmpty()) {
-        Boîte(Langues().Messages[MessagePartieNonNotable] + Réglages().FichierLancement, StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::PartieNonNotable) + Réglages().FichierLancement, StyleInformation, Message(TMessage::TitreErreur));
         return false;
     }
     if (!EcritFichierEntier(Chemin, ContenuPartie(noté))) {
-        Boîte(Langues().Messages[134] + QStringLiteral(" ") + Chemin, StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::FichierNonEcrit) + QStringLiteral(" ") + Chemin, StyleInformation, Message(TMessage::TitreErreur));
         return false;
     }
     return true;
@@ -157,7 +157,7 @@ bool LitPartie(const QString &Chemin)
     LectureEnregistrements tête(contenu);
     QString version;
     if (!tête.Chaîne(version) || version != Réglages().VersionJeu) {
-        Boîte(Langues().Messages[104] + Langues().Messages[0] + Langues().Messages[105], StyleCritique, Langues().Messages[19]);
+        Boîte(Message(TMessage::ReprisePartieImpossible) + Message(TMessage::VersionDuJeu) + Message(TMessage::VersionAntérieure), StyleCritique, Message(TMessage::TitrePasPossible));
         return false;
     }
     return RestaurePartie(contenu, QFileInfo(Chemin).absolutePath());
@@ -167,7 +167,7 @@ bool LitPartie(const QString &Chemin)
 bool ConfirmeArrêt()
 {
     const bool enCours = PartieEnCours();
-    if (enCours && Boîte(Langues().Messages[32], StyleQuestion, Langues().Messages[33]) != RéponseOui)
+    if (enCours && Boîte(Message(TMessage::ConfirmerAbandon), StyleQuestion, Message(TMessage::TitrePartieEnCours)) != RéponseOui)
         return false;
     if (enCours) {
         ScoreAbandon(Jeu());

@@ -52,8 +52,8 @@ bool EcritFichierScores(bool AvecScores)
     // The old file is replaced in one rename: a failure leaves it as it was.
     if (EcritFichierEntier(Réglages().FichierLancement, ContenuScores(AvecScores)))
         return true;
-    Boîte(Langues().Messages[134] + QStringLiteral(" ") + Réglages().FichierLancement + QLatin1Char('\n') + Langues().Messages[147],
-          StyleExclamation, Langues().Messages[46]);
+    Boîte(Message(TMessage::FichierNonEcrit) + QStringLiteral(" ") + Réglages().FichierLancement + QLatin1Char('\n') + Message(TMessage::PeutÊtreProtégé),
+          StyleExclamation, Message(TMessage::TitreErreur));
     return false;
 }
 
@@ -93,7 +93,7 @@ bool ChargeFichierScores(const QString &chemin)
 
 void SignaleFichierScoresAbîmé(const QString &chemin)
 {
-    Boîte(chemin + QStringLiteral(" : ") + Langues().Messages[27], StyleExclamation, Langues().Messages[28]);
+    Boîte(chemin + QStringLiteral(" : ") + Message(TMessage::FichierNonInterprétable), StyleExclamation, Message(TMessage::TitreErreurDeFormat));
 }
 } // namespace
 
@@ -125,7 +125,7 @@ void ChargeScores()
 
 void ConfirmeRazScores()
 {
-    if (Boîte(Langues().Messages[30], StyleQuestion, Langues().Messages[31]) != RéponseOui)
+    if (Boîte(Message(TMessage::ConfirmerRemiseÀZéro), StyleQuestion, Message(TMessage::TitreRemiseÀZéro)) != RéponseOui)
         return;
     RazScores();
     EcritFichierScores(false);

@@ -45,7 +45,7 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
     setObjectName(QStringLiteral("SélectionPartie"));
     setFixedSize(4680 / TwipsPerPixelX, 4590 / TwipsPerPixelY);
     DemandeDossier().SortieParamétrage = false;
-    setWindowTitle(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[89] : Langues().Messages[87]);
+    setWindowTitle(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Message(TMessage::ArrêtEnCoursDeJeu) : Message(TMessage::ParamétrageDeLaPartie));
     extension = DemandeDossier().TypeFichier == TTypeFichier::Partie ? QStringLiteral(".CAS") : QStringLiteral(".SCS");
 
     Entête = new QLabel(this);
@@ -65,16 +65,16 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
     NomFichier->setGeometry(171, 212, 120, 22);
     BoutonOK = new QPushButton(QStringLiteral("OK"), this);
     BoutonOK->setGeometry(24, 264, 50, 36);
-    BoutonAnnuler = new QPushButton(Langues().Messages[80], this);
+    BoutonAnnuler = new QPushButton(Message(TMessage::Annuler), this);
     BoutonAnnuler->setGeometry(216, 264, 74, 34);
     for (QWidget *w : std::initializer_list<QWidget *>{this, Répertoire, Lecteur, Fichier, NomFichier, BoutonOK, BoutonAnnuler})
         w->setProperty("HelpContextID", 10);
 
     if (DemandeDossier().ModeRépertoires != TModeRépertoires::Chargement) {
-        Entête->setText(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[92] : Langues().Messages[93]);
+        Entête->setText(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Message(TMessage::NomFichierSauvegarde) : Message(TMessage::FichierParamétrageÀSauver));
         NomFichier->show();
     } else {
-        Entête->setText(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[90] : Langues().Messages[88]);
+        Entête->setText(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Message(TMessage::PartieÀCharger) : Message(TMessage::FichierParamétrageÀCharger));
         NomFichier->hide();
     }
 
@@ -157,7 +157,7 @@ void SélectionPartie::ProposeRépertoire()
     const QString b = SansSéparateurFinal(Réglages().RépertoireSauvegarde);
     if (a.compare(b, Qt::CaseInsensitive) == 0)
         return;
-    if (Boîte(Langues().Messages[117] + chemin, StyleQuestion, Langues().Messages[118]) != RéponseOui)
+    if (Boîte(Message(TMessage::RépertoireParDéfaut) + chemin, StyleQuestion, Message(TMessage::TitreChoixRépertoire)) != RéponseOui)
         return;
     EcritValeur(CléJeu, QStringLiteral("répertoire"), chemin);
     QDir::setCurrent(chemin);
@@ -168,13 +168,13 @@ void SélectionPartie::BoutonOK_Click()
 {
     if (DemandeDossier().ModeRépertoires == TModeRépertoires::Chargement) {
         if (!Fichier->currentItem()) {
-            Boîte(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Langues().Messages[7] : Langues().Messages[10], StyleExclamation, Langues().Messages[8]);
+            Boîte(DemandeDossier().TypeFichier == TTypeFichier::Partie ? Message(TMessage::ChoisirFichierPartie) : Message(TMessage::ChoisirFichierParamétrage), StyleExclamation, Message(TMessage::TitreMEnfin));
             return;
         }
         const QString cheminFichier = ComposeChemin(chemin, Fichier->currentItem()->text());
         if (DemandeDossier().TypeFichier == TTypeFichier::Partie) {
             if (!LitPartie(cheminFichier)) {
-                Boîte(Langues().Messages[27], StyleExclamation, Langues().Messages[28]);
+                Boîte(Message(TMessage::FichierNonInterprétable), StyleExclamation, Message(TMessage::TitreErreurDeFormat));
                 return;
             }
             QFile::remove(cheminFichier);
@@ -192,7 +192,7 @@ void SélectionPartie::BoutonOK_Click()
             Jeu().HeureDépart = static_cast<i32>(std::lrint(Timer() - Jeu().DuréePartie));
             return;
         }
-        if (Boîte(Langues().Messages[9], StyleQuestion, Langues().Messages[109]) == RéponseOui) {
+        if (Boîte(Message(TMessage::ParamétrageParDéfautAuLancement), StyleQuestion, Message(TMessage::TitreChargementParamétrage)) == RéponseOui) {
             EcritValeur(CléJeu, QStringLiteral("fichier de lancement"), cheminFichier);
             ProposeRépertoire();
         }
@@ -215,12 +215,12 @@ void SélectionPartie::BoutonOK_Click()
         nom = nom.left(point);
     NomFichier->setText(nom + extension);
     if (nom.trimmed().isEmpty()) {
-        Boîte(Langues().Messages[3], StyleExclamation, Langues().Messages[4]);
+        Boîte(Message(TMessage::NomFichierObligatoire), StyleExclamation, Message(TMessage::TitreCourage));
         return;
     }
     const QString cheminFichier = ComposeChemin(chemin, nom + extension);
     if (QFile::exists(cheminFichier)) {
-        Boîte(Langues().Messages[5], StyleExclamation, Langues().Messages[6]);
+        Boîte(Message(TMessage::FichierExisteDéjà), StyleExclamation, Message(TMessage::TitrePasDAccord));
         return;
     }
     if (DemandeDossier().TypeFichier == TTypeFichier::Partie) {

@@ -99,12 +99,12 @@ Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     Baratin->setGeometry(8, 8, 505, 65);
     Baratin->setWordWrap(true);
     Baratin->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    Baratin->setText(Langues().Messages[148]);
-    EntêtePays = EnTête(this, 227, Langues().Messages[149]);
-    EntêteCapitales = EnTête(this, 299, Langues().Messages[150]);
-    EntêteDrapeaux = EnTête(this, 371, Langues().Messages[151]);
-    EntêtePlaques = EnTête(this, 440, Langues().Messages[166]);
-    setWindowTitle(Langues().Messages[152]);
+    Baratin->setText(Message(TMessage::ExplicationStatistiques));
+    EntêtePays = EnTête(this, 227, Message(TMessage::RechercheCantons));
+    EntêteCapitales = EnTête(this, 299, Message(TMessage::RechercheChefsLieux));
+    EntêteDrapeaux = EnTête(this, 371, Message(TMessage::RechercheDrapeaux));
+    EntêtePlaques = EnTête(this, 440, Message(TMessage::RecherchePlaques));
+    setWindowTitle(Message(TMessage::Statistiques));
 
     TriePertes();
 
@@ -147,7 +147,7 @@ Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     BoutonSauvegarde = BoutonImage(this, QStringLiteral("BoutonSauvegarde"), QRect(240, 432, 41, 41));
     BoutonSauvegarde->setToolTip(NomFichierStats);
     Command1 = BoutonImage(this, QStringLiteral("StatsCommand1"), QRect(320, 432, 41, 41));
-    Command1->setToolTip(Langues().Messages[59]);
+    Command1->setToolTip(Message(TMessage::Quitter));
 
     connect(BarreVerticale, &QScrollBar::valueChanged, this, [this](int v) { RemplitStats(static_cast<i16>(v)); });
     connect(BoutonSauvegarde, &QToolButton::clicked, this, [this] { BoutonSauvegarde_Click(); });
@@ -188,14 +188,14 @@ QByteArray ContenuStats()
     const QChar tab = QLatin1Char('\t');
 
     QString t;
-    t += Langues().Messages[154] + fin;
+    t += Message(TMessage::PoliceCourier) + fin;
     t += tirets + fin;
     t += fin;
-    t += Langues().Messages[110] + QStringLiteral(", ") + Langues().Messages[0] + fin;
+    t += Message(TMessage::NomDuJeu) + QStringLiteral(", ") + Message(TMessage::VersionDuJeu) + fin;
     t += tirets + fin;
     t += fin;
-    t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Langues().Messages[72] + QLatin1Char('/') + Langues().Messages[73] + QLatin1Char('/') +
-         Langues().Messages[74] + QLatin1Char('/') + Langues().Messages[162] + fin;
+    t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Message(TMessage::Cantons) + QLatin1Char('/') + Message(TMessage::ChefsLieux) + QLatin1Char('/') +
+         Message(TMessage::Drapeaux) + QLatin1Char('/') + Message(TMessage::Plaques) + fin;
     for (int n = 1; n <= NombrePlaces; ++n) {
         const TCanton &c = Jeu().Cantons[ScoresAffichés().TriPertes[n]];
         const QChar guide = n % 4 == 0 ? QLatin1Char('-') : QLatin1Char(' ');
@@ -224,11 +224,11 @@ void Stats::BoutonSauvegarde_Click()
         }
     }
     if (!écrit) {
-        Boîte(Langues().Messages[134] + QLatin1Char(' ') + Chemin + FinDeLigne + Langues().Messages[MessageStatsNonEcrites], StyleExclamation,
-              Langues().Messages[152]);
+        Boîte(Message(TMessage::FichierNonEcrit) + QLatin1Char(' ') + Chemin + FinDeLigne + Message(TMessage::StatsNonEcrites), StyleExclamation,
+              Message(TMessage::Statistiques));
         return;
     }
-    Boîte(Langues().Messages[153] + Chemin, StyleInformation, Langues().Messages[152]);
+    Boîte(Message(TMessage::StatistiquesEnregistrées) + Chemin, StyleInformation, Message(TMessage::Statistiques));
 }
 
 void Stats::Command1_Click() { accept(); }

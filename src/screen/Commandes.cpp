@@ -78,7 +78,7 @@ void LanceRévision()
     AjusteCarte();
     MontreCantons();
     AffichePanneau();
-    Boîte(Langues().Messages[138], StyleInformation, Langues().Messages[17]);
+    Boîte(Message(TMessage::ConseilFicheRévision), StyleInformation, Message(TMessage::TitreAPropos));
 }
 
 void AfficheAide()
@@ -90,13 +90,13 @@ void AfficheAide()
 
 void AfficheAPropos()
 {
-    Boîte(Langues().Messages[110] + Langues().Messages[0] + QLatin1Char('\n') + Langues().Messages[16], StyleInformation, Langues().Messages[17]);
+    Boîte(Message(TMessage::NomDuJeu) + Message(TMessage::VersionDuJeu) + QLatin1Char('\n') + Message(TMessage::ConçuParKelmor), StyleInformation, Message(TMessage::TitreAPropos));
 }
 
 void Menuson_Click()
 {
     Réglages().SonActif = !Réglages().SonActif;
-    Principal().Menuson->setText(Réglages().SonActif ? Langues().Messages[157] : Langues().Messages[158]);
+    Principal().Menuson->setText(Réglages().SonActif ? Message(TMessage::CouperLeSon) : Message(TMessage::MettreLeSon));
 }
 
 // ---------------------------------------------------------------- the start and a new game

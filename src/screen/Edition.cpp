@@ -67,7 +67,7 @@ Edition::Edition() : QDialog(FenêtrePrincipale())
     // Centred in the work area as it is now, counted from the screen's corner.
     const QRect zone = MesureEcran().zoneTravail;
     move(Moitié(zone.width() - width()), Moitié(zone.height() - height()));
-    setWindowTitle(Langues().Messages[169]);
+    setWindowTitle(Message(TMessage::TitreModificationFiches));
 
     FicheEnEdition().FichierFichesOuvert = (Langues().Langue >= 1 && Langues().Langue < int(Langues().CheminsInfo.size())) ? Langues().CheminsInfo[Langues().Langue] : QString();
     VaÀ(1);

@@ -36,50 +36,50 @@ void EtiquetteEcran()
     if (Jeu().Etape == TEtape::ChefsLieux && Jeu().CantonRecherché != 0)
         E.TexteAChercher->setText(Jeu().Cantons[Jeu().CantonRecherché].ChefLieu);
 
-    E.setWindowTitle(Langues().Messages[110].trimmed());
-    E.BoîteRestants->setTitle(Langues().Messages[111]);
-    E.BoîteScore->setTitle(Langues().Messages[112]);
-    E.QueFaire->setText(Langues().Messages[113]);
-    E.ScoreEnCours->setText(Langues().Messages[51]);
-    E.ScoreFacile->setText(Langues().Messages[52]);
-    E.ScoreMoyen->setText(Langues().Messages[53]);
-    E.ScoreExpert->setText(Langues().Messages[141]);
-    E.ScoreDifficile->setText(Langues().Messages[54]);
-    E.MenuFichier->setTitle(Langues().Messages[55]);
-    E.FichierNouveau->setText(Langues().Messages[56]);
-    E.FichierEnregistrer->setText(Langues().Messages[57]);
-    E.FichierLire->setText(Langues().Messages[58]);
-    E.FichierQuitter->setText(Langues().Messages[59]);
-    E.MenuScores->setTitle(Langues().Messages[60]);
-    E.MenuRazScores->setText(Langues().Messages[61]);
-    E.MenuRévision->setText(Langues().Messages[62]);
-    E.MenuParamétrer->setTitle(Langues().Messages[63]);
-    E.MenuAfficheParamètres->setText(Langues().Messages[64]);
-    E.MenuRecharger->setText(Langues().Messages[65]);
-    E.MenuDéfinir->setText(Langues().Messages[66]);
-    E.MenuAide->setText(Langues().Messages[67]);
-    E.MenuAPropos->setText(Langues().Messages[17]);
-    E.MenuDéfaut->setText(Langues().Messages[139]);
-    E.MenuInf->setText(Langues().Messages[140]);
-    E.BoutonPasse->setToolTip(Langues().Messages[142]);
-    E.FichierVersion->setText(Langues().Messages[159]);
-    E.MenuCouleurCapitalesATrouver->setText(Langues().Messages[160]);
-    E.MenuCouleurCapitalesTrouvées->setText(Langues().Messages[161]);
-    E.MenuFichInfo->setText(Langues().Messages[168]);
-    E.LBLParam[1]->setText(Langues().Messages[68]);
-    E.LBLParam[2]->setText(Jeu().Etape == TEtape::ParamétrageAffiché ? Langues().Messages[70] : Langues().Messages[69]);
+    E.setWindowTitle(Message(TMessage::NomDuJeu).trimmed());
+    E.BoîteRestants->setTitle(Message(TMessage::ResteÀPlacer));
+    E.BoîteScore->setTitle(Message(TMessage::Score));
+    E.QueFaire->setText(Message(TMessage::TrouvezMoi));
+    E.ScoreEnCours->setText(Message(TMessage::NiveauEnCours));
+    E.ScoreFacile->setText(Message(TMessage::NiveauFacile));
+    E.ScoreMoyen->setText(Message(TMessage::NiveauMoyen));
+    E.ScoreExpert->setText(Message(TMessage::NiveauExpert));
+    E.ScoreDifficile->setText(Message(TMessage::NiveauDifficile));
+    E.MenuFichier->setTitle(Message(TMessage::MenuFichier));
+    E.FichierNouveau->setText(Message(TMessage::NouvellePartie));
+    E.FichierEnregistrer->setText(Message(TMessage::EnregistrerPartie));
+    E.FichierLire->setText(Message(TMessage::LirePartie));
+    E.FichierQuitter->setText(Message(TMessage::Quitter));
+    E.MenuScores->setTitle(Message(TMessage::MenuScore));
+    E.MenuRazScores->setText(Message(TMessage::RemiseÀZéro));
+    E.MenuRévision->setText(Message(TMessage::Révision));
+    E.MenuParamétrer->setTitle(Message(TMessage::MenuParamétrer));
+    E.MenuAfficheParamètres->setText(Message(TMessage::AfficherParamétrage));
+    E.MenuRecharger->setText(Message(TMessage::RechargerParamétrage));
+    E.MenuDéfinir->setText(Message(TMessage::ParamétrerLeJeu));
+    E.MenuAide->setText(Message(TMessage::Aide));
+    E.MenuAPropos->setText(Message(TMessage::TitreAPropos));
+    E.MenuDéfaut->setText(Message(TMessage::ParamétrageParDéfaut));
+    E.MenuInf->setText(Message(TMessage::DéfinirDossierInfo));
+    E.BoutonPasse->setToolTip(Message(TMessage::JePasse));
+    E.FichierVersion->setText(Message(TMessage::RechercherMisesÀJour));
+    E.MenuCouleurCapitalesATrouver->setText(Message(TMessage::CouleurChefsLieuxÀTrouver));
+    E.MenuCouleurCapitalesTrouvées->setText(Message(TMessage::CouleurChefsLieuxTrouvés));
+    E.MenuFichInfo->setText(Message(TMessage::EditerFiches));
+    E.LBLParam[1]->setText(Message(TMessage::ParamétrageDuJeu));
+    E.LBLParam[2]->setText(Jeu().Etape == TEtape::ParamétrageAffiché ? Message(TMessage::ConseilParamétrageRonds) : Message(TMessage::ConseilParamétrageCantons));
     if (Réglages().FichierLancement != QLatin1String("~tmp.~cf"))
-        E.LBLParam[3]->setText(Langues().Messages[71] + QLatin1Char('\n') + Réglages().FichierLancement);
+        E.LBLParam[3]->setText(Message(TMessage::NomFichierParamétrage) + QLatin1Char('\n') + Réglages().FichierLancement);
     else
-        E.LBLParam[3]->setText(Langues().Messages[94]);
-    E.Menuson->setText(Réglages().SonActif ? Langues().Messages[157] : Langues().Messages[158]);
-    E.LBLParam[4]->setText(Langues().Messages[72]);
-    E.LBLParam[5]->setText(Langues().Messages[73]);
-    E.LBLParam[6]->setText(Langues().Messages[74]);
-    E.LBLParam[7]->setText(Langues().Messages[75]);
-    E.LBLParam[12]->setText(Langues().Messages[78]);
-    E.LBLParam[13]->setText(Langues().Messages[79]);
-    E.BTN[2]->setText(Langues().Messages[80]);
+        E.LBLParam[3]->setText(Message(TMessage::ParamétrageNonSauvé));
+    E.Menuson->setText(Réglages().SonActif ? Message(TMessage::CouperLeSon) : Message(TMessage::MettreLeSon));
+    E.LBLParam[4]->setText(Message(TMessage::Cantons));
+    E.LBLParam[5]->setText(Message(TMessage::ChefsLieux));
+    E.LBLParam[6]->setText(Message(TMessage::Drapeaux));
+    E.LBLParam[7]->setText(Message(TMessage::Premier));
+    E.LBLParam[12]->setText(Message(TMessage::SauverParamétrageEtScores));
+    E.LBLParam[13]->setText(Message(TMessage::ParamétrageDeLancement));
+    E.BTN[2]->setText(Message(TMessage::Annuler));
     LibelléSpécifique();
 }
 
@@ -87,7 +87,7 @@ void ChangeLangue(int n)
 {
     PointeurEcran(PointeurSablier);
     if (n > Langues().NombreLangues) {
-        Boîte(Langues().Messages[126], StyleExclamation, Langues().Messages[127]);
+        Boîte(Message(TMessage::TraduireEnItalien), StyleExclamation, Message(TMessage::TitreItalien));
         PointeurEcran(PointeurNormal);
         return;
     }

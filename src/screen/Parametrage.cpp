@@ -118,12 +118,12 @@ void AfficheParamétrage()
             CodeEtapes += 1 << k;
         }
     if (Réglages().FichierLancement == ParamétrageNonSauvé) {
-        E.LBLParam[3]->setText(Langues().Messages[94]);
+        E.LBLParam[3]->setText(Message(TMessage::ParamétrageNonSauvé));
         ParamétrageNommé = false;
         E.Bouton[18]->hide();
         E.LBLParam[13]->hide();
     } else {
-        E.LBLParam[3]->setText(Langues().Messages[71] + QLatin1Char('\n') + Réglages().FichierLancement);
+        E.LBLParam[3]->setText(Message(TMessage::NomFichierParamétrage) + QLatin1Char('\n') + Réglages().FichierLancement);
         E.LBLParam[3]->setToolTip(Réglages().FichierLancement);
         ParamétrageNommé = true;
         E.Bouton[17]->setChecked(true);
@@ -138,11 +138,11 @@ void AfficheParamétrage()
     if (Jeu().Etape == TEtape::ParamétrageAffiché) {
         E.BTN[1]->hide();
         E.BTN[2]->hide();
-        E.LBLParam[2]->setText(Langues().Messages[70]);
+        E.LBLParam[2]->setText(Message(TMessage::ConseilParamétrageRonds));
     } else {
         E.BTN[1]->show();
         E.BTN[2]->show();
-        E.LBLParam[2]->setText(Langues().Messages[69]);
+        E.LBLParam[2]->setText(Message(TMessage::ConseilParamétrageCantons));
         MenusDeJeu(false);
     }
     GrilleActive = true;
@@ -186,15 +186,15 @@ void Bouton_Click(int k)
                         Case(j, rr)->setChecked(false);
                 return;
             }
-            Boîte(Langues().Messages[48], StyleInformation, Langues().Messages[46]);
+            Boîte(Message(TMessage::PremierJeu), StyleInformation, Message(TMessage::TitreErreur));
             E.Bouton[k]->setChecked(true);
             return;
         }
         if (vide) {
-            Boîte(Langues().Messages[45], StyleInformation, Langues().Messages[46]);
+            Boîte(Message(TMessage::ColonnePrécédenteVide), StyleInformation, Message(TMessage::TitreErreur));
             E.Bouton[k]->setChecked(false);
         } else if (doublon) {
-            Boîte(Langues().Messages[47], StyleInformation, Langues().Messages[46]);
+            Boîte(Message(TMessage::JeuDéjàChoisi), StyleInformation, Message(TMessage::TitreErreur));
             E.Bouton[k]->setChecked(false);
         } else {
             for (int rr = 1; rr <= 4; ++rr)
@@ -227,7 +227,7 @@ void BTN_Click(int i)
     for (int c = 1; c <= NombrePlaces; ++c)
         tousRouges = tousRouges && Jeu().Cantons[c].Trouvé;
     if (tousRouges) {
-        Boîte(Langues().Messages[121], StyleExclamation, Langues().Messages[46]);
+        Boîte(Message(TMessage::AuMoinsUnCanton), StyleExclamation, Message(TMessage::TitreErreur));
         return;
     }
     ValideParamétrage();
@@ -251,7 +251,7 @@ void ValideParamétrage()
         modifié = modifié || Jeu().Cantons[c].Trouvé != Jeu().Cantons[c].Inhibé;
 
     if (!E.Bouton[17]->isChecked()) {
-        if (Boîte(Langues().Messages[29], StyleQuestion, Langues().Messages[106]) != RéponseOui)
+        if (Boîte(Message(TMessage::ScoresNonSauvegardés), StyleQuestion, Message(TMessage::TitreEtesVousCertain)) != RéponseOui)
             return;
         QFile::remove(ParamétrageNonSauvé);
         Réglages().FichierLancement = ParamétrageNonSauvé;

@@ -119,7 +119,7 @@ Pompe::Pompe() : QDialog(FenêtrePrincipale())
     if (i < 1 || i > NombrePlaces || !FormePrincipale())
         return;
     auto &E = Principal();
-    setWindowTitle(Langues().Messages[114]);
+    setWindowTitle(Message(TMessage::FicheDeRenseignements));
     E.rond[i]->show();
 
     // The frame isn't known before the card is shown: the main window's, from the same
@@ -138,7 +138,7 @@ Pompe::Pompe() : QDialog(FenêtrePrincipale())
     LBLPays->setText(Jeu().Cantons[i].Nom + QStringLiteral(" (") + Jeu().Plaques[i] + QLatin1Char(')'));
     IMGDrapeau->setPicture(E.drapeau[i]->Picture());
     IMGDrapeau->setLeft(Moitié(width() - IMGDrapeau->Width()));
-    LBLCapitale->setText(Langues().Messages[115] + QStringLiteral(" : ") + Jeu().Cantons[i].ChefLieu);
+    LBLCapitale->setText(Message(TMessage::ChefLieu) + QStringLiteral(" : ") + Jeu().Cantons[i].ChefLieu);
     LBLCapitale->setTop(IMGDrapeau->Top() + IMGDrapeau->Height() + 5);
     TXTInfos->setTop(LBLCapitale->Top() + LBLCapitale->Height() + 5);
     TXTInfos->setHeight(qMax(0, BTNOK->Top() - TXTInfos->Top() - 5));

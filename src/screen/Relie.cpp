@@ -44,15 +44,15 @@ public:
     void Annonce(TAnnonce annonce) override
     {
         switch (annonce) {
-        case TAnnonce::ConseilFiche: Boîte(Langues().Messages[137], StyleInformation, Langues().Messages[17]); break;
-        case TAnnonce::QuestionPerdue: Boîte(Langues().Messages[38], StyleExclamation, Langues().Messages[37]); break;
-        case TAnnonce::QuestionPerdueAssistée: Boîte(Langues().Messages[36], StyleExclamation, Langues().Messages[37]); break;
-        case TAnnonce::PartiePerdue: Boîte(Langues().Messages[34], StyleCritique, Langues().Messages[35]); break;
+        case TAnnonce::ConseilFiche: Boîte(Message(TMessage::ConseilFiche), StyleInformation, Message(TMessage::TitreAPropos)); break;
+        case TAnnonce::QuestionPerdue: Boîte(Message(TMessage::QuestionPerdue), StyleExclamation, Message(TMessage::TitreResaisissezVous)); break;
+        case TAnnonce::QuestionPerdueAssistée: Boîte(Message(TMessage::QuestionPerdueAssistée), StyleExclamation, Message(TMessage::TitreResaisissezVous)); break;
+        case TAnnonce::PartiePerdue: Boîte(Message(TMessage::PartieTerminée), StyleCritique, Message(TMessage::TitreTourGratuit)); break;
         }
     }
     void AnnonceEtape(TEtape finie, TEtape suivante) override
     {
-        Boîte(MessageTransition(finie, suivante), StyleInformation, Langues().Messages[20]);
+        Boîte(MessageTransition(finie, suivante), StyleInformation, Message(TMessage::TitreEtapeSuivante));
     }
     void EtapeCommencée() override { PrépareEtape(); }
     void QuestionPosée() override { MontreQuestion(); }

@@ -314,18 +314,18 @@ QString MessageTransition(TEtape étape, TEtape suivante)
 {
     QString tête;
     switch (étape) {
-    case TEtape::Cantons: tête = Langues().Messages[21]; break;
-    case TEtape::ChefsLieux: tête = Langues().Messages[22]; break;
-    case TEtape::Drapeaux: tête = Langues().Messages[23]; break;
-    case TEtape::Plaques: tête = Langues().Messages[163]; break;
+    case TEtape::Cantons: tête = Message(TMessage::AprèsLesCantons); break;
+    case TEtape::ChefsLieux: tête = Message(TMessage::AprèsLesChefsLieux); break;
+    case TEtape::Drapeaux: tête = Message(TMessage::AprèsLesDrapeaux); break;
+    case TEtape::Plaques: tête = Message(TMessage::AprèsLesPlaques); break;
     default: break;
     }
     QString queue;
     switch (suivante) {
-    case TEtape::Cantons: queue = Langues().Messages[24]; break;
-    case TEtape::ChefsLieux: queue = Langues().Messages[25]; break;
-    case TEtape::Drapeaux: queue = Langues().Messages[26]; break;
-    case TEtape::Plaques: queue = Langues().Messages[165]; break;
+    case TEtape::Cantons: queue = Message(TMessage::AuxCantons); break;
+    case TEtape::ChefsLieux: queue = Message(TMessage::AuxChefsLieux); break;
+    case TEtape::Drapeaux: queue = Message(TMessage::AuxDrapeaux); break;
+    case TEtape::Plaques: queue = Message(TMessage::ÀLaRechercheDesPlaques); break;
     default: break;
     }
     return tête + queue;
@@ -391,5 +391,5 @@ void MontreCantonSpécifique(i16 i)
         MontreCantonEtapesSuivantes(i);
 }
 
-void LibelléSpécifique() { Principal().LBLParam[7]->setText(Langues().Messages[162]); }
+void LibelléSpécifique() { Principal().LBLParam[7]->setText(Message(TMessage::Plaques)); }
 

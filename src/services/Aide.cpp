@@ -80,7 +80,7 @@ void OuvreAide(int contexte)
     }
     fenêtre->setSource(QUrl::fromLocalFile(page));
     // The topic stands in the title, as in the desktop's own help viewers.
-    const QString aide = Langues().Messages.size() > 67 ? Langues().Messages[67] : QStringLiteral("Aide");
+    const QString aide = Langues().Messages.size() > 67 ? Message(TMessage::Aide) : QStringLiteral("Aide");
     const QString sujet = fenêtre->documentTitle();
     fenêtre->setWindowTitle(sujet.isEmpty() ? aide : aide + QStringLiteral(" - ") + sujet);
     fenêtre->show();

@@ -38,7 +38,7 @@ bool ChargeCarteZones(TCarteZones &carte)
 {
     const QString CheminFichierZones = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("KELMOR.pts"));
     if (!QFile::exists(CheminFichierZones)) {
-        Boîte(Langues().Messages[132], StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::FichierPtsAbsent), StyleInformation, Message(TMessage::TitreErreur));
         return false;
     }
     // More than the tables could hold is refused before it is read.
@@ -48,7 +48,7 @@ bool ChargeCarteZones(TCarteZones &carte)
     const bool lu = fichier.open(QIODevice::ReadOnly) && fichier.size() <= OctetsMax &&
                     (octets = fichier.readAll()).size() == fichier.size();
     if (!lu || !LitCarteZones(octets, carte)) {
-        Boîte(Langues().Messages[27], StyleCritique, CheminFichierZones);
+        Boîte(Message(TMessage::FichierNonInterprétable), StyleCritique, CheminFichierZones);
         return false;
     }
     return true;

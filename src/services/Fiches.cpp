@@ -39,7 +39,7 @@ TFiche FicheMontrée(const QString &chemin, int numéro)
 {
     TFiche fiche;
     if (LitFiche(chemin, numéro, fiche) == Lecture::Abîmée) {
-        Boîte(chemin + QStringLiteral(" : ") + Langues().Messages[27], StyleExclamation, Langues().Messages[28]);
+        Boîte(chemin + QStringLiteral(" : ") + Message(TMessage::FichierNonInterprétable), StyleExclamation, Message(TMessage::TitreErreurDeFormat));
         fiche = TFiche{};
     }
     return fiche;
@@ -84,10 +84,10 @@ void CréeFichierInfo(const Partie &P, int langue)
     if (langue < 1 || langue >= int(Langues().CheminsInfo.size()))
         return;
     if (langue == Langues().Langue)
-        Boîte(Langues().Messages[18], StyleInformation, Langues().Messages[102]);
+        Boîte(Message(TMessage::FichierInfoAbsent), StyleInformation, Message(TMessage::TitreCréationFichierInfo));
     if (!RépertoireAccessible(Réglages().RépertoireInfo)) {
-        Boîte(Langues().Messages[119] + QStringLiteral(" (") + Réglages().RépertoireInfo + QLatin1Char(')'), StyleInformation, Langues().Messages[46]);
-        Boîte(Langues().Messages[135], StyleInformation, Langues().Messages[118]);
+        Boîte(Message(TMessage::RépertoireNonInscriptible) + QStringLiteral(" (") + Réglages().RépertoireInfo + QLatin1Char(')'), StyleInformation, Message(TMessage::TitreErreur));
+        Boîte(Message(TMessage::ChoisirRépertoireInfo), StyleInformation, Message(TMessage::TitreChoixRépertoire));
         DemandeDossier().ModeRépertoires = TModeRépertoires::DossierInformation;
         MontreParamétrageRépertoires();
     }
@@ -99,7 +99,7 @@ void CréeFichierInfo(const Partie &P, int langue)
     QByteArray contenu;
     contenu.reserve(NombreFiches * TailleFiche);
     for (int k = 1; k <= NombreFiches; ++k) {
-        QByteArray r = OctetsFiche({P.Cantons[k].Nom, Langues().Messages[103]});
+        QByteArray r = OctetsFiche({P.Cantons[k].Nom, Message(TMessage::FicheÀRemplir)});
         if (r.isEmpty())
             r = OctetsFiche({P.Cantons[k].Nom, QString()});
         if (r.isEmpty())

@@ -226,9 +226,9 @@ void AfficheRappel()
             jeu.DateInstallée < jeu.DateDisponible)
             aDire = true;
     }
-    QString texte = Langues().Messages[123];
+    QString texte = Message(TMessage::VisiterLeSite);
     if (aDire) {
-        texte += FinDeLigne + FinDeLigne + Langues().Messages[146] + FinDeLigne + FinDeLigne;
+        texte += FinDeLigne + FinDeLigne + Message(TMessage::MisesÀJourSuivantes) + FinDeLigne + FinDeLigne;
         for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
             const TJeu &jeu = Famille().JeuxFamille[i];
             if (jeu.VersionInstallée >= jeu.VersionDisponible && jeu.DateInstallée >= jeu.DateDisponible)
@@ -240,7 +240,7 @@ void AfficheRappel()
             texte += FinDeLigne;
         }
     }
-    Boîte(texte, StyleInformation, Langues().Messages[124]);
+    Boîte(texte, StyleInformation, Message(TMessage::TitrePublicité));
 }
 
 void LitListePage(const QString &page)

@@ -92,13 +92,13 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FenêtrePrincipal
     EcranMesuré().LargeurEcran = écran.largeur;
     EcranMesuré().HauteurEcran = écran.hauteur;
     move((EcranMesuré().LargeurEcran - width()) / 2, (EcranMesuré().HauteurEcran - height()) / 2);
-    setWindowTitle(Langues().Messages[145]);
+    setWindowTitle(Message(TMessage::ParamétrageRépertoires));
     if (DemandeDossier().ModeRépertoires == TModeRépertoires::DossierJeu) {
         motif = QStringLiteral("*.SCS");
-        Entête->setText(Langues().Messages[143]);
+        Entête->setText(Message(TMessage::RépertoireSauvegardeParties));
     } else {
         motif = QStringLiteral("*.INF");
-        Entête->setText(Langues().Messages[144]);
+        Entête->setText(Message(TMessage::RépertoireSauvegardeInfo));
     }
 
     // Single files mounted in place (as containers do) are no drives.
@@ -201,11 +201,11 @@ std::optional<bool> ParamétrageRépertoires::CréeSousRépertoire()
     // The folder is looked at, not gone into: the process's current folder is where the
     // bare name of the score file is found, and it must not follow the player's attempts.
     if (QFileInfo(cible).isDir()) {
-        Boîte(Langues().Messages[125], StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::RépertoireExisteDéjà), StyleInformation, Message(TMessage::TitreErreur));
         return false;
     }
     if (!QDir().mkdir(cible) || !Listable(cible)) {
-        Boîte(Langues().Messages[120], StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::DossierNonCréé), StyleInformation, Message(TMessage::TitreErreur));
         return false;
     }
     return true;
@@ -234,7 +234,7 @@ void ParamétrageRépertoires::BoutonOK_Click()
     const QString dossier = chemin;
     QString essai = dossier;
     if (!RépertoireAccessible(essai)) {
-        Boîte(Langues().Messages[119], StyleInformation, Langues().Messages[46]);
+        Boîte(Message(TMessage::RépertoireNonInscriptible), StyleInformation, Message(TMessage::TitreErreur));
         return;
     }
     if (DemandeDossier().ModeRépertoires == TModeRépertoires::DossierJeu) {

@@ -42,7 +42,7 @@ int ValeurNumérique(const QString &texte)
 
 void DemandeRépertoireSauvegarde()
 {
-    Boîte(Langues().Messages[122], StyleInformation, Langues().Messages[118]);
+    Boîte(Message(TMessage::ChoisirRépertoireScores), StyleInformation, Message(TMessage::TitreChoixRépertoire));
     DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
     MontreParamétrageRépertoires();
 }
@@ -75,9 +75,9 @@ void RappelSiLeTempsEstVenu()
 // The language is among what couldn't be read: the messages in use if there are any, else the French.
 void SignaleRéglagesIllisibles()
 {
-    const QString texte = int(Langues().Messages.size()) > MessageRéglagesIllisibles
-                              ? Langues().Messages[MessageRéglagesIllisibles]
-                              : ChaîneTable(1000 + MessageRéglagesIllisibles);
+    const QString texte = int(Langues().Messages.size()) > int(TMessage::RéglagesIllisibles)
+                              ? Message(TMessage::RéglagesIllisibles)
+                              : ChaîneTable(1000 + int(TMessage::RéglagesIllisibles));
     Boîte(texte + QDir::toNativeSeparators(FichierRegistre()), StyleCritique, QStringLiteral("Les cantons kelmors"));
 }
 

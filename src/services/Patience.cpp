@@ -23,11 +23,11 @@ std::function<std::vector<TMode>()> sourceModes;
 QString Profondeur(int bits)
 {
     switch (bits) {
-    case 4: return QStringLiteral("16 ") + Langues().Messages[97] + QStringLiteral("]");
-    case 8: return QStringLiteral("256") + Langues().Messages[97] + QStringLiteral("]");
-    case 16: return QStringLiteral("65536") + Langues().Messages[97] + QStringLiteral("]");
-    case 24: return Langues().Messages[97] + QStringLiteral(" 24 bits]");
-    case 32: return Langues().Messages[97] + QStringLiteral(" 32 bits]");
+    case 4: return QStringLiteral("16 ") + Message(TMessage::Couleurs) + QStringLiteral("]");
+    case 8: return QStringLiteral("256") + Message(TMessage::Couleurs) + QStringLiteral("]");
+    case 16: return QStringLiteral("65536") + Message(TMessage::Couleurs) + QStringLiteral("]");
+    case 24: return Message(TMessage::Couleurs) + QStringLiteral(" 24 bits]");
+    case 32: return Message(TMessage::Couleurs) + QStringLiteral(" 32 bits]");
     default: return QString();
     }
 }
@@ -75,7 +75,7 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Q
     EcranMesuré().LargeurEcran = écran.largeur;
     EcranMesuré().HauteurEcran = écran.hauteur;
     BitsParPixel = écran.profondeur;
-    setWindowTitle(Langues().Messages[91] + QStringLiteral("...  (") + Langues().Messages[0] + QStringLiteral(")"));
+    setWindowTitle(Message(TMessage::ChargementEnCours) + QStringLiteral("...  (") + Message(TMessage::VersionDuJeu) + QStringLiteral(")"));
 
     // The window's emblem, drawn large in the picture's place.
     Image1 = new Image(this);
@@ -92,19 +92,19 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Q
     Conseil = étiquette({184, 96, 289, 89});
     Adresse = étiquette({8, 184, 473, 105});
     Adresse->setStyleSheet(QStringLiteral("color: #0000ff;"));
-    Adresse->setText(Langues().Messages[95]);
+    Adresse->setText(Message(TMessage::AutresJeuxDuSite));
     move((EcranMesuré().LargeurEcran - width()) / 2, (EcranMesuré().HauteurEcran - height()) / 2);
 
-    Commentaire->setText(Langues().Messages[96] + QStringLiteral("%1x%2  [").arg(EcranMesuré().LargeurEcran).arg(EcranMesuré().HauteurEcran) +
+    Commentaire->setText(Message(TMessage::Bienvenue) + QStringLiteral("%1x%2  [").arg(EcranMesuré().LargeurEcran).arg(EcranMesuré().HauteurEcran) +
                          Profondeur(BitsParPixel));
     const bool mieux = SondeModes();
     const bool large = EcranMesuré().LargeurEcran >= 1024;
     Conseil->setStyleSheet(large ? QStringLiteral("color: #000000;") : QStringLiteral("color: #ff0000;"));
     const QString mode = Mode(Modes[0].Largeur, Modes[0].Hauteur, Modes[0].Bits);
     if (!mieux)
-        Conseil->setText(large ? Langues().Messages[98] : Langues().Messages[99]);
+        Conseil->setText(large ? Message(TMessage::RésolutionConvenable) : Message(TMessage::RésolutionMédiocre));
     else
-        Conseil->setText(Langues().Messages[100] + mode + (large ? QStringLiteral(" ; ") + Langues().Messages[101] : Langues().Messages[107]));
+        Conseil->setText(Message(TMessage::RésolutionPossible) + mode + (large ? QStringLiteral(" ; ") + Message(TMessage::RésolutionActuelleSuffit) : Message(TMessage::ÉviteDéplacements)));
 }
 
 void Patience::closeEvent(QCloseEvent *e) { e->ignore(); }

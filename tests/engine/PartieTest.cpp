@@ -44,7 +44,7 @@ TEST_F(Partie, AWholeGameAtEachLevelShowsEveryQuestionAndEndsAt999999WithThreeAn
         EXPECT_EQ(boîtes.journal[0].texte, QString::fromUtf8("Après les cantons nous allons passer aux chefs-lieux"));
         EXPECT_EQ(boîtes.journal[1].titre, "Etape suivante");
         EXPECT_EQ(boîtes.journal[2].texte, QString::fromUtf8("Après les drapeaux, nous allons passer à la recherche des plaques..."));
-        EXPECT_EQ(boîtes.journal[3].texte, Langues().Messages[39]);
+        EXPECT_EQ(boîtes.journal[3].texte, Message(TMessage::BravoTopTen));
         EXPECT_EQ(std::count(sons.joués.begin(), sons.joués.end(), SonsJeu().SonEtape), 4);
         EXPECT_FALSE(E.rond[5]->Visible());
     }
@@ -85,11 +85,11 @@ TEST_F(Partie, ADoubleClickAnswersOnceAndEachAnnouncementReachesThePlayerInItsBo
     Vue(Jeu()).Annonce(TAnnonce::QuestionPerdue);
     PartiePerdue(Jeu());
     ASSERT_EQ(boîtes.journal.size(), 4u);
-    EXPECT_TRUE(boîtes.journal[0].texte == Langues().Messages[137] && boîtes.journal[0].titre == "A propos...");
-    EXPECT_TRUE(boîtes.journal[1].texte == Langues().Messages[38] && boîtes.journal[1].titre == "Resaisissez-vous !");
+    EXPECT_TRUE(boîtes.journal[0].texte == Message(TMessage::ConseilFiche) && boîtes.journal[0].titre == "A propos...");
+    EXPECT_TRUE(boîtes.journal[1].texte == Message(TMessage::QuestionPerdue) && boîtes.journal[1].titre == "Resaisissez-vous !");
     EXPECT_EQ(boîtes.journal[1].style, StyleExclamation);
     EXPECT_TRUE(boîtes.journal[2].titre == "Bon pour un tour gratuit" && boîtes.journal[2].style == StyleCritique);
-    EXPECT_EQ(boîtes.journal[3].texte, Langues().Messages[41]) << "a lost game still enters a list with room";
+    EXPECT_EQ(boîtes.journal[3].texte, Message(TMessage::MieuxFaireTopTen)) << "a lost game still enters a list with room";
     EXPECT_TRUE(sons.AJoué("carte_hl.wav") && sons.AJoué("carte_pe.wav"));
     EXPECT_FALSE(Principal().BoîteScore->Visible());
 }

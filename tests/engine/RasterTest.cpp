@@ -94,8 +94,8 @@ TEST(Raster, TheStartSaysWhetherTheFileIsDamagedOrMissing)
     EXPECT_FALSE(lu || luSansFichier);
     ASSERT_EQ(boîtes.journal.size(), 2u);
     const auto &format = boîtes.journal[0], &absent = boîtes.journal[1];
-    EXPECT_TRUE(format.texte == Langues().Messages[27] && format.style == StyleCritique && format.titre.endsWith("KELMOR.pts"));
-    EXPECT_TRUE(absent.texte == Langues().Messages[132] && absent.style == StyleInformation && absent.titre == "Erreur");
+    EXPECT_TRUE(format.texte == Message(TMessage::FichierNonInterprétable) && format.style == StyleCritique && format.titre.endsWith("KELMOR.pts"));
+    EXPECT_TRUE(absent.texte == Message(TMessage::FichierPtsAbsent) && absent.style == StyleInformation && absent.titre == "Erreur");
 }
 
 } // namespace

@@ -56,7 +56,7 @@ TEST_F(Meilleurs, NoLevelYetAsksFirstThenShowsFacileAndAChosenLevelShowsItsLines
     AfficheMeilleursScores(Numéro(Jeu().Niveau));
     EXPECT_EQ(boîtesAvant, 1u) << "the box comes before the list";
     ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[13]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::NiveauNonChoisi));
     EXPECT_EQ(ScoresAffichés().NiveauAffiché, 1);
 
     Jeu().NombreScores[2] = 4;

@@ -28,7 +28,7 @@ TEST_F(Dialogue, TheLevelOfferedTheNameAndLevelChosenTheClockAndTheFocus)
         EXPECT_EQ(QApplication::focusWidget(), d.BoîteNomJoueur);
         d.BoîteNomJoueur->setText("   ");
         d.BoutonSortie->click();
-        EXPECT_EQ(boîtes.journal.at(0).texte, Langues().Messages[11]) << "a blank name is refused";
+        EXPECT_EQ(boîtes.journal.at(0).texte, Message(TMessage::IndiquerVotreNom)) << "a blank name is refused";
         EXPECT_TRUE(d.result() == 0 && Jeu().Etape == TEtape::Aucune && Jeu().NomJoueur.isEmpty());
     }
     horloge = 4000.6;
@@ -73,7 +73,7 @@ TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
     });
     LanceNouvellePartie();
     ASSERT_EQ(boîtes.journal.size(), 2u);
-    EXPECT_EQ(boîtes.journal[1].texte, Langues().Messages[41]) << "the abandoned game is scored";
+    EXPECT_EQ(boîtes.journal[1].texte, Message(TMessage::MieuxFaireTopTen)) << "the abandoned game is scored";
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(Jeu().Score, -999999 + 4807);
     EXPECT_FALSE(Principal().rond[1]->Visible());

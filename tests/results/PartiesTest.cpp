@@ -119,7 +119,7 @@ TEST_F(Sauvegarde, TheScoreFileComesBackExactlyOrTheGameIsNotSaved)
         boîtes.journal.clear();
         EXPECT_EQ(EcritPartie(chemin), enregistrée);
         EXPECT_EQ(QFile::exists(chemin), enregistrée);
-        EXPECT_EQ(boîtes.ADit(Langues().Messages[MessagePartieNonNotable] + avant), !enregistrée);
+        EXPECT_EQ(boîtes.ADit(Message(TMessage::PartieNonNotable) + avant), !enregistrée);
         RazScores();
         if (enregistrée) {
             ASSERT_TRUE(LitPartie(chemin));
@@ -178,7 +178,7 @@ TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
     // The resumed game asks before it is left, even before its first click.
     boîtes.réponses = {RéponseNon};
     EXPECT_FALSE(ConfirmeArrêt());
-    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[32]);
+    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::ConfirmerAbandon));
 
     // Another version chosen in the dialog: its message, then the dialog's own; the file stays.
     QFile vieux(dossier.filePath("vieux.CAS"));
@@ -189,7 +189,7 @@ TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
     Choisit();
     FichierLire_Click();
     ASSERT_EQ(boîtes.journal.size(), 2u);
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[104] + Langues().Messages[0] + Langues().Messages[105]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::ReprisePartieImpossible) + Message(TMessage::VersionDuJeu) + Message(TMessage::VersionAntérieure));
     EXPECT_TRUE(QFile::exists(dossier.filePath("vieux.CAS")));
 }
 
@@ -203,7 +203,7 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnc
         SélectionPartie s;
         s.NomFichier->setText("   ");
         s.BoutonOK->click();
-        EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[3]);
+        EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::NomFichierObligatoire));
         EXPECT_EQ(s.NomFichier->text(), "   .CAS");
         s.Fichier->setCurrentRow(0);
         s.Fichier_DblClick(); // an existing name refused is the screen tests' (Enter in the file dialog)
@@ -219,7 +219,7 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnc
         boîtes.réponses = {RéponseOui};
         s.ProposeRépertoire();
         ASSERT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[117] + dossier.filePath("autre"));
+        EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::RépertoireParDéfaut) + dossier.filePath("autre"));
         EXPECT_EQ(Réglages().RépertoireSauvegarde, dossier.filePath("autre"));
         EXPECT_EQ(QDir::currentPath(), dossier.filePath("autre"));
     }
@@ -229,10 +229,10 @@ TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnc
         EXPECT_TRUE(s.NomFichier->isHidden());
         s.Fichier->setCurrentRow(-1);
         s.BoutonOK->click();
-        EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[7]);
+        EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::ChoisirFichierPartie));
     }
     EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
-    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[119]);
+    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::RépertoireNonInscriptible));
     EXPECT_EQ(Jeu().Etape, TEtape::Drapeaux);
 }
 

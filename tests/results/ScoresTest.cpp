@@ -152,7 +152,7 @@ TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToT
         boîtes.journal.clear();
         ChargeScores();
         ASSERT_EQ(boîtes.journal.size(), défautBon ? 1u : 2u);
-        EXPECT_EQ(boîtes.journal[0].texte, abîmé + " : " + Langues().Messages[27]);
+        EXPECT_EQ(boîtes.journal[0].texte, abîmé + " : " + Message(TMessage::FichierNonInterprétable));
         EXPECT_EQ(Réglages().FichierLancement, défaut);
         EXPECT_EQ(Ensemble(), défautBon ? std::vector<int>({2, 1, 0, 0, False, True, 0, 1}) : std::vector<int>({1, 2, 3, 4, False, False, 0, 0}));
     }
@@ -170,16 +170,16 @@ TEST_F(Store, RankingIntoTheBestTen)
     RazScores();
     for (int i = 0; i <= 9; ++i)
         Termine(2, 500 + 10 * i, 100);
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[39]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::BravoTopTen));
     EXPECT_TRUE(FormesMontrées().back() == "AffichageScores" && ScoresAffichés().NiveauAffiché == 2) << "the list of the game's level follows";
     ASSERT_EQ(Jeu().NombreScores[2], 10);
     EXPECT_EQ(Jeu().MeilleursScores[2][1].Points, 590);
 
     const QByteArray avant = Lit();
     Termine(2, 499, 10); // an eleventh below the tenth: nothing changes
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[43]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::HorsDesDixMeilleurs));
     Termine(2, 500, 100); // equal in points and length: the older line stays
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[43]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::HorsDesDixMeilleurs));
     EXPECT_EQ(Lit(), avant);
     Termine(2, 500, 99); // equal in points, shorter: takes the tenth place
     EXPECT_EQ(Jeu().MeilleursScores[2][10].Durée, 99);
@@ -191,13 +191,13 @@ TEST_F(Store, RankingIntoTheBestTen)
     // Negative, across midnight.
     Termine(3, -432773, 500, 86000);
     EXPECT_TRUE(Jeu().MeilleursScores[3][1].Points == -432773 && Jeu().MeilleursScores[3][1].Durée == 500);
-    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[41]);
+    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::MieuxFaireTopTen));
     // Apprentissage keeps no score.
     boîtes.journal.clear();
     Jeu().ScoreGelé = true, Jeu().Niveau = TNiveau::Facile, Jeu().PartieEnregistrée = false;
     EnregistreScore();
     EXPECT_TRUE(Jeu().NombreScores[1] == 0 && Jeu().PartieEnregistrée);
-    EXPECT_EQ(boîtes.journal.at(0).texte, Langues().Messages[44]);
+    EXPECT_EQ(boîtes.journal.at(0).texte, Message(TMessage::ScoreNonEnregistréAssistance));
 }
 
 TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
@@ -214,8 +214,8 @@ TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
     Réglages().FichierLancement = dossier.filePath("nulle/part/KELMOR.SCS");
     Termine(4, 1000, 10);
     ASSERT_GE(boîtes.journal.size(), 2u);
-    EXPECT_TRUE(boîtes.journal[1].texte.startsWith(Langues().Messages[134]));
-    EXPECT_TRUE(boîtes.journal[1].texte.contains(Langues().Messages[147]));
+    EXPECT_TRUE(boîtes.journal[1].texte.startsWith(Message(TMessage::FichierNonEcrit)));
+    EXPECT_TRUE(boîtes.journal[1].texte.contains(Message(TMessage::PeutÊtreProtégé)));
     EXPECT_EQ(Jeu().NombreScores[4], 1);
 }
 

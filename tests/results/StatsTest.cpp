@@ -101,7 +101,7 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
     Pertes(26, 4, 0, 0, 1);
     const QString chemin = dossier.filePath(QStringLiteral("KELM_STA.TXT"));
     Stats().BoutonSauvegarde->click(); // a first file, in French
-    const QString ditFr = Langues().Messages[153] + chemin;
+    const QString ditFr = Message(TMessage::StatistiquesEnregistrées) + chemin;
     ChangeLangue(2);
     {
         Stats s;
@@ -110,7 +110,7 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
     }
     ASSERT_EQ(boîtes.journal.size(), 2u);
     EXPECT_EQ(boîtes.journal[0].texte, ditFr);
-    EXPECT_EQ(boîtes.journal[1].texte, Langues().Messages[153] + chemin);
+    EXPECT_EQ(boîtes.journal[1].texte, Message(TMessage::StatistiquesEnregistrées) + chemin);
     QFile fichier(chemin);
     ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
     const QList<QByteArray> lignes = fichier.readAll().split('\n');
@@ -149,8 +149,8 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
         MontreStats();
         ASSERT_EQ(boîtes.journal.size(), 1u);
         EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Langues().Messages[134] + ' ' + d));
-        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Langues().Messages[MessageStatsNonEcrites]));
+        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Message(TMessage::FichierNonEcrit) + ' ' + d));
+        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Message(TMessage::StatsNonEcrites)));
     }
     EXPECT_FALSE(QFile::exists(dossier.filePath(QStringLiteral("absent")))) << "no folder made";
     EXPECT_EQ(QFileInfo(bouchon).size(), 0) << "the file in the folder's place is left alone";

@@ -79,13 +79,13 @@ TEST_F(Marques, AChangeOfLanguageRenamesMenusAndTownsButNotTheLanguages)
 {
     auto &E = Principal();
     LanceRévision();
-    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[138]);
+    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::ConseilFicheRévision));
     EXPECT_TRUE(E.Pays[5]->Visible());
     EXPECT_EQ(E.rond[5]->toolTip(), QString::fromUtf8("Bâle"));
     const QString allemand = E.MenuAllemand->text(), nouveau = E.FichierNouveau->text();
     ChangeLangue(2);
     EXPECT_EQ(E.rond[5]->toolTip(), "Basel");
-    EXPECT_EQ(E.FichierNouveau->text(), Langues().Messages[56]);
+    EXPECT_EQ(E.FichierNouveau->text(), Message(TMessage::NouvellePartie));
     EXPECT_NE(E.FichierNouveau->text(), nouveau);
     EXPECT_EQ(E.MenuAllemand->text(), allemand);
     ChangeLangue(1);

@@ -102,7 +102,7 @@ TEST_F(Chargement, EnterInTheFileDialogDoesOneThingOnly)
     s.NomFichier->setText("pris");
     Tape(s, s.NomFichier, Qt::Key_Return);
     ASSERT_EQ(boîtes.journal.size(), 1u) << "OK was pressed twice";
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[5]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::FichierExisteDéjà));
     s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
     Tape(s, s.Répertoire, Qt::Key_Return);
     EXPECT_EQ(s.Chemin(), dossier.filePath("autre")) << "Enter opens the folder";

@@ -130,7 +130,7 @@ TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChan
     EXPECT_TRUE(Principal().Bouton[18]->isChecked());
     EXPECT_FALSE(Principal().Bouton[3]->isEnabled());
     EXPECT_TRUE(Principal().BTN[1]->isHidden());
-    EXPECT_EQ(Principal().LBLParam[2]->text(), Langues().Messages[70]);
+    EXPECT_EQ(Principal().LBLParam[2]->text(), Message(TMessage::ConseilParamétrageRonds));
 }
 
 TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToTheTemporaryFileAndTheDefaultComesBack)
@@ -139,7 +139,7 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     for (int c = 1; c <= 26; ++c)
         TraiteClic(Jeu(), static_cast<i16>(c), 1, 1);
     Principal().BTN[1]->click();
-    EXPECT_EQ(boîtes.journal.back().texte, Langues().Messages[121]);
+    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::AuMoinsUnCanton));
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);

@@ -162,7 +162,7 @@ TEST_F(Fiches, AMissingOrDamagedFileGivesAnEmptyCardAndADamagedRecordIsTold)
             EXPECT_FALSE(p.LBLPays->text().isEmpty()) << cas;
         });
         const bool abîmé = cas == std::string("damaged record");
-        EXPECT_EQ(boîtes.ADit(Langues().CheminsInfo[1] + " : " + Langues().Messages[27]), abîmé) << cas;
+        EXPECT_EQ(boîtes.ADit(Langues().CheminsInfo[1] + " : " + Message(TMessage::FichierNonInterprétable)), abîmé) << cas;
         EXPECT_EQ(boîtes.journal.size(), abîmé ? 1u : 0u) << cas;
         EXPECT_EQ(QFile::exists(Langues().CheminsInfo[1]), !contenu.isEmpty()) << cas << ": a card doesn't make the file";
     }
@@ -333,7 +333,7 @@ TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
 TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
 {
     auto messagesCréation = [this] {
-        return std::count_if(boîtes.journal.begin(), boîtes.journal.end(), [](const auto &b) { return b.titre == Langues().Messages[102]; });
+        return std::count_if(boîtes.journal.begin(), boîtes.journal.end(), [](const auto &b) { return b.titre == Message(TMessage::TitreCréationFichierInfo); });
     };
     QFile::remove(dossier.filePath("KELMOR.INF"));
     QFile::remove(dossier.filePath("DRAVELN.INF"));
@@ -341,7 +341,7 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
     EXPECT_EQ(messagesCréation(), 1);
     QByteArray attendu;
     for (int k = 1; k <= 26; ++k)
-        attendu += Enreg(VersAnsi(Jeu().Cantons[k].Nom), VersAnsi(Langues().Messages[103]));
+        attendu += Enreg(VersAnsi(Jeu().Cantons[k].Nom), VersAnsi(Message(TMessage::FicheÀRemplir)));
     for (const char *nom : {"KELMOR.INF", "DRAVELN.INF"})
         EXPECT_EQ(Lit(dossier.filePath(nom)), attendu) << nom;
     Relance();
@@ -356,11 +356,11 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
     EXPECT_TRUE(boîtes.journal.empty()) << "the French file is not the language in use";
     CréeFichierInfo(Jeu(), 2);
     ASSERT_EQ(boîtes.journal.size(), 1u);
-    EXPECT_EQ(boîtes.journal[0].texte, Langues().Messages[18]);
+    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::FichierInfoAbsent));
     for (int langue : {1, 2}) {
         TFiche fiche;
         ASSERT_TRUE(LitFicheInfo(Langues().CheminsInfo[langue], 24, fiche));
-        EXPECT_EQ(QStringList({fiche.Nom, fiche.Texte}), QStringList({"Waadt", Langues().Messages[103]}));
+        EXPECT_EQ(QStringList({fiche.Nom, fiche.Texte}), QStringList({"Waadt", Message(TMessage::FicheÀRemplir)}));
     }
     ChangeLangue(1);
 }
@@ -384,7 +384,7 @@ TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
     DemandeDossier().ModeRépertoires = TModeRépertoires::Aucun;
     CréeFichierInfo(Jeu(), 1);
     ASSERT_EQ(boîtes.journal.size(), 3u);
-    EXPECT_EQ(boîtes.journal[1].texte, Langues().Messages[119] + " (" + disparu + "/)");
+    EXPECT_EQ(boîtes.journal[1].texte, Message(TMessage::RépertoireNonInscriptible) + " (" + disparu + "/)");
     EXPECT_EQ(DemandeDossier().ModeRépertoires, TModeRépertoires::DossierInformation);
     EXPECT_FALSE(QDir(disparu).exists()) << "given up: no file, no folder";
 

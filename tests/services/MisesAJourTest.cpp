@@ -119,7 +119,7 @@ protected:
             return QString();
         const auto b = boîtes.journal.back();
         boîtes.journal.clear();
-        EXPECT_EQ(b.titre, Langues().Messages[124]);
+        EXPECT_EQ(b.titre, Message(TMessage::TitrePublicité));
         EXPECT_EQ(b.style, StyleInformation);
         return b.texte;
     }
@@ -200,7 +200,7 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
               QStringList({"3.10", "1.00", ""}));
 
     AfficheRappel();
-    QString attendu = Langues().Messages[123] + "\r\n\r\n" + Langues().Messages[146] + "\r\n\r\n";
+    QString attendu = Message(TMessage::VisiterLeSite) + "\r\n\r\n" + Message(TMessage::MisesÀJourSuivantes) + "\r\n\r\n";
     for (const char *l : {"Les régions brisoliennes : version 4.30 du 02/11/2006", "Les états dunmarkois : version 2.41 du 09/09/2004",
                           "Les provinces estravaises : version 4.02 du 17/05/2006", "Les comtés faldins : version 1.90 du 28/02/2003",
                           "Les districts gorvanais : version 3.60 du 11/12/2005", "Les pays d'Afrique : version 2.15 du 05/04/2004",
@@ -219,7 +219,7 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
     }
     ExploreJeux();
     AfficheRappel();
-    EXPECT_EQ(RappelVu(), Langues().Messages[123]);
+    EXPECT_EQ(RappelVu(), Message(TMessage::VisiterLeSite));
 }
 
 TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)

@@ -89,7 +89,7 @@ protected:
             vues << b.texte + " | " + b.titre;
         return vues;
     }
-    static QString Erreur(int id) { return Langues().Messages[id - 1000] + " | " + Langues().Messages[46]; }
+    static QString Erreur(int id) { return Langues().Messages[id - 1000] + " | " + Message(TMessage::TitreErreur); }
 
     // Opens the form as the game does; `joue` stands for the player and answers the form's result.
     int Ouvre(i16 mode, const std::function<int(ParamétrageRépertoires &)> &joue)

@@ -149,7 +149,7 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
             EXPECT_EQ(Lit(nom), texte) << nom;
         EXPECT_EQ(Lit("date", CléFamille), "2024-05-10 14:30:00");
         EXPECT_EQ(Langues().Langue, c.premier ? 1 : 2);
-        EXPECT_EQ(Langues().Messages[0], ChaîneTable(c.premier ? 1000 : 1250));
+        EXPECT_EQ(Message(TMessage::VersionDuJeu), ChaîneTable(c.premier ? 1000 : 1250));
         EXPECT_EQ(Réglages().VersionJeu, ChaîneTable(1000)) << "the version always in French";
         // A first run leaves the bare name of the score file, found in the current folder.
         EXPECT_EQ(QStringList({Jeu().NomJoueur, Réglages().RépertoireSauvegarde, Réglages().RépertoireInfo, Réglages().FichierLancement, QDir::currentPath()}),
@@ -198,7 +198,7 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
             EXPECT_EQ(Contenu(), avant);
         }
         EXPECT_EQ(Langues().Langue, c.lue);
-        EXPECT_EQ(Langues().Messages[0], ChaîneTable(c.lue == 2 ? 1250 : 1000));
+        EXPECT_EQ(Message(TMessage::VersionDuJeu), ChaîneTable(c.lue == 2 ? 1250 : 1000));
         EXPECT_EQ(QStringList({Lit("langue"), Jeu().NomJoueur, Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, QDir::currentPath()}),
                   QStringList({S(c.langue), "Zoé", choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
     }
@@ -253,7 +253,7 @@ TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLe
     ASSERT_TRUE(QFile::copy(QStringLiteral(DOSSIER_DONNEES "/KELMOR.pts"), programme + "/KELMOR.pts"));
     for (const auto &[magasin, message] : {std::pair{dossier.filePath(QStringLiteral("plain/registre.ini")),
                                                      S("Les paramètres du jeu ne peuvent pas")},
-                                           {fichier, ChaîneTable(1000 + MessageRéglagesIllisibles)}}) {
+                                           {fichier, ChaîneTable(1000 + int(TMessage::RéglagesIllisibles))}}) {
         InstalleFichierRegistre(magasin);
         boîtes.journal.clear();
         EXPECT_FALSE(Main());

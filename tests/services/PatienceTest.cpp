@@ -26,10 +26,10 @@ TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
     std::vector<TMode> beaucoup(50, TMode{1024, 768, 32});
     beaucoup.insert(beaucoup.end(), {{1280, 1024, 16}, {1280, 1024, 32}, {1280, 1024, 24}, {1600, 1200, 8}});
     const Cas cas[] = {
-        {1024, {{1024, 768, 32}}, false, Langues().Messages[98]},
-        {800, {{800, 600, 32}}, true, Langues().Messages[99]},
-        {800, beaucoup, true, Langues().Messages[100] + "1280x1024  [" + Langues().Messages[97] + " 32 bits]" + Langues().Messages[107]},
-        {1024, beaucoup, false, Langues().Messages[100] + "1280x1024  [" + Langues().Messages[97] + " 32 bits] ; " + Langues().Messages[101]},
+        {1024, {{1024, 768, 32}}, false, Message(TMessage::RésolutionConvenable)},
+        {800, {{800, 600, 32}}, true, Message(TMessage::RésolutionMédiocre)},
+        {800, beaucoup, true, Message(TMessage::RésolutionPossible) + "1280x1024  [" + Message(TMessage::Couleurs) + " 32 bits]" + Message(TMessage::ÉviteDéplacements)},
+        {1024, beaucoup, false, Message(TMessage::RésolutionPossible) + "1280x1024  [" + Message(TMessage::Couleurs) + " 32 bits] ; " + Message(TMessage::RésolutionActuelleSuffit)},
     };
     for (const Cas &c : cas) {
         InstalleEcran(InfoEcran{c.largeur, 600, QRect(0, 0, c.largeur, 600), 24});
@@ -37,7 +37,7 @@ TEST_F(Accueil, AdviceTurnsOnAWidthOf1024AndTheWidestDeepestModeOnOffer)
         Patience p;
         EXPECT_EQ(p.Conseil->text(), c.conseil) << c.largeur;
         EXPECT_EQ(p.Conseil->styleSheet().contains("ff0000"), c.rouge) << c.largeur;
-        EXPECT_TRUE(p.Commentaire->text().endsWith(QStringLiteral("%1x600  [").arg(c.largeur) + Langues().Messages[97] + " 24 bits]"));
+        EXPECT_TRUE(p.Commentaire->text().endsWith(QStringLiteral("%1x600  [").arg(c.largeur) + Message(TMessage::Couleurs) + " 24 bits]"));
     }
     InstalleModesAffichage(nullptr);
 }

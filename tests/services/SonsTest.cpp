@@ -40,13 +40,13 @@ TEST_F(Sons, TheSwitchSilencesTheGameAndSaysSoInTheMenu)
 {
     NouvellePartieAuNiveau(3);
     Menuson_Click();
-    EXPECT_EQ(Principal().Menuson->text(), Langues().Messages[158]);
+    EXPECT_EQ(Principal().Menuson->text(), Message(TMessage::MettreLeSon));
     RépondFaux();
     EXPECT_TRUE(sons.joués.empty());
     Menuson_Click();
     RépondFaux();
     EXPECT_EQ(sons.joués, std::vector<QString>({SonsJeu().SonErreur}));
-    EXPECT_EQ(Principal().Menuson->text(), Langues().Messages[157]);
+    EXPECT_EQ(Principal().Menuson->text(), Message(TMessage::CouperLeSon));
 }
 
 } // namespace
