@@ -98,23 +98,21 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
     BoutonStatistiques->setVisible(Jeu().ScoresFinPartie);
 
     switch (ScoresAffichés().NiveauAffiché) {
-    case 0:
+    case TNiveau::Aucun:
         Boîte(Message(TMessage::NiveauNonChoisi), StyleInformation, Message(TMessage::TitreSoyezPlusPrécis));
         Etiquette->setText(Message(TMessage::NiveauFacile));
         break;
-    case 1: Etiquette->setText(Message(TMessage::NiveauFacile)); break;
-    case 2: Etiquette->setText(Message(TMessage::NiveauMoyen)); break;
-    case 3: Etiquette->setText(Message(TMessage::NiveauDifficile)); break;
-    case 4: Etiquette->setText(Message(TMessage::MenuExpert)); break;
-    default: break;
+    case TNiveau::Facile: Etiquette->setText(Message(TMessage::NiveauFacile)); break;
+    case TNiveau::Moyen: Etiquette->setText(Message(TMessage::NiveauMoyen)); break;
+    case TNiveau::Difficile: Etiquette->setText(Message(TMessage::NiveauDifficile)); break;
+    case TNiveau::Expert: Etiquette->setText(Message(TMessage::MenuExpert)); break;
     }
-    if (ScoresAffichés().NiveauAffiché == 0)
-        ScoresAffichés().NiveauAffiché = 1;
+    if (ScoresAffichés().NiveauAffiché == TNiveau::Aucun)
+        ScoresAffichés().NiveauAffiché = TNiveau::Facile;
 
     for (int i = 1; i <= 10; ++i) {
         // A line of 0 points is an empty place, whatever the count says.
-        const TLigneScore &ligne = (ScoresAffichés().NiveauAffiché >= 1 && ScoresAffichés().NiveauAffiché <= 4) ? Jeu().MeilleursScores[ScoresAffichés().NiveauAffiché][i]
-                                                                             : TLigneScore{};
+        const TLigneScore &ligne = Jeu().MeilleursScores[Numéro(ScoresAffichés().NiveauAffiché)][i];
         if (ligne.Points != 0) {
             nomjoueur[i]->setText(ligne.Nom);
             valeurscore[i]->setText(QString::number(ligne.Points));
@@ -163,7 +161,7 @@ QString FormatDurée(i32 Durée)
     return tête(s) + QLatin1Char('s');
 }
 
-void AfficheMeilleursScores(i16 niveau)
+void AfficheMeilleursScores(TNiveau niveau)
 {
     ScoresAffichés().NiveauAffiché = niveau;
     MontreAffichageScores();
@@ -209,7 +207,7 @@ void EnregistreScore()
             Boîte(Message(TMessage::HorsDesDixMeilleurs), StyleInformation, Message(TMessage::TitreTourGratuit));
         }
     }
-    ScoresAffichés().NiveauAffiché = static_cast<i16>(Numéro(Jeu().Niveau));
+    ScoresAffichés().NiveauAffiché = Jeu().Niveau;
     Jeu().PartieEnregistrée = true;
     Jeu().ScoresFinPartie = true;
     MontreAffichageScores();

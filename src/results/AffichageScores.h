@@ -27,7 +27,7 @@ protected:
 };
 
 // Sets NiveauAffiché and shows the form modally.
-void AfficheMeilleursScores(i16 niveau);
+void AfficheMeilleursScores(TNiveau niveau);
 // Shows the form modally for NiveauAffiché, as at the end of a game.
 void MontreAffichageScores();
 // 3725 → "1h02mn05s", 125 → "2mn05s", 42 → "42s".

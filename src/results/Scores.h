@@ -5,7 +5,7 @@
 
 struct TScoresAffichés {
     // The level whose list the best-scores form shows.
-    i16 NiveauAffiché = 0;
+    TNiveau NiveauAffiché = TNiveau::Aucun;
     // The statistics' display order, the costliest canton first: 1..26.
     i16 TriPertes[NombrePlaces + 1] = {};
 };

@@ -34,11 +34,11 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.FichierNouveau, [] { LanceNouvellePartie(); });
     relie(E.FichierEnregistrer, [] { EnregistrePartie(); });
     relie(E.FichierLire, [] { FichierLire_Click(); });
-    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(static_cast<i16>(Numéro(Jeu().Niveau))); });
-    relie(E.ScoreFacile, [] { AfficheMeilleursScores(1); });
-    relie(E.ScoreMoyen, [] { AfficheMeilleursScores(2); });
-    relie(E.ScoreDifficile, [] { AfficheMeilleursScores(3); });
-    relie(E.ScoreExpert, [] { AfficheMeilleursScores(4); });
+    relie(E.ScoreEnCours, [] { AfficheMeilleursScores(Jeu().Niveau); });
+    relie(E.ScoreFacile, [] { AfficheMeilleursScores(TNiveau::Facile); });
+    relie(E.ScoreMoyen, [] { AfficheMeilleursScores(TNiveau::Moyen); });
+    relie(E.ScoreDifficile, [] { AfficheMeilleursScores(TNiveau::Difficile); });
+    relie(E.ScoreExpert, [] { AfficheMeilleursScores(TNiveau::Expert); });
     relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
     relie(E.MenuAfficheParamètres, [] { RevoitParamétrage(); });
     relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });

@@ -53,28 +53,28 @@ TEST_F(Meilleurs, NoLevelYetAsksFirstThenShowsFacileAndAChosenLevelShowsItsLines
         EXPECT_EQ(Vu(dynamic_cast<AffichageScores &>(d)), (std::vector<std::string>{"Niveau facile", "Ana|999|1mn01s"}));
         return int(boîtesAvant = boîtes.journal.size());
     });
-    AfficheMeilleursScores(Numéro(Jeu().Niveau));
+    AfficheMeilleursScores(Jeu().Niveau);
     EXPECT_EQ(boîtesAvant, 1u) << "the box comes before the list";
     ASSERT_EQ(boîtes.journal.size(), 1u);
     EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::NiveauNonChoisi));
-    EXPECT_EQ(ScoresAffichés().NiveauAffiché, 1);
+    EXPECT_EQ(ScoresAffichés().NiveauAffiché, TNiveau::Facile);
 
     Jeu().NombreScores[2] = 4;
     Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
     Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
     Jeu().MeilleursScores[2][3] = {QStringLiteral("Nul"), 0, 77};
     Jeu().MeilleursScores[2][4] = {QStringLiteral("Lou"), -4321, 42};
-    ScoresAffichés().NiveauAffiché = 2;
+    ScoresAffichés().NiveauAffiché = TNiveau::Moyen;
     EXPECT_EQ(Vu(AffichageScores()), (std::vector<std::string>{"Niveau moyen", "Zoé|812345|1h02mn05s",
                                                                "Marc-André Weißmüller|1500|2mn05s", "||", "Lou|-4321|42s"}));
-    ScoresAffichés().NiveauAffiché = 4;
+    ScoresAffichés().NiveauAffiché = TNiveau::Expert;
     EXPECT_EQ(Vu(AffichageScores()), std::vector<std::string>{"Expert"});
     EXPECT_EQ(boîtes.journal.size(), 1u) << "a level chosen asks nothing";
 }
 
 TEST_F(Meilleurs, EnterOnTheFocusedCloseButtonClosesTheForm)
 {
-    ScoresAffichés().NiveauAffiché = 2;
+    ScoresAffichés().NiveauAffiché = TNiveau::Moyen;
     AffichageScores f;
     f.show();
     QApplication::processEvents();
@@ -111,8 +111,8 @@ TEST_F(Meilleurs, StatisticsAreOfferedAtTheEndOfAGameOnlyAndOpenOverTheList)
     EXPECT_EQ(trouvé, CouleurTrouvé);
     EXPECT_EQ(laissé, CouleurNeutre()) << "a canton left out has no colour";
     // From the menu afterwards, also right after a game that ended normally: no statistics.
-    AfficheMeilleursScores(Numéro(Jeu().Niveau));
-    AfficheMeilleursScores(1);
+    AfficheMeilleursScores(Jeu().Niveau);
+    AfficheMeilleursScores(TNiveau::Facile);
     EXPECT_EQ(bouton, (std::vector<bool>{true, false, false}));
 }
 

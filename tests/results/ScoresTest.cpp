@@ -171,7 +171,7 @@ TEST_F(Store, RankingIntoTheBestTen)
     for (int i = 0; i <= 9; ++i)
         Termine(2, 500 + 10 * i, 100);
     EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::BravoTopTen));
-    EXPECT_TRUE(FormesMontrées().back() == "AffichageScores" && ScoresAffichés().NiveauAffiché == 2) << "the list of the game's level follows";
+    EXPECT_TRUE(FormesMontrées().back() == "AffichageScores" && ScoresAffichés().NiveauAffiché == TNiveau::Moyen) << "the list of the game's level follows";
     ASSERT_EQ(Jeu().NombreScores[2], 10);
     EXPECT_EQ(Jeu().MeilleursScores[2][1].Points, 590);
 

@@ -71,7 +71,7 @@ TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
         E.Bouton[b]->show(), Tape(E, E.Bouton[b], Qt::Key_F1);
     E.MenuAide->trigger();
     Tape(E, E.Bouton[3], Qt::Key_F1);
-    ScoresAffichés().NiveauAffiché = 1;
+    ScoresAffichés().NiveauAffiché = TNiveau::Facile;
     Jeu().CantonFiche = 6;
     DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
     const std::vector<std::function<QDialog *()>> formes = {
