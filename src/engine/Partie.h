@@ -10,23 +10,18 @@ using i16 = std::int16_t;
 using i32 = std::int32_t;
 using u8 = std::uint8_t;
 
-// Booleans as the game's files store them.
-constexpr i16 True = -1;
-constexpr i16 False = 0;
-inline i16 Booléen(bool b) { return b ? True : False; }
-
 struct TCanton {
     i16 PaysHaut = 0;
     i16 PaysGauche = 0;
-    i16 Trouvé = False;
+    i16 Trouvé = false;
     i16 VilleHaut = 0;
     i16 VilleGauche = 0;
     QString Nom;
     QString ChefLieu;
-    i16 Inhibé = False;
+    i16 Inhibé = false;
     u8 Région = 0;
     i32 Pertes[5] = {0, 0, 0, 0, 0};
-    i16 Réussi[5] = {False, False, False, False, False};
+    bool Réussi[5] = {};
 };
 
 constexpr int NombrePlaces = 26;

@@ -85,14 +85,14 @@ void DébutEtape(Partie &P)
     for (int i = 1; i <= NombrePlaces; ++i) {
         TCanton &c = P.Cantons[i];
         if (c.Inhibé) {
-            c.Trouvé = True;
+            c.Trouvé = true;
         } else {
-            c.Trouvé = False;
+            c.Trouvé = false;
             P.RestantsEtape = P.RestantsEtape + 1;
             P.NombreCantons = P.NombreCantons + 1;
         }
         if (P.Etape < TEtape::ParamétrageModifié)
-            c.Réussi[Numéro(P.Etape)] = False;
+            c.Réussi[Numéro(P.Etape)] = false;
     }
     P.ErreursQuestion = 0;
     P.PartieEnregistrée = false;
@@ -187,7 +187,7 @@ void TraiteClic(Partie &P, i16 c, i16 x, i16 y)
     if (EtapeDeJeu(P.Etape))
         P.PartieVierge = false;
     if (P.Etape == TEtape::ParamétrageModifié) {
-        P.Cantons[c].Trouvé = Booléen(!P.Cantons[c].Trouvé);
+        P.Cantons[c].Trouvé = !P.Cantons[c].Trouvé;
         Vue(P).PlaceRond(c);
         return;
     }
@@ -227,16 +227,16 @@ void BonneRéponse(Partie &P)
     if (P.Niveau == TNiveau::Facile) {
         Vue(P).MontreBoutonPasse(false);
         if (!P.AssistanceUtilisée)
-            P.Cantons[c].Trouvé = True;
+            P.Cantons[c].Trouvé = true;
     } else {
-        P.Cantons[c].Trouvé = True;
+        P.Cantons[c].Trouvé = true;
     }
     Vue(P).MontreCanton(c);
     if (!P.AssistanceUtilisée) {
         Vue(P).PlaceRond(c);
         P.RestantsEtape = P.RestantsEtape - 1;
         if (P.Etape >= TEtape::Cantons && P.Etape <= TEtape::Plaques)
-            P.Cantons[c].Réussi[Numéro(P.Etape)] = True;
+            P.Cantons[c].Réussi[Numéro(P.Etape)] = true;
         Vue(P).AfficheRestants(P.RestantsEtape);
         if (P.RestantsEtape == 0) {
             FinEtape(P);

@@ -6,6 +6,11 @@
 #include <QByteArray>
 #include <type_traits>
 
+// Booleans as the files store them.
+constexpr i16 True = -1;
+constexpr i16 False = 0;
+inline i16 Booléen(bool b) { return b ? True : False; }
+
 constexpr int TailleEnregistrement = 128;
 // A String's text must fit its record with its length.
 constexpr int LongueurChaîneMax = TailleEnregistrement - 2;

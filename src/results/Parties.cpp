@@ -65,9 +65,9 @@ QByteArray ContenuPartie(const QString &FichierNoté)
     p.Apprentissage = Jeu().ModeApprentissage;
     p.Score = Jeu().Score;
     for (int i = 1; i <= NombrePlaces; ++i) {
-        p.Trouvé[i] = Jeu().Cantons[i].Trouvé != False;
+        p.Trouvé[i] = Jeu().Cantons[i].Trouvé;
         for (int j = 0; j <= 4; ++j) {
-            p.Réussi[i][j] = Jeu().Cantons[i].Réussi[j] != False;
+            p.Réussi[i][j] = Jeu().Cantons[i].Réussi[j];
             p.Pertes[i][j] = Jeu().Cantons[i].Pertes[j];
         }
     }
@@ -134,13 +134,13 @@ bool RestaurePartie(const QByteArray &contenu, const QString &dossierPartie)
     Jeu().Score = p.Score;
     Jeu().RestantsEtape = NombrePlaces;
     for (int i = 1; i <= NombrePlaces; ++i) {
-        Jeu().Cantons[i].Trouvé = Booléen(p.Trouvé[i]);
+        Jeu().Cantons[i].Trouvé = p.Trouvé[i];
         if (p.Trouvé[i])
             Jeu().RestantsEtape = Jeu().RestantsEtape - 1;
     }
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int j = 0; j <= 4; ++j) {
-            Jeu().Cantons[i].Réussi[j] = Booléen(p.Réussi[i][j]);
+            Jeu().Cantons[i].Réussi[j] = p.Réussi[i][j];
             Jeu().Cantons[i].Pertes[j] = p.Pertes[i][j];
         }
     Jeu().DuréePartie = p.Durée;

@@ -41,7 +41,7 @@ QByteArray ContenuScores(bool AvecScores)
     for (int i = 1; i <= 4; ++i)
         f.OrdreEtapes[i] = Jeu().OrdreEtapes[i];
     for (int i = 1; i <= NombrePlaces; ++i)
-        f.Inhibé[i] = Jeu().Cantons[i].Inhibé != False;
+        f.Inhibé[i] = Jeu().Cantons[i].Inhibé;
     std::copy(&Jeu().MeilleursScores[0][0], &Jeu().MeilleursScores[0][0] + 5 * 11, &f.Lignes[0][0]);
     std::copy(Jeu().NombreScores, Jeu().NombreScores + 5, f.Nombres);
     return OctetsScores(f, AvecScores);
@@ -65,7 +65,7 @@ bool LitScores(const QByteArray &contenu)
     for (int i = 1; i <= 4; ++i)
         Jeu().OrdreEtapes[i] = f.OrdreEtapes[i];
     for (int i = 1; i <= NombrePlaces; ++i)
-        Jeu().Cantons[i].Inhibé = Booléen(f.Inhibé[i]);
+        Jeu().Cantons[i].Inhibé = f.Inhibé[i];
     std::copy(&f.Lignes[0][0], &f.Lignes[0][0] + 5 * 11, &Jeu().MeilleursScores[0][0]);
     std::copy(f.Nombres, f.Nombres + 5, Jeu().NombreScores);
     return true;
@@ -119,7 +119,7 @@ void ChargeScores()
     for (int i = 1; i <= 4; ++i)
         Jeu().OrdreEtapes[i] = static_cast<TEtape>(i);
     for (int i = 1; i <= NombrePlaces; ++i)
-        Jeu().Cantons[i].Inhibé = False;
+        Jeu().Cantons[i].Inhibé = false;
 }
 
 

@@ -169,10 +169,10 @@ void Stats::RemplitStats(i16 Décalage)
         for (i16 k = 1; k <= 4; ++k) {
             cellules[k]->setText(QString::number(c.Pertes[k]));
             QColor fond;
-            if (c.Réussi[k] != False)
+            if (c.Réussi[k])
                 fond = c.Pertes[k] == 0 ? CouleurTrouvé : CouleurNeutre();
             else
-                fond = c.Inhibé != False ? CouleurNeutre() : CouleurAbsence(k);
+                fond = c.Inhibé ? CouleurNeutre() : CouleurAbsence(k);
             Colore(cellules[k], fond);
         }
     }

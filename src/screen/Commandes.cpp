@@ -113,7 +113,7 @@ void LanceNouvellePartie()
     for (int i = 1; i <= NombrePlaces; ++i)
         for (int k = 0; k <= 4; ++k) {
             Jeu().Cantons[i].Pertes[k] = 0;
-            Jeu().Cantons[i].Réussi[k] = False;
+            Jeu().Cantons[i].Réussi[k] = false;
         }
     Jeu().PartieVierge = true;
     Jeu().ModeRévision = false;

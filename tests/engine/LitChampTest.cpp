@@ -23,7 +23,7 @@ TEST(LitChamp, FieldsBetweenHashesAndTheirLeadingNumbers)
 
 TEST(ChargeCantons, GermanNamesOnTheSamePlacesAndAChangeKeepsWhatTheGameKnows)
 {
-    Jeu().Cantons[6].Trouvé = True, Jeu().Cantons[6].Pertes[2] = 17;
+    Jeu().Cantons[6].Trouvé = true, Jeu().Cantons[6].Pertes[2] = 17;
     auto charge = [](int langue) { Langues().Langue = langue, ChargeChaînes(), ChargeCantons(Jeu()); };
     charge(1);
     const std::vector<TCanton> fr(std::begin(Jeu().Cantons), std::end(Jeu().Cantons));
@@ -37,7 +37,7 @@ TEST(ChargeCantons, GermanNamesOnTheSamePlacesAndAChangeKeepsWhatTheGameKnows)
         EXPECT_TRUE(std::tie(de.PaysGauche, de.PaysHaut, de.VilleGauche, de.VilleHaut, de.Région) ==
                     std::tie(f.PaysGauche, f.PaysHaut, f.VilleGauche, f.VilleHaut, f.Région)) << i;
     }
-    EXPECT_TRUE(berne.Trouvé == True && berne.Pertes[2] == 17 && Jeu().Cantons[0].Trouvé == False);
+    EXPECT_TRUE(berne.Trouvé && berne.Pertes[2] == 17 && !Jeu().Cantons[0].Trouvé);
     charge(1);
-    Jeu().Cantons[6].Trouvé = False, Jeu().Cantons[6].Pertes[2] = 0;
+    Jeu().Cantons[6].Trouvé = false, Jeu().Cantons[6].Pertes[2] = 0;
 }

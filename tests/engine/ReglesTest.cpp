@@ -39,7 +39,7 @@ protected:
         P.ModeApprentissage = P.ScoreGelé = apprentissage;
         DébutEtape(P);
         for (int i = 2; i < 2 + trouvés; ++i, --P.RestantsEtape)
-            P.Cantons[i].Trouvé = True;
+            P.Cantons[i].Trouvé = true;
         QuestionSuivante(P);
         vue.dit.clear();
     }
@@ -111,7 +111,7 @@ TEST_F(Regles, TheDrawTakesTheRthCantonLeftAndNeverTheSameTwiceInARow)
     };
     for (const Cas &c : cas) {
         for (int i = 1; i <= NombrePlaces; ++i)
-            P.Cantons[i].Trouvé = Booléen(std::count(c.restants.begin(), c.restants.end(), i) == 0);
+            P.Cantons[i].Trouvé = std::count(c.restants.begin(), c.restants.end(), i) == 0;
         P.RestantsEtape = i16(c.restants.size()), P.CantonRecherché = c.avant, tirage = c.tirage;
         QuestionSuivante(P);
         EXPECT_EQ(P.CantonRecherché, c.attendu) << c.restants.size() << " left, " << c.avant << " before, draw " << c.tirage;
@@ -122,7 +122,7 @@ TEST_F(Regles, InhibitedCantonsAreFoundFromTheStepsStartSoNeverAskedAndCostNothi
 {
     Commence(TNiveau::Difficile);
     for (int i : {3, 9, 17})
-        P.Cantons[i].Inhibé = True;
+        P.Cantons[i].Inhibé = true;
     DébutEtape(P);
     EXPECT_TRUE(P.NombreCantons == 23 && P.RestantsEtape == 23);
     EXPECT_TRUE(P.Cantons[3].Trouvé && P.Cantons[9].Trouvé && P.Cantons[17].Trouvé && !P.Cantons[4].Trouvé);
@@ -196,7 +196,7 @@ TEST_F(Regles, AClickOnAFoundCantonByStepLevelAndPlace)
     for (const Cas &c : cas) {
         Commence(c.niveau, c.apprentissage);
         ASSERT_TRUE(LitCarteZones(RasterBandes(), P.Carte));
-        P.Etape = c.étape, P.Cantons[4].Trouvé = True;
+        P.Etape = c.étape, P.Cantons[4].Trouvé = true;
         c.rond ? rond_Click(P, 4) : CliqueCarte(P, 0, 620, 59);
         const std::string quoi = QString::asprintf("step %d level %d dot %d", Numéro(c.étape), Numéro(c.niveau), c.rond).toStdString();
         EXPECT_TRUE(999999 - P.Score == c.coût && P.ErreursQuestion == c.coût) << quoi;

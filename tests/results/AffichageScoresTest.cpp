@@ -89,7 +89,7 @@ TEST_F(Meilleurs, StatisticsAreOfferedAtTheEndOfAGameOnlyAndOpenOverTheList)
     Jeu().OrdreEtapes[1] = TEtape::Cantons;
     Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     for (int i = 1; i <= NombrePlaces; ++i)
-        Jeu().Cantons[i].Inhibé = Booléen(i != 3);
+        Jeu().Cantons[i].Inhibé = i != 3;
     std::vector<bool> bouton;
     QColor trouvé, laissé;
     InstalleFormesModales([&](QDialog &d) {

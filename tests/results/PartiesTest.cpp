@@ -76,9 +76,9 @@ TEST_F(Sauvegarde, WrittenRecordByRecordAndAnUnsavedSetTravelsInTheFile)
     EXPECT_EQ(std::vector<int>({Entier(o, 2), Entier(o, 4), Entier(o, 6), Entier(o, 7), Long(o, 8), Long(o, 295)}),
               std::vector<int>({1, 3, 3, 0, Jeu().Score, 3725}));
     for (int i = 1; i <= 26; ++i) {
-        EXPECT_EQ(std::vector<int>({Entier(o, 8 + i), Entier(o, 8 + i, 2)}), std::vector<int>({i, Jeu().Cantons[i].Trouvé}));
+        EXPECT_EQ(std::vector<int>({Entier(o, 8 + i), Entier(o, 8 + i, 2)}), std::vector<int>({i, -int(Jeu().Cantons[i].Trouvé)}));
         for (int j = 0; j <= 4; ++j) {
-            EXPECT_EQ(Entier(o, 35 + 10 * (i - 1) + 2 * j), Jeu().Cantons[i].Réussi[j]);
+            EXPECT_EQ(Entier(o, 35 + 10 * (i - 1) + 2 * j), -int(Jeu().Cantons[i].Réussi[j]));
             EXPECT_EQ(Long(o, 36 + 10 * (i - 1) + 2 * j), Jeu().Cantons[i].Pertes[j]);
         }
     }

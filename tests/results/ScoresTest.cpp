@@ -126,7 +126,7 @@ protected:
 TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToTheDefault)
 {
     Jeu().OrdreEtapes[1] = TEtape::Plaques;
-    Jeu().Cantons[5].Inhibé = True;
+    Jeu().Cantons[5].Inhibé = true;
     Jeu().NombreScores[2] = 1;
     Jeu().MeilleursScores[2][1] = {"Max", 7, 8};
     ASSERT_TRUE(EcritFichierScores(true));
@@ -137,7 +137,7 @@ TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToT
     Ecrit(Réglages().FichierLancement, Octets{}.Tête(4, 1, 0, 0, {3}, "Version 6.12 du 01/02/2011", 2).Ligne("Lou", 9, 9, 2).o);
     ChargeScores();
     EXPECT_TRUE(boîtes.journal.empty());
-    EXPECT_EQ(Ensemble(), std::vector<int>({4, 1, 0, 0, True, False, 1, 0}));
+    EXPECT_EQ(Ensemble(), std::vector<int>({4, 1, 0, 0, 1, 0, 1, 0}));
 
     // The default file's set and lists are taken in place of a bad file's; a bad default file too gives the default set.
     const QString défaut = ComposeChemin(Réglages().RépertoireSauvegarde, "KELMOR.SCS"), abîmé = dossier.filePath("abime.SCS");
@@ -154,7 +154,7 @@ TEST_F(Store, TheFileGoesInWholeAndAnotherMajorVersionOrADamagedFileFallsBackToT
         ASSERT_EQ(boîtes.journal.size(), défautBon ? 1u : 2u);
         EXPECT_EQ(boîtes.journal[0].texte, abîmé + " : " + Message(TMessage::FichierNonInterprétable));
         EXPECT_EQ(Réglages().FichierLancement, défaut);
-        EXPECT_EQ(Ensemble(), défautBon ? std::vector<int>({2, 1, 0, 0, False, True, 0, 1}) : std::vector<int>({1, 2, 3, 4, False, False, 0, 0}));
+        EXPECT_EQ(Ensemble(), défautBon ? std::vector<int>({2, 1, 0, 0, 0, 1, 0, 1}) : std::vector<int>({1, 2, 3, 4, 0, 0, 0, 0}));
     }
     // No file at all: no message, nothing created.
     QFile::remove(défaut);
@@ -203,7 +203,7 @@ TEST_F(Store, RankingIntoTheBestTen)
 TEST_F(Store, ResetKeepsTheSetAndAnUnwritableFileIsTold)
 {
     Jeu().OrdreEtapes[1] = TEtape::Drapeaux, Jeu().OrdreEtapes[2] = TEtape::Cantons, Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
-    Jeu().Cantons[7].Inhibé = True;
+    Jeu().Cantons[7].Inhibé = true;
     Termine(1, 800, 10);
     boîtes.réponses = {RéponseOui};
     ConfirmeRazScores();

@@ -30,7 +30,7 @@ TEST_F(Statistiques, TheCostliestFirstAndEqualLossesInTheOrderOfTheNumbers)
 {
     for (auto [c, p] : {std::pair{3, 10}, {7, 10}, {1, 4}, {20, 10}, {26, 50}, {25, 4}})
         Jeu().Cantons[c].Pertes[0] = p;
-    Jeu().Cantons[2].Inhibé = True; // left out: takes part with its 0
+    Jeu().Cantons[2].Inhibé = true; // left out: takes part with its 0
     TriePertes();
     EXPECT_EQ(std::vector<int>(ScoresAffichés().TriPertes + 1, ScoresAffichés().TriPertes + NombrePlaces + 1),
               (std::vector<int>{26, 3, 7, 20, 1, 25, 2, 4, 5, 6, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 21, 22, 23, 24}));
@@ -66,10 +66,10 @@ TEST_F(Statistiques, GreenAtTheFirstTryRedWhenNeverFoundNeutralOtherwise)
     ASSERT_TRUE(CouleurNeutre() != CouleurAbsent && CouleurNeutre() != CouleurTrouvé);
     // Canton 5: cantons at once, its town after errors, its plates never found (the game stopped).
     Pertes(5, 0, 3, 0, 0);
-    Jeu().Cantons[5].Réussi[1] = Jeu().Cantons[5].Réussi[2] = True;
+    Jeu().Cantons[5].Réussi[1] = Jeu().Cantons[5].Réussi[2] = true;
     // Canton 8: its plates found after errors, the rest never asked.
     Pertes(8, 0, 0, 0, 2);
-    Jeu().Cantons[8].Réussi[4] = True;
+    Jeu().Cantons[8].Réussi[4] = true;
 
     Stats s;
     ASSERT_EQ(s.NomPays[1]->text(), Jeu().Cantons[5].Nom);

@@ -20,11 +20,11 @@ TEST_F(Marques, EveryStepAndLevelShowsBordersInvertedBordersAndDotsByItsTable)
     auto &E = Principal();
     for (int niveau = 1; niveau <= 4; ++niveau)
         for (int étape = 1; étape <= 4; ++étape) {
-            Jeu().Cantons[9].Inhibé = True; // left out
+            Jeu().Cantons[9].Inhibé = true; // left out
             NouvellePartieAuNiveau(niveau);
             Jeu().Etape = static_cast<TEtape>(étape);
             DébutEtape(Jeu());
-            Jeu().Cantons[4].Trouvé = True; // found
+            Jeu().Cantons[4].Trouvé = true; // found
             MontreCantons();
             for (int c : {4, 9, 17}) {
                 // S: found or left out, I: left out. The first step shows what is found, the

@@ -104,7 +104,7 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyListsAndItsOrderIsPlayed)
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
     EXPECT_EQ(Réglages().FichierLancement, dossier.filePath("plaques.SCS"));
-    EXPECT_TRUE(Jeu().Cantons[25].Inhibé == True && Jeu().Cantons[3].Inhibé == False);
+    EXPECT_TRUE(Jeu().Cantons[25].Inhibé && !Jeu().Cantons[3].Inhibé);
     EXPECT_EQ(Jeu().NombreScores[1], 0);
     EXPECT_EQ(QFileInfo(Réglages().FichierLancement).size(), 34 * 128) << "the set alone, without lists";
     NouvellePartieAuNiveau(2);
@@ -143,7 +143,7 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_TRUE(std::none_of(std::begin(Jeu().Cantons), std::end(Jeu().Cantons), [](const TCanton &c) { return c.Trouvé == True; }));
+    EXPECT_TRUE(std::none_of(std::begin(Jeu().Cantons), std::end(Jeu().Cantons), [](const TCanton &c) { return c.Trouvé; }));
     EXPECT_TRUE(Principal().MenuFichier->isEnabled());
     EXPECT_TRUE(Principal().LBLParam[1]->isHidden());
 
