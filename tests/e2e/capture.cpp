@@ -7,13 +7,9 @@
 int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
-    if (argc < 2) {
-        std::fprintf(stderr, "usage: capture FILE.png\n");
-        return 2;
-    }
     QScreen *écran = QGuiApplication::primaryScreen();
-    if (!écran || !écran->grabWindow(0).save(QString::fromLocal8Bit(argv[1]))) {
-        std::fprintf(stderr, "capture: no screen to grab\n");
+    if (argc != 2 || !écran || !écran->grabWindow(0).save(QString::fromLocal8Bit(argv[1]))) {
+        std::fprintf(stderr, "capture FILE.png: no X screen to grab, or the file can not be written\n");
         return 1;
     }
     return 0;

@@ -7,6 +7,7 @@
 #include "services/Sons.h"
 #include "screen/Commandes.h"
 #include "screen/EcranPrincipal.h"
+#include "results/PartieEnCours.h"
 #include <QAction>
 
 namespace {
