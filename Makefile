@@ -34,7 +34,7 @@ fuzz:
 	./scripts/install-deps clang libclang-rt-14-dev
 	CC=clang CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELMOR_FUZZ=ON
 	cmake --build build-fuzz -j $(JOBS) --target FuzzCarteZones FuzzScores FuzzPartie FuzzRegistre FuzzFiches FuzzPage
-	$(call FUZZ,FuzzCarteZones,-max_len=20000)
+	$(call FUZZ,FuzzCarteZones,-max_len=20000 -seed_inputs=$(CURDIR)/data/KELMOR.pts)
 	$(call FUZZ,FuzzScores,-max_len=12000)
 	# The main window lives to the end of that run: Qt's own allocations at exit aren't leaks of ours.
 	$(call FUZZ,FuzzPartie,-max_len=45000,ASAN_OPTIONS=detect_leaks=0)
