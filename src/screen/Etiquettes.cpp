@@ -105,6 +105,12 @@ void ChangeLangue(int n)
     CacheZoneJeu();
     MontreCantons();
     AffichePanneau();
+    // The question under way goes on in the new language, with the help it had earned.
+    if (EtapeDeJeu(Jeu().Etape)) {
+        auto &E = Principal();
+        E.BoutonPasse->setVisible(Jeu().Niveau == TNiveau::Facile && !Jeu().ModeApprentissage && Jeu().ErreursQuestion >= 1);
+        E.BoutonGruge->setVisible(Jeu().ModeApprentissage && Jeu().ErreursQuestion >= 3);
+    }
     EcritValeur(CléJeu, QStringLiteral("langue"), QLatin1Char(' ') + QString::number(Langues().Langue));
     if (Jeu().Etape == TEtape::Révision) {
         auto &E = Principal();

@@ -102,7 +102,8 @@ TEST_F(Partie, TheMapThePassTheBulbAndLeavingDoWhatTheRulesSay)
     RépondJuste();
     EXPECT_TRUE(E.Pays[c]->Visible() && !E.inv[c]->Visible()) << "a canton found at Facile shows";
     RépondFaux();
-    ASSERT_TRUE(E.BoutonPasse->Visible());
+    ChangeLangue(2), ChangeLangue(1);
+    ASSERT_TRUE(E.BoutonPasse->Visible()) << "the pass stays through a change of language";
     E.BoutonPasse->click();
     EXPECT_TRUE(Jeu().Score == 999999 - 87381 && !E.BoutonPasse->Visible());
     // Leaving a game once a click was made asks first, and No keeps it.
@@ -115,6 +116,7 @@ TEST_F(Partie, TheMapThePassTheBulbAndLeavingDoWhatTheRulesSay)
     const i16 demandé = Jeu().CantonRecherché;
     for (int e = 0; e < 3; ++e)
         RépondFaux();
+    ChangeLangue(2), ChangeLangue(1);
     ASSERT_TRUE(E.BoutonGruge->Visible());
     E.BoutonGruge->click();
     EXPECT_TRUE(Jeu().AssistanceUtilisée);
