@@ -33,26 +33,6 @@ void Essaie(const QByteArray &octets)
         Vérifie(ExtraitDate(ligne).isValid());
     }
     if (page.size() > LongueurMaxPage)
-<<<<<<< HEAD
-        return 0; // refused whole, as the fetch does
-    Famille().JeuxFamille = connus;
-    Famille().NombreJeux = i16(connus.size() - 1);
-    LitListePage(page);
-    if (Famille().NombreJeux != qsizetype(Famille().JeuxFamille.size()) - 1 ||
-        Famille().NombreJeux - qsizetype(connus.size() - 1) > page.count(QStringLiteral("<!--")))
-        __builtin_trap();
-    for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
-        const TJeu &jeu = Famille().JeuxFamille[i];
-        if (IndiceJeu(jeu.Nom) != i)
-            __builtin_trap();
-        if (i < i16(connus.size())) {
-            if (jeu.VersionDisponible < connus[i].VersionDisponible || jeu.DateDisponible < connus[i].DateDisponible)
-                __builtin_trap();
-        } else if (!Champ(jeu.Nom) || !Champ(jeu.VersionDisponible) || !Champ(jeu.Description) ||
-                   !jeu.DateDisponible.isValid() || !jeu.VersionInstallée.isEmpty()) {
-            __builtin_trap();
-        }
-=======
         return; // refused whole, as the fetch does
     Famille().JeuxFamille = connus;
     Famille().NombreJeux = i16(connus.size() - 1);
@@ -67,7 +47,6 @@ void Essaie(const QByteArray &octets)
         else
             Vérifie(Champ(jeu.Nom) && Champ(jeu.VersionDisponible) && Champ(jeu.Description) &&
                     jeu.DateDisponible.isValid() && jeu.VersionInstallée.isEmpty());
->>>>>>> recoupe-bord
     }
     boîtes.journal.clear();
     AfficheRappel();
