@@ -9,28 +9,11 @@
 // path is too long or its root unknown) or −2 (the key is there but the value
 // can't be read or written; for CréeClé, a root other than HKEY_CURRENT_USER).
 //
-// The keys live in one UTF-8 file of the user's configuration folder, rewritten
-// whole through a temporary file at every change:
-//
-//     [HKEY_CURRENT_USER\Software\Globarium\Kelmor]
-//     "version"="Version 6.07 du 30/07/2008"
-//     "langue"=" 2"
-//     @="the key's default value"
-//
-// A section with no values is a key that exists all the same. In quoted names and
-// values \\ \" \n \r \t and \xHH stand for themselves. A line that can't be read
-// is passed over, so a damaged file gives what it still holds.
-#include "engine/communs.h"
+// The keys live in one file of the user's configuration folder (its text: see
+// files/FichierRegistre.h), rewritten whole through a temporary file at every change.
+#include "files/FichierRegistre.h"
 
 #include <QString>
-
-// The roots, by the numbers that the desktop gives them; a handle on a root is its number.
-constexpr i32 HKEY_CLASSES_ROOT = i32(0x80000000u);
-constexpr i32 HKEY_CURRENT_USER = i32(0x80000001u);
-constexpr i32 HKEY_LOCAL_MACHINE = i32(0x80000002u);
-constexpr i32 HKEY_USERS = i32(0x80000003u);
-constexpr i32 HKEY_PERFORMANCE_DATA = i32(0x80000004u);
-constexpr i32 HKEY_CURRENT_CONFIG = i32(0x80000005u);
 
 // The longest value that a read gives back: the shared buffer has 256 bytes.
 constexpr int LongueurMaxValeur = 255;
