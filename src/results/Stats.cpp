@@ -1,5 +1,6 @@
 #include "results/Stats.h"
 
+#include "files/FichierStats.h"
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
@@ -50,7 +51,6 @@ void Colore(Etiquette *e, const QColor &fond)
 }
 
 // Blanks or, on every fourth line, hyphens, that lead the eye along the table.
-QString Bourrage(int n, QChar c) { return n > 0 ? QString(n, c) : QString(); }
 
 } // namespace
 
@@ -180,32 +180,20 @@ void Stats::RemplitStats(i16 Décalage)
 
 QByteArray ContenuStats()
 {
-    int L = 0;
-    for (int i = 1; i <= NombrePlaces; ++i)
-        L = std::max<int>(L, Jeu().Cantons[i].Nom.size());
-    const QString &fin = FinDeLigne;
-    const QString tirets = Bourrage(L, QLatin1Char('-'));
-    const QChar tab = QLatin1Char('\t');
-
-    QString t;
-    t += Message(TMessage::PoliceCourier) + fin;
-    t += tirets + fin;
-    t += fin;
-    t += Message(TMessage::NomDuJeu) + QStringLiteral(", ") + Message(TMessage::VersionDuJeu) + fin;
-    t += tirets + fin;
-    t += fin;
-    t += Bourrage(L + 5, QLatin1Char(' ')) + tab + Message(TMessage::Cantons) + QLatin1Char('/') + Message(TMessage::ChefsLieux) + QLatin1Char('/') +
-         Message(TMessage::Drapeaux) + QLatin1Char('/') + Message(TMessage::Plaques) + fin;
+    TEntêteStats entête;
+    entête.Police = Message(TMessage::PoliceCourier);
+    entête.Titre = Message(TMessage::NomDuJeu) + QStringLiteral(", ") + Message(TMessage::VersionDuJeu);
+    const TMessage colonnes[] = {TMessage::Cantons, TMessage::ChefsLieux, TMessage::Drapeaux, TMessage::Plaques};
+    for (int k = 1; k <= 4; ++k)
+        entête.Colonnes[k] = Message(colonnes[k - 1]);
+    std::vector<TLigneStats> lignes;
     for (int n = 1; n <= NombrePlaces; ++n) {
         const TCanton &c = Jeu().Cantons[ScoresAffichés().TriPertes[n]];
-        const QChar guide = n % 4 == 0 ? QLatin1Char('-') : QLatin1Char(' ');
-        t += c.Nom + Bourrage(L - int(c.Nom.size()) + 5, guide);
-        t += tab + QString::number(c.Pertes[1]);
-        for (int k = 2; k <= 4; ++k)
-            t += QString(tab) + guide + QString::number(c.Pertes[k]);
-        t += fin;
+        TLigneStats &l = lignes.emplace_back();
+        l.Nom = c.Nom;
+        std::copy(std::begin(c.Pertes), std::end(c.Pertes), l.Pertes);
     }
-    return VersAnsi(t);
+    return OctetsStats(entête, lignes);
 }
 
 void Stats::BoutonSauvegarde_Click()
