@@ -5,6 +5,7 @@
 #include <algorithm>
 
 namespace {
+// Blanks or, on every fourth line, hyphens, that lead the eye along the table.
 QString Bourrage(int n, QChar c) { return n > 0 ? QString(n, c) : QString(); }
 } // namespace
 

@@ -50,8 +50,6 @@ void Colore(Etiquette *e, const QColor &fond)
     e->setPalette(p);
 }
 
-// Blanks or, on every fourth line, hyphens, that lead the eye along the table.
-
 } // namespace
 
 void TriePertes()
