@@ -2,7 +2,7 @@
 // The game's one file dialog: it names or picks a saved game or a parameter set,
 // and carries the operation out.
 #include "engine/communs.h"
-#include "services/ParametrageRepertoires.h"
+#include "screen/ParametrageRepertoires.h"
 
 #include <QDialog>
 

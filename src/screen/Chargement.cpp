@@ -16,7 +16,7 @@
 #include "services/Fiches.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
-#include "services/Patience.h"
+#include "screen/Patience.h"
 #include "services/Sons.h"
 #include "results/PartieEnCours.h"
 

@@ -6,7 +6,7 @@
 #include "platform/Formes.h"
 #include "platform/Images.h"
 #include "services/Aide.h"
-#include "services/Patience.h"
+#include "screen/Patience.h"
 #include "results/PartieEnCours.h"
 
 #include <QApplication>

@@ -14,11 +14,12 @@
 #include "screen/EcranPrincipal.h"
 #include "screen/Etiquettes.h"
 #include "screen/Parametrage.h"
+#include "screen/ParametrageRepertoires.h"
 #include "screen/VueJeu.h"
 #include "services/Donnees.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
-#include "services/Patience.h"
+#include "screen/Patience.h"
 #include "services/Sons.h"
 #include "results/PartieEnCours.h"
 
@@ -124,6 +125,8 @@ void RelieEcranPrincipal(EcranPrincipal &E)
 
 bool Main()
 {
+    // A first run asks for the game's folder before the window is there.
+    InstalleChoixDossier(MontreParamétrageRépertoires);
     FenêtreAjustée().HauteurFenêtre = 0;
     FenêtreAjustée().LargeurFenêtre = 0;
     Réglages().RépertoireApplication = DossierProgramme();

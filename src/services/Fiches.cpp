@@ -4,7 +4,7 @@
 #include "files/FichierEnregistrements.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
-#include "services/ParametrageRepertoires.h"
+#include "services/Dossiers.h"
 #include "services/Parametres.h"
 
 #include <QFile>
@@ -88,8 +88,7 @@ void CréeFichierInfo(const Partie &P, int langue)
     if (!RépertoireAccessible(Réglages().RépertoireInfo)) {
         Boîte(Message(TMessage::RépertoireNonInscriptible) + QStringLiteral(" (") + Réglages().RépertoireInfo + QLatin1Char(')'), StyleInformation, Message(TMessage::TitreErreur));
         Boîte(Message(TMessage::ChoisirRépertoireInfo), StyleInformation, Message(TMessage::TitreChoixRépertoire));
-        DemandeDossier().ModeRépertoires = TModeRépertoires::DossierInformation;
-        MontreParamétrageRépertoires();
+        ChoisitDossier(TModeRépertoires::DossierInformation);
     }
     // The folder chosen may hold a file already written.
     if (QFileInfo::exists(Langues().CheminsInfo[langue]))

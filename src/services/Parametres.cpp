@@ -4,7 +4,7 @@
 #include "services/Chemins.h"
 #include "services/Langues.h"
 #include "services/MisesAJour.h"
-#include "services/ParametrageRepertoires.h"
+#include "services/Dossiers.h"
 #include "services/Registre.h"
 #include "services/Sons.h"
 #include "services/TableChaines.h"
@@ -43,8 +43,7 @@ int ValeurNumérique(const QString &texte)
 void DemandeRépertoireSauvegarde()
 {
     Boîte(Message(TMessage::ChoisirRépertoireScores), StyleInformation, Message(TMessage::TitreChoixRépertoire));
-    DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
-    MontreParamétrageRépertoires();
+    ChoisitDossier(TModeRépertoires::DossierJeu);
 }
 
 // The current folder is where the bare name of the score file is found. A folder

@@ -9,7 +9,7 @@
 #include "screen/Pompe.h"
 #include "services/Aide.h"
 #include "services/Langues.h"
-#include "services/ParametrageRepertoires.h"
+#include "screen/ParametrageRepertoires.h"
 #include "results/PartieEnCours.h"
 
 #include <QDir>

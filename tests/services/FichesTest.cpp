@@ -11,7 +11,7 @@
 #include "screen/Edition.h"
 #include "services/Fiches.h"
 #include "services/Langues.h"
-#include "services/ParametrageRepertoires.h"
+#include "screen/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "screen/Pompe.h"
 #include "results/PartieEnCours.h"

@@ -6,7 +6,7 @@
 #include "platform/Ecran.h"
 #include "platform/Formes.h"
 #include "services/Langues.h"
-#include "services/ParametrageRepertoires.h"
+#include "screen/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "screen/EcranPrincipal.h"

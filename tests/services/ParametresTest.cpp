@@ -8,7 +8,7 @@
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
 #include "services/MisesAJour.h"
-#include "services/ParametrageRepertoires.h"
+#include "screen/ParametrageRepertoires.h"
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/TableChaines.h"

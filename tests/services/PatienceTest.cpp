@@ -4,7 +4,7 @@
 #include "platform/Ecran.h"
 #include "screen/EcranPrincipal.h"
 #include "services/Langues.h"
-#include "services/Patience.h"
+#include "screen/Patience.h"
 
 #include <QLabel>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "services/Patience.h"
+#include "screen/Patience.h"
 
 #include "platform/Controles.h"
 #include "platform/Ecran.h"

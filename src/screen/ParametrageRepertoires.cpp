@@ -1,4 +1,4 @@
-#include "services/ParametrageRepertoires.h"
+#include "screen/ParametrageRepertoires.h"
 
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
@@ -19,11 +19,6 @@
 #include <QStorageInfo>
 #include <QStyle>
 
-TDemandeDossier &DemandeDossier()
-{
-    static TDemandeDossier demande;
-    return demande;
-}
 
 namespace {
 const QString Parent = QStringLiteral("..");

@@ -1,7 +1,7 @@
 #pragma once
 // The form where the player chooses, or makes, the folder of scores, parameter sets
 // and saved games, or the folder of the information files.
-#include "engine/communs.h"
+#include "services/Dossiers.h"
 
 #include <QDialog>
 #include <QString>
@@ -13,27 +13,6 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
-
-// What the file dialog or the folder form is opened for, set by the caller just before.
-enum class TModeRépertoires : i16 {
-    Aucun = 0,
-    Sauvegarde = 1,           // a game or a parameter set saved under a new name
-    Chargement = 2,           // a saved game or a parameter set loaded
-    SauvegardeAvecScores = 3, // the parameter set in use saved under a new name, scores included
-    DossierInformation = 6,   // the folder of the information cards
-    DossierJeu = 7,           // the folder of scores, parameter sets and saved games
-};
-// The kind of file the file dialog works on.
-enum class TTypeFichier : i16 { Partie = 4, Paramétrage = 5 };
-// What the file dialog or the folder form is asked for, set by the caller just before.
-struct TDemandeDossier {
-    TModeRépertoires ModeRépertoires = TModeRépertoires::Aucun;
-    TTypeFichier TypeFichier = TTypeFichier::Partie;
-    // The parameter set being saved must become the one used at the next starts.
-    bool LancementDemandé = false;
-    bool SortieParamétrage = false;
-};
-TDemandeDossier &DemandeDossier();
 
 class ParamétrageRépertoires : public QDialog {
 public:
