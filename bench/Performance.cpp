@@ -49,6 +49,7 @@ void Prépare()
 void BM_TestDeZone(benchmark::State &state)
 {
     Prépare();
+    Réglages().RépertoireDonnées = DossierDonnées();
     Réglages().RépertoireApplication = DossierProgramme();
     LitParamètres(Jeu());
     if (!ChargeCarteZones(Jeu().Carte)) {

@@ -20,6 +20,7 @@
 #include "services/Sons.h"
 #include "results/PartieEnCours.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLayout>
 
@@ -42,7 +43,7 @@ void ChargeEcranPrincipal()
     E.setTop(0);
     PointeurEcran(PointeurSablier);
     EtiquetteEcran();
-    Langues().FichierAide = ComposeChemin(Réglages().RépertoireApplication, Langues().NomsFichiersAide[Langues().Langue]);
+    Langues().FichierAide = ComposeChemin(Réglages().RépertoireDonnées, Langues().NomsFichiersAide[Langues().Langue]);
     ChargeScores();
     E.HauteurVignette = static_cast<i16>(E.ImageRecherchée->Height());
     E.LargeurVignette = static_cast<i16>(E.ImageRecherchée->Width());
@@ -69,11 +70,11 @@ void ChargeEcranPrincipal()
     }
     ChargeImagesPays();
 
-    SonsJeu().SonErreur = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_er.wav"));
-    SonsJeu().SonBravo = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_ok.wav"));
-    SonsJeu().SonEtape = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_ga.wav"));
-    SonsJeu().SonPerdu = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_pe.wav"));
-    SonsJeu().SonInfo = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("carte_hl.wav"));
+    SonsJeu().SonErreur = ComposeChemin(Réglages().RépertoireDonnées, QStringLiteral("carte_er.wav"));
+    SonsJeu().SonBravo = ComposeChemin(Réglages().RépertoireDonnées, QStringLiteral("carte_ok.wav"));
+    SonsJeu().SonEtape = ComposeChemin(Réglages().RépertoireDonnées, QStringLiteral("carte_ga.wav"));
+    SonsJeu().SonPerdu = ComposeChemin(Réglages().RépertoireDonnées, QStringLiteral("carte_pe.wav"));
+    SonsJeu().SonInfo = ComposeChemin(Réglages().RépertoireDonnées, QStringLiteral("carte_hl.wav"));
 
     Jeu().Niveau = TNiveau::Aucun;
 
@@ -88,10 +89,18 @@ void ChargeEcranPrincipal()
         if (Jeu().Cantons[i].Région == 0)
             E.rond[i]->raise();
 
-    // A missing card file is made anew; whatever fails here, the game starts without cards.
+    // A missing card file is first copied from the cards the game ships, so that the player
+    // edits a copy of their own; without those it is made anew. Whatever fails here, the
+    // game starts without cards.
     for (int i = 1; i <= Langues().NombreLangues; ++i) {
         Langues().CheminsInfo[i] = ComposeChemin(Réglages().RépertoireInfo, Langues().NomsFichiersInfo[i]);
-        if (!QFileInfo::exists(Langues().CheminsInfo[i]))
+        const QString livrées = ComposeChemin(Réglages().RépertoireDonnées, Langues().NomsFichiersInfo[i]);
+        const QString &chemin = Langues().CheminsInfo[i];
+        if (QFileInfo::exists(chemin))
+            continue;
+        if (QFile::copy(livrées, chemin)) // a copy keeps the shipped file's read-only mode
+            QFile::setPermissions(chemin, QFile::permissions(chemin) | QFile::WriteOwner);
+        else
             CréeFichierInfo(Jeu(), i);
     }
 

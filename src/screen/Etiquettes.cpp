@@ -99,7 +99,7 @@ void ChangeLangue(int n)
     ChargeImagesPays();
     ChargeMessages();
     ChargeCantons(Jeu());
-    Langues().FichierAide = ComposeChemin(Réglages().RépertoireApplication, Langues().NomsFichiersAide[Langues().Langue]);
+    Langues().FichierAide = ComposeChemin(Réglages().RépertoireDonnées, Langues().NomsFichiersAide[Langues().Langue]);
     EtiquetteEcran();
     CacheMarques();
     CacheZoneJeu();

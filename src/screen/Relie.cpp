@@ -129,6 +129,7 @@ bool Main()
     InstalleChoixDossier(MontreParamétrageRépertoires);
     FenêtreAjustée().HauteurFenêtre = 0;
     FenêtreAjustée().LargeurFenêtre = 0;
+    Réglages().RépertoireDonnées = DossierDonnées();
     Réglages().RépertoireApplication = DossierProgramme();
     LitParamètres(Jeu());
     if (!Réglages().ParamètresLus)

@@ -41,7 +41,7 @@ QString PageAide(int contexte)
     // Each language's help is a folder of pages named after their contexts.
     const QString langue = Langues().FichierAide.endsWith(QLatin1String("DRAVELN.HLP"), Qt::CaseInsensitive) ? QStringLiteral("de")
                                                                                                     : QStringLiteral("fr");
-    return Réglages().RépertoireApplication + QStringLiteral("/aide/") + langue + QStringLiteral("/aide_%1.html").arg(contexte);
+    return Réglages().RépertoireDonnées + QStringLiteral("/aide/") + langue + QStringLiteral("/aide_%1.html").arg(contexte);
 }
 
 int ContexteDe(QWidget *contrôle)

@@ -36,7 +36,7 @@ void ChargePlaques(Partie &P)
 
 bool ChargeCarteZones(TCarteZones &carte)
 {
-    const QString CheminFichierZones = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("KELMOR.pts"));
+    const QString CheminFichierZones = ComposeChemin(Réglages().RépertoireDonnées, QStringLiteral("KELMOR.pts"));
     if (!QFile::exists(CheminFichierZones)) {
         Boîte(Message(TMessage::FichierPtsAbsent), StyleInformation, Message(TMessage::TitreErreur));
         return false;

@@ -112,7 +112,7 @@ void PremierLancement()
     EcritValeur(CléJeu, Version, Réglages().VersionJeu);
     EcritValeur(CléJeu, Joueur, QString());
     EcritValeur(CléJeu, LangueValeur, QStringLiteral("1"));
-    Langues().Langue = 1;
+    Langues().Langue = Réglages().LangueDemandée ? Réglages().LangueDemandée : short(1);
     ChargeChaînes();
     DossiersParDéfaut();
     // The very first run always reminds.
@@ -130,7 +130,7 @@ void MiseAJourVersion()
 void LitParamètres(Partie &P)
 {
     Réglages().ParamètresLus = true;
-    Réglages().VersionJeu = ChaîneTable(1000);
+    Réglages().VersionJeu = VersionDuProgramme();
     NettoieRegistre();
     if (!RegistreLisible()) {
         Réglages().ParamètresLus = false;
@@ -159,6 +159,8 @@ void LitParamètres(Partie &P)
     Langues().Langue = static_cast<short>(ValeurNumérique(langue));
     if (Langues().Langue < 1)
         Langues().Langue = 1;
+    if (Réglages().LangueDemandée)
+        Langues().Langue = Réglages().LangueDemandée;
     ChargeChaînes();
 
     if (version != Réglages().VersionJeu)

@@ -1,8 +1,12 @@
 #include "services/Reglages.h"
 
 #include "services/Chemins.h"
+#include "services/TableChaines.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 TRéglages &Réglages()
 {
@@ -15,15 +19,46 @@ QString dossierInstallé;
 std::function<QDateTime()> maintenantScripté;
 } // namespace
 
-QString DossierProgramme()
+namespace {
+QString SansSéparateurFinal(QString d)
 {
-    QString d = dossierInstallé.isEmpty() ? QCoreApplication::applicationDirPath() : dossierInstallé;
     while (d.size() > 1 && d.endsWith(SéparateurChemin))
         d.chop(1);
     return d;
 }
+} // namespace
+
+// share/kelmor as the install lays it out, relative to bin/.
+#ifndef KELMOR_DONNEES_RELATIF
+#define KELMOR_DONNEES_RELATIF "../share/kelmor"
+#endif
+
+QString DossierDonnées()
+{
+    if (!dossierInstallé.isEmpty())
+        return SansSéparateurFinal(dossierInstallé);
+    const QDir programme(QCoreApplication::applicationDirPath());
+    const QString installé = QDir::cleanPath(programme.filePath(QStringLiteral(KELMOR_DONNEES_RELATIF)));
+    if (QFileInfo::exists(ComposeChemin(installé, QStringLiteral("KELMOR.pts"))))
+        return installé;
+    return SansSéparateurFinal(programme.path());
+}
+
+QString DossierProgramme()
+{
+    if (!dossierInstallé.isEmpty())
+        return SansSéparateurFinal(dossierInstallé);
+    QString programme = QCoreApplication::applicationDirPath();
+    if (DossierDonnées() == SansSéparateurFinal(programme) && RépertoireAccessible(programme))
+        return SansSéparateurFinal(programme);
+    const QString joueur = ComposeChemin(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), QStringLiteral("kelmor"));
+    QDir().mkpath(joueur);
+    return joueur;
+}
 
 void InstalleDossierProgramme(const QString &dossier) { dossierInstallé = dossier; }
+
+QString VersionDuProgramme() { return ChaîneTable(1000); }
 
 QDateTime Maintenant() { return maintenantScripté ? maintenantScripté() : QDateTime::currentDateTime(); }
 

@@ -7,7 +7,10 @@
 
 // What the run keeps in memory of the settings store, and the program's folder.
 struct TRéglages {
+    // Where the game writes what it would write in its own folder; and where the files
+    // it ships lie (the map's raster, the help, the sounds, the first information cards).
     QString RépertoireApplication;
+    QString RépertoireDonnées;
     QString RépertoireSauvegarde;
     QString RépertoireInfo;
     QString FichierLancement;
@@ -15,6 +18,8 @@ struct TRéglages {
     // False when the game's key couldn't be created: nothing is loaded and the start stops.
     bool ParamètresLus = false;
     bool SonActif = true;
+    // The language asked for on the command line for this run (1 French, 2 German), 0 none.
+    short LangueDemandée = 0;
 };
 // The run's one set of settings, read at the start.
 TRéglages &Réglages();
@@ -27,9 +32,17 @@ inline const QString FormatDate = QStringLiteral("yyyy-MM-dd HH:mm:ss");
 // The reminder comes back after this many calendar days.
 constexpr int JoursEntreRappels = 60;
 
-// The program's own folder, without a trailing separator.
+// The game's version as its messages give it: "Version 6.07 du 30/07/2008".
+QString VersionDuProgramme();
+
+// The folder of the files the game ships, without a trailing separator: share/kelmor
+// beside the program's bin/ when it is installed, else the program's own folder.
+QString DossierDonnées();
+// The folder the game writes in, without a trailing separator: the program's own
+// folder when the game runs from a folder it can write in with its files beside it
+// (a build), else the player's data folder (~/.local/share/kelmor), made if missing.
 QString DossierProgramme();
-// A folder for the program's files put in place of the program's own, for tests.
+// One folder in place of both, for tests.
 void InstalleDossierProgramme(const QString &dossier);
 
 // Today's date and time; a script in tests, an empty function for the system's.

@@ -42,7 +42,7 @@ echec() {
 nettoie() {
   [ -n "$PROG_PID" ] && kill -KILL "$PROG_PID" 2>/dev/null
   for p in $wm_pid $xvfb_pid; do kill "$p" 2>/dev/null && wait "$p" 2>/dev/null; done
-  [ -n "$E2E" ] && rm -rf "$E2E"
+  [ -n "$E2E" ] && chmod -R u+w "$E2E" 2>/dev/null; [ -n "$E2E" ] && rm -rf "$E2E"
 }
 trap nettoie EXIT
 trap 'echec interrupted' INT TERM

@@ -85,7 +85,7 @@ TEST(Raster, TheStartSaysWhetherTheFileIsDamagedOrMissing)
     QTemporaryDir dossier;
     BoîtesScriptées boîtes;
     InstalleBoîtes(&boîtes);
-    Langues().Langue = 1, ChargeChaînes(), Réglages().RépertoireApplication = dossier.path();
+    Langues().Langue = 1, ChargeChaînes(), Réglages().RépertoireDonnées = dossier.path();
     QFile f(dossier.filePath(QStringLiteral("KELMOR.pts")));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(Tête + Ligne) == 8);
     f.close();

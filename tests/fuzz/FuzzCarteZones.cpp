@@ -15,7 +15,7 @@ TPointSegment avant[NombreCartes][MaxSegments];
 
 void Prépare()
 {
-    Réglages().RépertoireApplication = DossierEnMémoire();
+    Réglages().RépertoireApplication = Réglages().RépertoireDonnées = DossierEnMémoire();
     fichier = Réglages().RépertoireApplication + QStringLiteral("/KELMOR.pts");
 }
 

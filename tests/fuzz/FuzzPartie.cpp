@@ -12,7 +12,7 @@
 void Prépare()
 {
     InstalleFormesModales([](QDialog &) { return 0; });
-    Réglages().RépertoireApplication = DossierEnMémoire();
+    Réglages().RépertoireApplication = Réglages().RépertoireDonnées = DossierEnMémoire();
     InstalleFichierRegistre(Réglages().RépertoireApplication + QStringLiteral("/registre.ini"));
     LitParamètres(Jeu());
     RelieEcranPrincipal(*new EcranPrincipal());
