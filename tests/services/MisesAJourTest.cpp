@@ -76,8 +76,8 @@ protected:
 
 TEST_F(MisesAJour, VersionAndDateAreReadFromTheVersionText)
 {
-    for (const auto &[texte, version] : {std::pair{"Version 6.07 du 30/07/2008", "6.07"}, {"Version   v10.2b du", "10.2"}, {"Version .5 x", ".5"},
-                                         {"Version", ""}, {"Version ", ""}, {"Version sans numéro", ""}, {"6.07", ""}})
+    for (const auto &[texte, version] : {std::pair{"Version 6.07 du 30/07/2008", "6.07"}, {"Version   v10.2b du", "10.2"},
+                                         {"Version .5 x", ".5"}, {"Version", ""}, {"Version ", ""}, {"Version sans numéro", ""}, {"6.07", ""}})
         EXPECT_EQ(ExtraitVersion(texte), version) << texte;
     for (const auto &[texte, date] : {std::pair{"Version 6.07 du 30/07/2008", Le(30, 7, 2008)},
                                       {"Version 6.07 vom 30.07.2008", Le(30, 7, 2008)}, {"01/02/2003", Le(1, 2, 2003)},
@@ -99,7 +99,8 @@ TEST_F(MisesAJour, TheListComesFromTheTableAndUpdatesKeepsTheHigherVersionBothWa
         Pose(Updates, nom, version);
     ChargeListeJeux();
     const QStringList noms{"Arvenne", "Brisolie", "Kelmor", "Zébrane"};
-    EXPECT_EQ(Versions(noms) + Versions(noms, &TJeu::VersionDisponible), QStringList({"5.20", "4.30", "6.07", "1.00", "5.20", "4.30", "6.07", "-"}));
+    EXPECT_EQ(Versions(noms) + Versions(noms, &TJeu::VersionDisponible),
+              QStringList({"5.20", "4.30", "6.07", "1.00", "5.20", "4.30", "6.07", "-"}));
     EXPECT_TRUE(NombreJeux == 12 && Jeu("Arvenne").DateDisponible == Le(14, 3, 2007)) << "the stored version brings no date";
 
     // A store that can't be written: the list works from memory.
@@ -139,7 +140,8 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
         if (rappel.contains("\r\n" + j.Description + " : version " + j.VersionDisponible + " du "))
             listés << j.Nom;
     EXPECT_EQ(listés, QStringList({"Brisolie", "Dunmark", "Estrava", "Faldine", "Gorvane", "Hestral", "Ilmarie", "Lunesse", "Morvald"}));
-    EXPECT_TRUE(rappel.startsWith(Messages[123] + "\r\n\r\n" + Messages[146] + "\r\n\r\nLes régions brisoliennes : version 4.30 du 02/11/2006\r\n"));
+    EXPECT_TRUE(rappel.startsWith(Messages[123] + "\r\n\r\n" + Messages[146] +
+                                  "\r\n\r\nLes régions brisoliennes : version 4.30 du 02/11/2006\r\n"));
     EXPECT_EQ(rappel.count(" : version "), 9);
 
     // Everything there as published: the site's message alone.
@@ -192,7 +194,8 @@ TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
     // a date that isn't one, a blank name, version or description: passed over. The blank belongs to the
     // name: " Faldine" is another game than Faldine, kept in memory only.
     const QStringList noms{"Arvenne", "Corvalie", "Dunmark", "Estrava", "Gorvane", "Hestral", "Ilmarie", "Nordhal", " Faldine", "Faldine"};
-    EXPECT_EQ(Versions(noms, &TJeu::VersionDisponible), QStringList({"5.20", "3.05", "2.41", "4.02", "3.60", "2.15", "5.01", "1.00", "1.50", "1.90"}));
+    EXPECT_EQ(Versions(noms, &TJeu::VersionDisponible),
+              QStringList({"5.20", "3.05", "2.41", "4.02", "3.60", "2.15", "5.01", "1.00", "1.50", "1.90"}));
     EXPECT_EQ(Versions(noms), QStringList({"5.20", "3.05", "2.41", "4.02", "3.60", "2.15", "5.01", "1.00", "1.90", "1.90"}));
     EXPECT_EQ(QList<QDate>({Jeu("Arvenne").DateDisponible, Jeu("Corvalie").DateDisponible}), QList<QDate>({Le(1, 9, 2008), Le(1, 1, 2009)}));
     const QString rappel = RappelVu();
@@ -212,7 +215,8 @@ TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
 
     const QByteArray jeu = "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->";
     Serveur absent("200 OK"), introuvable("404 Not Found", jeu), muet(nullptr);
-    Serveur long_("200 OK", jeu + QByteArray(LongueurMaxPage + 1 - jeu.size(), ' ')), énorme("200 OK", jeu + QByteArray(4 * LongueurMaxPage, 'x'));
+    Serveur long_("200 OK", jeu + QByteArray(LongueurMaxPage + 1 - jeu.size(), ' '));
+    Serveur énorme("200 OK", jeu + QByteArray(4 * LongueurMaxPage, 'x'));
     const QUrl refusé = absent.Site();
     absent.serveur.close();
     InstalleDélaiPage(1s);

@@ -55,7 +55,8 @@ TEST_F(Dossiers, EachUseStartsWhereItShouldAndItsOKWritesItsOwnValuesOnly)
         SCOPED_TRACE(testing::Message() << "language " << l);
         TearDown(), langue = short(l), SetUp(), ModeRépertoires = mode;
         ParamétrageRépertoires f;
-        EXPECT_TRUE(f.Chemin() == (mode == DossierJeu ? courant : infos) && LargeurEcran == 1280 && HauteurEcran == 1024) << "the screen measured";
+        EXPECT_TRUE(f.Chemin() == (mode == DossierJeu ? courant : infos) && LargeurEcran == 1280 && HauteurEcran == 1024)
+            << "the screen measured";
         // The files of the use's pattern, in any case of letters, and nothing else.
         EXPECT_TRUE(f.ChangeRépertoire(choisi));
         EXPECT_EQ(Liste(f.Fichier), mode == DossierJeu ? QStringList({"KELMOR.SCS", "vieux.scs"}) : QStringList{"KELMOR.INF"});
@@ -116,7 +117,8 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
         f.SousRépertoire->setText(nom);
         EXPECT_EQ(f.CréeSousRépertoire(), fait);
         EXPECT_EQ(Vues(boîtes), message ? QList<int>{message} : QList<int>{});
-        EXPECT_TRUE(f.Chemin() == choisi && QDir::currentPath() == Chemin("courant")) << "making a folder neither goes into it nor moves the process";
+        EXPECT_TRUE(f.Chemin() == choisi && QDir::currentPath() == Chemin("courant"))
+            << "making a folder neither goes into it nor moves the process";
     }
     EXPECT_TRUE(QFileInfo(Chemin("choisi/Parties d'été")).isDir() && entrées() == avant + 1) << "nothing else made";
 

@@ -88,12 +88,12 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
 TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWritesNothingElse)
 {
     for (const auto &[stocké, aujourdhui, rappel, renouvelée, langue, lue] :
-         {std::tuple{"2024-01-01 12:00:00", "2024-02-29 12:00:00", false, false, " 2", 2},
-          {"2024-01-01 12:00:00", "2024-03-01 00:00:01", true, true, "2x", 2}, {"2024-01-01 00:00:00", "2024-02-29 23:59:59", false, false, "0", 1},
+         {std::tuple{"2024-01-01 12:00:00", "2024-02-29 12:00:00", false, false, " 2", 2}, {nullptr, "2024-05-10 08:00:00", false, true, "2", 2},
+          {"2024-01-01 12:00:00", "2024-03-01 00:00:01", true, true, "2x", 2}, {"", "2024-05-10 08:00:00", false, true, "1", 1},
+          {"2024-01-01 00:00:00", "2024-02-29 23:59:59", false, false, "0", 1}, {"10/05/2023", "2024-05-10 08:00:00", false, true, "7", 1},
           {"2024-01-01 23:59:00", "2024-03-01 00:01:00", true, true, "de", 1}, {"2023-01-01 08:00:00", "2024-05-10 08:00:00", true, true, "", 1},
-          {"2030-01-01 08:00:00", "2024-05-10 08:00:00", false, false, "-2", 1}, {"10/05/2023", "2024-05-10 08:00:00", false, true, "7", 1},
-          {"2023-02-30 10:00:00", "2024-05-10 08:00:00", false, true, "99999999999", 1}, {"", "2024-05-10 08:00:00", false, true, "1", 1},
-          {nullptr, "2024-05-10 08:00:00", false, true, "2", 2}}) {
+          {"2030-01-01 08:00:00", "2024-05-10 08:00:00", false, false, "-2", 1},
+          {"2023-02-30 10:00:00", "2024-05-10 08:00:00", false, true, "99999999999", 1}}) {
         SCOPED_TRACE(std::string(stocké ? stocké : "no date") + " -> " + aujourdhui + ", language " + langue);
         Installation("*", stocké, langue);
         maintenant = QDateTime::fromString(aujourdhui, FormatDate);
@@ -130,7 +130,8 @@ TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheRemin
     dossiersChoisis = {choisi};
     LitParamètres();
     EXPECT_EQ(Vues(boîtes), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
-    EXPECT_EQ(Dossiers(), QStringList({choisi, choisi + "/KELMOR.SCS", fichierProgramme + '/', choisi, "KELMOR.SCS", fichierProgramme + '/', choisi}));
+    EXPECT_EQ(Dossiers(),
+              QStringList({choisi, choisi + "/KELMOR.SCS", fichierProgramme + '/', choisi, "KELMOR.SCS", fichierProgramme + '/', choisi}));
 }
 
 TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLeftAsItIs)
@@ -141,7 +142,7 @@ TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLe
     ASSERT_TRUE(QFile(dossier.filePath("plain")).open(QIODevice::WriteOnly));
     InstalleDossierProgramme(programme);
     ASSERT_TRUE(QFile::copy(DOSSIER_DONNEES "/KELMOR.pts", programme + "/KELMOR.pts"));
-    for (const auto &[magasin, message] : {std::pair<QString, QString>{dossier.filePath("plain/registre.ini"), "Les paramètres du jeu ne peuvent pas"},
+    for (const auto &[magasin, message] : {std::pair<QString, QString>{dossier.filePath("plain/registre.ini"), "Les paramètres du jeu"},
                                            {fichier, ChaîneTable(1000 + MessageRéglagesIllisibles)}}) {
         InstalleFichierRegistre(magasin);
         boîtes.journal.clear();

@@ -41,6 +41,7 @@ inline QString Valeur(const QString &clé, const QString &nom)
     return r == 0 ? texte : QString(texte == u"<unset>" ? "<%1>" : "<%1, text changed>").arg(r);
 }
 
+// A value stored, its key made first.
 inline void Pose(const QString &clé, const QString &nom, const QString &texte)
 {
     ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0);
@@ -53,9 +54,10 @@ inline QList<int> Vues(const BoîtesScriptées &boîtes)
     QList<int> vues;
     for (const auto &b : boîtes.journal) {
         vues << -1;
+        qsizetype longueur = 0;
         for (int i = 0; i < int(Messages.size()); ++i)
-            if (!Messages[i].isEmpty() && b.texte.startsWith(Messages[i]) && (vues.back() < 0 || Messages[i].size() > Messages[vues.back()].size()))
-                vues.back() = i;
+            if (Messages[i].size() > longueur && b.texte.startsWith(Messages[i]))
+                vues.back() = i, longueur = Messages[i].size();
     }
     return vues;
 }

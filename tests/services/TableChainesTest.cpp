@@ -39,8 +39,8 @@ TEST(TableChaines, EachCantonHasItsOwnPlateAndItsGermanNames)
     EXPECT_TRUE(plaques.size() == 26 && !plaques.contains("")) << plaques.size();
 }
 
-// The family's list: each row's name, version, date and description are read in the update
-// check's tests; here the separate version rows agree and the welcome screen names every other game.
+// The family's list is read in the update check's tests; here the separate version rows agree and
+// the welcome screen names every other game.
 TEST(TableChaines, TheFamilysGamesAgreeWithTheirVersionRowsAndTheWelcome)
 {
     for (int id = 6001; id <= 6023; id += 2) {
