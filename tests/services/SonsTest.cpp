@@ -1,40 +1,25 @@
 // The game's sounds and the desktop's message-box sounds silenced for the run.
-#include "Fixtures.h"
+#include "Services.h"
 
-#include "engine/communs.h"
-#include "services/Langues.h"
-#include "services/Registre.h"
 #include "services/Sons.h"
-#include "screen/Commandes.h"
-#include "screen/EcranPrincipal.h"
-#include "results/PartieEnCours.h"
-#include <QAction>
 
 namespace {
 
 using Sons = JeuTest;
 
-const QString Exclamation = "HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemExclamation\\.current";
-const QString Question = "HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemQuestion\\.current";
-const QString Hand = "HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\SystemHand\\.current";
-
 TEST_F(Sons, TheSchemesSoundsAreEmptiedForTheRunAndPutBack)
 {
-    ASSERT_EQ(CréeClé(Exclamation), 0);
-    ASSERT_EQ(EcritValeur(Exclamation, "", "/sons/ding.wav"), 0);
-    ASSERT_EQ(CréeClé(Question), 0); // a key without a value
+    const QString schéma = "HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\System%1\\.current";
+    ASSERT_TRUE(CréeClé(schéma.arg("Exclamation")) == 0 && EcritValeur(schéma.arg("Exclamation"), "", "/sons/ding.wav") == 0);
+    ASSERT_EQ(CréeClé(schéma.arg("Question")), 0); // a key without a value
+    const auto sons = [&] {
+        return QStringList({Valeur(schéma.arg("Exclamation"), ""), Valeur(schéma.arg("Question"), ""), Valeur(schéma.arg("Hand"), "")});
+    };
     CoupeSonsSystème();
-    QString v = "x";
-    EXPECT_EQ(LitValeur(Exclamation, "", v), 0);
-    EXPECT_EQ(v, "");
-    EXPECT_EQ(LitValeur(Question, "", v), -2);
-    RestaureSonsSystème();
-    EXPECT_EQ(LitValeur(Exclamation, "", v), 0);
-    EXPECT_EQ(v, "/sons/ding.wav");
+    EXPECT_EQ(sons(), QStringList({"", "<-2>", "<-1>"}));
     // The value that wasn't there exists now, empty; a missing key is never made.
-    EXPECT_EQ(LitValeur(Question, "", v), 0);
-    EXPECT_EQ(v, "");
-    EXPECT_EQ(OuvreClé(Hand), -1);
+    RestaureSonsSystème();
+    EXPECT_EQ(sons(), QStringList({"/sons/ding.wav", "", "<-1>"}));
 }
 
 TEST_F(Sons, TheSwitchSilencesTheGameAndSaysSoInTheMenu)

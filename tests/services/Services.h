@@ -1,0 +1,93 @@
+#pragma once
+// What the services' tests share: their headers, files and stored values read back, and a
+// store, message boxes and a clock of a test's own.
+#include "Fixtures.h"
+
+#include "platform/Ansi.h"
+#include "platform/Ecran.h"
+#include "platform/Formes.h"
+#include "screen/EcranPrincipal.h"
+#include "services/Langues.h"
+#include "services/MisesAJour.h"
+#include "screen/ParametrageRepertoires.h"
+#include "services/Parametres.h"
+#include "services/Registre.h"
+#include "services/TableChaines.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+// Texts shown as text when a check fails.
+inline void PrintTo(const QString &s, std::ostream *os) { *os << '"' << s.toStdString() << '"'; }
+
+// The bytes of a file, empty when it can't be read.
+inline QByteArray Lit(const QString &chemin)
+{
+    QFile f(chemin);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+inline void Ecrit(const QString &chemin, const QByteArray &octets)
+{
+    QFile f(chemin);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(octets) == octets.size());
+}
+// The stored text, or "<-1>" / "<-2>" as the read answered; a failed read that touched the caller's text says so.
+inline QString Valeur(const QString &clé, const QString &nom)
+{
+    QString texte = QStringLiteral("<unset>");
+    const i32 r = LitValeur(clé, nom, texte);
+    return r == 0 ? texte : QString(texte == u"<unset>" ? "<%1>" : "<%1, text changed>").arg(r);
+}
+
+// A value stored, its key made first.
+inline void Pose(const QString &clé, const QString &nom, const QString &texte)
+{
+    ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0);
+}
+
+// The messages the boxes showed, by their ids: the longest message that starts a box's text (the
+// reminder goes on with the games to fetch); −1 for a box of none.
+inline QList<int> Vues(const BoîtesScriptées &boîtes)
+{
+    QList<int> vues;
+    for (const auto &b : boîtes.journal) {
+        vues << -1;
+        qsizetype longueur = 0;
+        for (int i = 0; i < int(Langues().Messages.size()); ++i)
+            if (Langues().Messages[i].size() > longueur && b.texte.startsWith(Langues().Messages[i]))
+                vues.back() = i, longueur = Langues().Messages[i].size();
+    }
+    return vues;
+}
+
+// A store in a temporary folder, which is also the program's, boxes and a clock of the test's own,
+// in French; the current folder put back.
+class Magasin : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(dossier.isValid());
+        InstalleFichierRegistre(fichier);
+        InstalleBoîtes(&boîtes);
+        InstalleMaintenant([this] { return maintenant; });
+        Réglages().RépertoireApplication = dossier.path();
+        Langues().Langue = 1;
+        ChargeChaînes();
+    }
+    void TearDown() override
+    {
+        QDir::setCurrent(dossierCourant);
+        InstalleFormesModales(nullptr);
+        InstalleMaintenant(nullptr);
+        InstalleBoîtes(nullptr);
+        InstalleFichierRegistre(QString());
+        Langues().Langue = 1;
+        ChargeChaînes();
+    }
+    QTemporaryDir dossier;
+    QString fichier = dossier.filePath("registre.ini"), dossierCourant = QDir::currentPath();
+    BoîtesScriptées boîtes;
+    QDateTime maintenant = QDateTime::fromString("2024-05-10 14:30:00", FormatDate);
+};
