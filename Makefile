@@ -3,7 +3,7 @@ BUILD   ?= build
 TYPE    ?= Release
 JOBS    ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: run test deps build bench fuzz clean
+.PHONY: run test deps build bench fuzz package clean
 
 run: build
 	./$(BUILD)/kelmor
@@ -17,6 +17,10 @@ deps:
 build: deps
 	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=$(TYPE)
 	cmake --build $(BUILD) -j $(JOBS)
+
+# A .deb of the installed tree, in build/.
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 bench: build
 	./$(BUILD)/bench/kelmor_bench
