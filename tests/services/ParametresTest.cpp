@@ -176,6 +176,14 @@ TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStart)
     ASSERT_TRUE(Main());
     forme = FormePrincipale();
     EXPECT_TRUE(Langues().Langue == 2 && Jeu().NomJoueur == "Zoé" && Principal().FichierNouveau->text() == ChaîneTable(1306));
+    // --langue fr starts this run in French and leaves the stored language alone.
+    delete std::exchange(forme, nullptr);
+    Réglages().LangueDemandée = 1;
+    const bool démarré = Main();
+    Réglages().LangueDemandée = 0;
+    forme = FormePrincipale();
+    EXPECT_TRUE(démarré && Langues().Langue == 1 && Principal().FichierNouveau->text() == ChaîneTable(1056));
+    EXPECT_EQ(Valeur(CléJeu, "langue"), " 2");
 }
 
 } // namespace
