@@ -9,10 +9,13 @@ constexpr int LongueurMaxNomClé = 255;
 
 QString Plié(const QString &s) { return s.toCaseFolded(); }
 
-TDécoupe DécoupeChemin(const QString &chemin)
+TDécoupe DécoupeChemin(const QString &chemin, bool section)
 {
     TDécoupe d;
-    d.pièces = chemin.trimmed().split(QLatin1Char('\\'), Qt::SkipEmptyParts);
+    qsizetype début = 0;
+    while (section && début < chemin.size() && chemin[début].isSpace())
+        ++début;
+    d.pièces = (section ? chemin.mid(début) : chemin.trimmed()).split(QLatin1Char('\\'), Qt::SkipEmptyParts);
     if (d.pièces.size() > PiècesMax) {
         d.tropLong = true;
         return d;
@@ -211,7 +214,7 @@ TArbreRegistre LitOctetsRegistre(const QByteArray &octets)
             continue;
         if (ligne.startsWith(QLatin1Char('[')) && ligne.endsWith(QLatin1Char(']'))) {
             courante = nullptr;
-            const TDécoupe d = DécoupeChemin(ligne.mid(1, ligne.size() - 2));
+            const TDécoupe d = DécoupeChemin(ligne.mid(1, ligne.size() - 2), true);
             if (d.tropLong || d.racineInconnue)
                 continue;
             bool valide = true;

@@ -51,13 +51,15 @@ using TArbreRegistre = std::map<QString, TCléRegistre>;
 QString Plié(const QString &s);
 
 // The path cut into pieces, the root named as the desktop writes it; flagged when
-// it has more than 32 pieces or its root is unknown.
+// it has more than 32 pieces or its root is unknown. Blanks around a path given to the
+// store don't count. A section of the file keeps the blanks at its end: a key's name may
+// end in one (a key "a" with a blank behind, made on the way to a deeper key).
 struct TDécoupe {
     QStringList pièces;
     bool tropLong = false;
     bool racineInconnue = false;
 };
-TDécoupe DécoupeChemin(const QString &chemin);
+TDécoupe DécoupeChemin(const QString &chemin, bool section = false);
 // Key names of the desktop: at most 255 characters, no control character.
 bool NomCléValide(const QString &nom);
 
