@@ -11,7 +11,7 @@
 #include "screen/EcranPrincipal.h"
 #include "screen/Palette.h"
 #include "screen/Parametrage.h"
-#include "services/Aide.h"
+#include "screen/Aide.h"
 #include "screen/Edition.h"
 #include "screen/ParametrageRepertoires.h"
 #include "services/Parametres.h"

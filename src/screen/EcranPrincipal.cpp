@@ -5,7 +5,7 @@
 #include "platform/Ecran.h"
 #include "platform/Formes.h"
 #include "platform/Images.h"
-#include "services/Aide.h"
+#include "screen/Aide.h"
 #include "screen/Patience.h"
 #include "results/PartieEnCours.h"
 

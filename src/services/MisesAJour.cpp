@@ -16,7 +16,6 @@
 #include <QNetworkRequest>
 #include <QRegularExpression>
 #include <QStringDecoder>
-#include <QTextEdit>
 #include <QTimer>
 
 TFamille &Famille()

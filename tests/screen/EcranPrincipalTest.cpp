@@ -4,7 +4,7 @@
 #include "results/AffichageScores.h"
 #include "results/NouvellePartie.h"
 #include "screen/Pompe.h"
-#include "services/Aide.h"
+#include "screen/Aide.h"
 #include "results/PartieEnCours.h"
 
 using Chargement = JeuTest;

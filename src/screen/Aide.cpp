@@ -1,4 +1,4 @@
-#include "services/Aide.h"
+#include "screen/Aide.h"
 
 #include "platform/Formes.h"
 #include "services/Langues.h"
