@@ -66,13 +66,6 @@ protected:
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     }
     void TearDown() override { QLocale::setDefault(QLocale::system()), InstalleAdressePage({}), InstalleDélaiPage(0ms), Magasin::TearDown(); }
-    // The text of the one box shown since the last look, which must be the reminder.
-    QString RappelVu()
-    {
-        const auto vues = std::exchange(boîtes.journal, {});
-        EXPECT_TRUE(vues.size() == 1 && vues[0].titre == Message(TMessage::TitrePublicité));
-        return vues.empty() ? QString() : vues.back().texte;
-    }
 };
 
 TEST_F(MisesAJour, VersionAndDateAreReadFromTheVersionText)
@@ -134,8 +127,7 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
               QList<QDate>({Le(20, 6, 2005), Le(14, 3, 2007), Le(5, 5, 2020)}))
         << "Corvalie's version is taken, not its date";
 
-    AfficheRappel();
-    const QString rappel = RappelVu();
+    const QString rappel = TexteRappel(Famille());
     QStringList listés;
     for (const TJeu &j : Famille().JeuxFamille)
         if (rappel.contains("\r\n" + j.Description + " : version " + j.VersionDisponible + " du "))
@@ -149,24 +141,8 @@ TEST_F(MisesAJour, InstalledGamesAreFoundAndOnlyTheOnesBehindAreListed)
     for (const TJeu &j : Famille().JeuxFamille)
         if (!j.VersionDisponible.isEmpty())
             Installe(j.Nom, qPrintable("Version " + j.VersionDisponible + " du " + j.DateDisponible.toString("dd/MM/yyyy")));
-    ExploreJeux(), AfficheRappel();
-    EXPECT_EQ(RappelVu(), Message(TMessage::VisiterLeSite));
-}
-
-TEST_F(MisesAJour, TheReminderAtAFirstRunAndAfterSixtyDaysTellsWhatIsKnown)
-{
-    Installe("Arvenne", "Version 5.12 du 14/03/2007");
-    LitParamètres(::Jeu());
-    const QString premier = RappelVu();
-    EXPECT_TRUE(premier.count(" : version ") == 10 && !premier.contains("kelmors")) << "all but this game, up to date, and the one installed";
-
-    // Meanwhile another game of the family let it be known that this one has a new version.
-    Pose(Updates, "Kelmor", "6.10");
-    maintenant = maintenant.addDays(60);
-    LitParamètres(::Jeu());
-    const QString rappel = RappelVu();
-    EXPECT_TRUE(rappel.contains("\r\nLes cantons kelmors : version 6.10 du 01/01/2008\r\n")) << "old date, newer version";
-    EXPECT_EQ(rappel.count(" : version "), 11);
+    ExploreJeux();
+    EXPECT_EQ(TexteRappel(Famille()), Message(TMessage::VisiterLeSite));
 }
 
 TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
@@ -174,22 +150,18 @@ TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
     ChargeListeJeux();
     Installe("Kelmor", "Version 6.07 du 30/07/2008");
     Installe("Corvalie", "Version 3.05 du 20/06/2005");
-    Serveur serveur("200 OK", QString("<html><head><!-- le menu du site --><title>Jeux</title></head><body>\n"
-                                      "<!--Arvenne#5.20#01/09/2008#Les départements arvennais, 2e édition-->\n"
-                                      "<p>texte</p><!--Brisolie#4.30#02/11/2006#Les régions brisoliennes-->"
-                                      "<!--Corvalie#3.01#01/01/2009#Les pays d'Europe-->\n"
-                                      "<!--Dunmark#2.50#01/01/2009-->"
-                                      "<!--Estrava#4.10#31/02/2009#Les provinces estravaises-->"
-                                      "<!--#1.00#01/01/2009#Sans nom--><!--Gorvane# #01/01/2009#Sans version-->"
-                                      "<!--Hestral#2.20#01/01/2009#  -->"
-                                      "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->"
-                                      "<!-- Faldine#1.50#01/01/2009#Avec un blanc-->"
-                                      "<!--Ilmarie#9.00#01/01/2010#Jamais fermé</body></html>")
-                                  .toUtf8());
-    InstalleAdressePage(serveur.Site().resolved(QUrl("essai"))); // another root, as tests give, with no final separator
-    ChercheVersions();
-    EXPECT_TRUE(serveur.requête.startsWith("GET /essai/jeux/listejeux.htm HTTP/1.1\r\n")) << serveur.requête.constData();
-    EXPECT_TRUE(serveur.pointeurPendant == PointeurSablier && PointeurEcranActuel() == PointeurNormal);
+    LitListePage("<html><head><!-- le menu du site --><title>Jeux</title></head><body>\n"
+                 "<!--Arvenne#5.20#01/09/2008#Les départements arvennais, 2e édition-->\n"
+                 "<p>texte</p><!--Brisolie#4.30#02/11/2006#Les régions brisoliennes-->"
+                 "<!--Corvalie#3.01#01/01/2009#Les pays d'Europe-->\n"
+                 "<!--Dunmark#2.50#01/01/2009-->"
+                 "<!--Estrava#4.10#31/02/2009#Les provinces estravaises-->"
+                 "<!--#1.00#01/01/2009#Sans nom--><!--Gorvane# #01/01/2009#Sans version-->"
+                 "<!--Hestral#2.20#01/01/2009#  -->"
+                 "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->"
+                 "<!-- Faldine#1.50#01/01/2009#Avec un blanc-->"
+                 "<!--Ilmarie#9.00#01/01/2010#Jamais fermé</body></html>");
+    SauveMisesAJour(), ExploreJeux(); // as the menu's command goes on
 
     // Corvalie, an older version with a later date: the date is taken and the version kept. Three fields,
     // a date that isn't one, a blank name, version or description: passed over. The blank belongs to the
@@ -199,21 +171,17 @@ TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
               QStringList({"5.20", "3.05", "2.41", "4.02", "3.60", "2.15", "5.01", "1.00", "1.50", "1.90"}));
     EXPECT_EQ(Versions(noms), QStringList({"5.20", "3.05", "2.41", "4.02", "3.60", "2.15", "5.01", "1.00", "1.90", "1.90"}));
     EXPECT_EQ(QList<QDate>({Jeu("Arvenne").DateDisponible, Jeu("Corvalie").DateDisponible}), QList<QDate>({Le(1, 9, 2008), Le(1, 1, 2009)}));
-    const QString rappel = RappelVu();
+    const QString rappel = TexteRappel(Famille());
     for (const char *ligne : {"Les départements arvennais, 2e édition : version 5.20 du 01/09/2008",
                               "Les pays d'Europe : version 3.05 du 01/01/2009", "Avec un blanc : version 1.50 du 01/01/2009"})
         EXPECT_TRUE(rappel.contains("\r\n" + QString(ligne) + "\r\n")) << ligne;
     EXPECT_TRUE(Famille().NombreJeux == 14 && rappel.count(" : version ") == 13 && !rappel.contains("kelmors"));
 }
 
-// A page that can't be had is a page without games: the reminder of what is known.
-TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
+// A page that can't be had in time, is refused or is too long comes back empty; the silent server
+// holds the fetch for the whole time-out, and no longer.
+TEST_F(MisesAJour, APageThatCantBeHadIsEmptyAndOneOfTheLongestLengthIsRead)
 {
-    ChargeListeJeux();
-    AfficheRappel();
-    const QString connu = RappelVu();
-    EXPECT_EQ(connu.count(" : version "), 12) << "nothing installed: every game is listed";
-
     const QByteArray jeu = "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->";
     Serveur absent("200 OK"), introuvable("404 Not Found", jeu), muet(nullptr);
     Serveur long_("200 OK", jeu + QByteArray(LongueurMaxPage + 1 - jeu.size(), ' '));
@@ -221,7 +189,6 @@ TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
     const QUrl refusé = absent.Site();
     absent.serveur.close();
     InstalleDélaiPage(1s);
-    // The silent server holds the fetch for the whole time-out, and no longer.
     for (const auto &[quoi, site, auMoins, auPlus] :
          {std::tuple{"refused", refusé, 0, 1000}, {"404", introuvable.Site(), 0, 1000}, {"never answers", muet.Site(), 900, 3000},
           {"one character too long", long_.Site(), 0, 1000}, {"far too long", énorme.Site(), 0, 1000}}) {
@@ -229,31 +196,37 @@ TEST_F(MisesAJour, APageThatCantBeHadEndsInTheReminderOfWhatIsKnown)
         InstalleAdressePage(site);
         QElapsedTimer chrono;
         chrono.start();
-        ChercheVersions();
+        EXPECT_TRUE(ChargePage().isEmpty() && PointeurEcranActuel() == PointeurNormal);
         EXPECT_TRUE(chrono.elapsed() >= auMoins && chrono.elapsed() < auPlus) << chrono.elapsed();
-        EXPECT_TRUE(RappelVu() == connu && IndiceJeu("Nordhal") == 0 && PointeurEcranActuel() == PointeurNormal);
     }
     EXPECT_TRUE(muet.répondu) << "the silent server did get the request";
 
-    // A page of the longest length is read, in Windows-1252 as well as in UTF-8.
+    // A page of the longest length is read, in Windows-1252 as well as in UTF-8; Windows-1252 to the
+    // last byte, though all before it could be UTF-8.
     const QByteArray ansi = VersAnsi("<!--Nordhal#1.00#15/06/2009#Les fjords de l'été-->");
     Serveur juste("200 OK", ansi + QByteArray(LongueurMaxPage - ansi.size(), ' '));
     InstalleAdressePage(juste.Site());
-    ChercheVersions();
-    EXPECT_TRUE(RappelVu().contains("\r\nLes fjords de l'été : version 1.00 du 15/06/2009\r\n"));
-    // Windows-1252 to the last byte, though all before it could be UTF-8.
+    EXPECT_EQ(ChargePage(), DepuisAnsi(ansi) + QString(LongueurMaxPage - ansi.size(), ' '));
     EXPECT_EQ(DécodePage("<p>Les jeux du caf\xE9"), "<p>Les jeux du café");
+    InstalleAdressePage(QUrl("http://127.0.0.1:9/essai"));
+    EXPECT_EQ(AdressePage(), QUrl("http://127.0.0.1:9/essai/jeux/listejeux.htm")) << "another root, with no final separator";
 }
 
-// From the menu of the running game, through the main form's own transfer control; the running copy counts as installed.
+// From the menu of the running game, through the main form's own transfer control; the running copy
+// counts as installed. A page that can't be had is one without games: the reminder of what is known.
 using MisesAJourDuJeu = JeuTest;
 
-TEST_F(MisesAJourDuJeu, TheMenuEntryReadsTheSitesList)
+TEST_F(MisesAJourDuJeu, TheMenuEntryReadsTheSitesListThenReminds)
 {
     Serveur serveur("200 OK", "<html><!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens--></html>");
     InstalleAdressePage(serveur.Site());
     Principal().FichierVersion->trigger();
-    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.ADit("Les fjords nordhaliens : version 1.00") && !boîtes.ADit("kelmors"));
+    EXPECT_TRUE(serveur.requête.startsWith("GET /jeux/listejeux.htm HTTP/1.1\r\n") && serveur.pointeurPendant == PointeurSablier);
+    ASSERT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].titre == Message(TMessage::TitrePublicité));
+    EXPECT_TRUE(boîtes.ADit("\r\nLes fjords nordhaliens : version 1.00 du ") && !boîtes.ADit("kelmors"));
+    serveur.serveur.close();
+    Principal().FichierVersion->trigger();
+    EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[1].texte == boîtes.journal[0].texte);
 }
 
 } // namespace
