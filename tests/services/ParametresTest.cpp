@@ -2,9 +2,6 @@
 // every 60 days, the language and the folders.
 #include "Services.h"
 
-#include "results/Resultats.h"
-#include "results/PartieEnCours.h"
-
 namespace {
 
 using Boîtes = QList<int>;
@@ -77,9 +74,9 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
         EXPECT_TRUE(Réglages().ParamètresLus && Jeu().NomJoueur == (premier ? "" : "Zoé") && Langues().Langue == (premier ? 1 : 2));
         EXPECT_EQ(Message(TMessage::VersionDuJeu), ChaîneTable(premier ? 1000 : 1250));
         EXPECT_EQ(Réglages().VersionJeu, ChaîneTable(1000)) << "the version always in French";
-        const QByteArray avant = Lit(fichier);
+        const QByteArray avant = Contenu(fichier);
         LitParamètres(Jeu());
-        EXPECT_EQ(Lit(fichier), avant) << "the next start is an ordinary run that writes nothing";
+        EXPECT_EQ(Contenu(fichier), avant) << "the next start is an ordinary run that writes nothing";
     }
 }
 
@@ -98,37 +95,30 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
         SCOPED_TRACE(std::string(stocké ? stocké : "no date") + " -> " + aujourdhui + ", language " + langue);
         Installation("*", stocké, langue);
         maintenant = QDateTime::fromString(aujourdhui, FormatDate);
-        const QByteArray avant = Lit(fichier);
+        const QByteArray avant = Contenu(fichier);
         Langues().Langue = 2;
         LitParamètres(Jeu());
         EXPECT_EQ(Vues(boîtes), rappel ? Boîtes{123} : Boîtes{});
-        EXPECT_TRUE(Valeur(CléFamille, "date") == (renouvelée ? aujourdhui : stocké) && (renouvelée || Lit(fichier) == avant));
+        EXPECT_TRUE(Valeur(CléFamille, "date") == (renouvelée ? aujourdhui : stocké) && (renouvelée || Contenu(fichier) == avant));
         EXPECT_TRUE(Langues().Langue == lue && Message(TMessage::VersionDuJeu) == ChaîneTable(lue == 2 ? 1250 : 1000) && Valeur(CléJeu, "langue") == langue);
-        EXPECT_EQ(Dossiers(), QStringList({choisi + '/', choisi + "/MES.SCS", choisi, choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
-        EXPECT_EQ(Jeu().NomJoueur, "Zoé");
+        EXPECT_EQ(Dossiers() << Jeu().NomJoueur, QStringList({choisi + '/', choisi + "/MES.SCS", choisi, choisi + '/', choisi + "/MES.SCS", choisi, choisi, "Zoé"}));
     }
 }
 
-// The form's refusal of a folder that can't be written is the folder form's own test.
-TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
+// A save folder that can't be written is asked for (the form's own refusals are its own test): at each
+// start until one is given, and at a first run in a program folder that can't be written, before the reminder.
+TEST_F(Paramètres, AFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
 {
     Installation();
-    const QString disparu = dossier.filePath("disparu");
+    const QString disparu = dossier.filePath("disparu"), fichierProgramme = dossier.filePath("programme.bin");
     Pose(CléJeu, "répertoire", disparu);
     LitParamètres(Jeu()); // given up: the start goes on with what it had
-    EXPECT_EQ(Vues(boîtes), Boîtes{122});
     EXPECT_EQ(Dossiers(), QStringList({disparu, choisi + "/MES.SCS", choisi, disparu + '/', choisi + "/MES.SCS", choisi, dossierCourant}));
     boîtes.journal.clear(), dossiersChoisis = {choisi};
     LitParamètres(Jeu());
-    EXPECT_EQ(Vues(boîtes), Boîtes{122});
     EXPECT_EQ(Dossiers(), QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi, choisi + "/KELMOR.SCS", choisi, choisi}));
-}
-
-TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheReminder)
-{
-    const QString fichierProgramme = dossier.filePath("programme.bin"); // a file: nothing can be made in it
-    ASSERT_TRUE(QFile(Réglages().RépertoireApplication = fichierProgramme).open(QIODevice::WriteOnly));
-    dossiersChoisis = {choisi};
+    Installation(nullptr), choix = 0;
+    ASSERT_TRUE(QFile(Réglages().RépertoireApplication = fichierProgramme).open(QIODevice::WriteOnly)); // nothing can be made in a file
     LitParamètres(Jeu());
     EXPECT_EQ(Vues(boîtes), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
     EXPECT_EQ(Dossiers(),
@@ -138,20 +128,20 @@ TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheRemin
 TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLeftAsItIs)
 {
     Installation();
-    const QByteArray gros = ";" + QByteArray(17 << 20, 'x') + "\n" + Lit(fichier); // the settings behind 17 MiB
-    Ecrit(fichier, gros);
+    const QByteArray gros = ";" + QByteArray(17 << 20, 'x') + "\n" + Contenu(fichier); // the settings behind 17 MiB
+    EcritFichierEntier(fichier, gros);
     ASSERT_TRUE(QFile(dossier.filePath("plain")).open(QIODevice::WriteOnly));
     InstalleDossierProgramme(programme);
     ASSERT_TRUE(QFile::copy(DOSSIER_DONNEES "/KELMOR.pts", programme + "/KELMOR.pts"));
-    for (const auto &[magasin, message] : {std::pair<QString, QString>{dossier.filePath("plain/registre.ini"), "Les paramètres du jeu"},
-                                           {fichier, ChaîneTable(1000 + int(TMessage::RéglagesIllisibles))}}) {
+    const QString plain = dossier.filePath("plain/registre.ini");
+    for (const auto &[magasin, texte] : {std::pair{plain, Message(TMessage::RéglagesNonEnregistrables).arg(plain)},
+                                         {fichier, Message(TMessage::RéglagesIllisibles) + fichier}}) {
         InstalleFichierRegistre(magasin);
         boîtes.journal.clear();
         EXPECT_TRUE(!Main() && !Réglages().ParamètresLus && !FormePrincipale() && QDir::currentPath() == dossierCourant);
-        ASSERT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_TRUE(boîtes.journal[0].style == StyleCritique && boîtes.journal[0].texte.startsWith(message) && boîtes.ADit(magasin));
+        EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].style == StyleCritique && boîtes.journal[0].texte == texte);
     }
-    EXPECT_TRUE(Lit(fichier) == gros);
+    EXPECT_TRUE(Contenu(fichier) == gros);
 }
 
 TEST_F(Paramètres, CopiesLeftByAnInterruptedWriteAreTakenAwayAtTheStart)
@@ -162,28 +152,23 @@ TEST_F(Paramètres, CopiesLeftByAnInterruptedWriteAreTakenAwayAtTheStart)
     EXPECT_EQ(QDir(dossier.path()).entryList({"registre.ini.*"}), QStringList({"registre.ini.Ab12Cde", "registre.ini.bak"}));
 }
 
-// Through the game: what the player changes is there at the next start; the third language entry changes nothing.
+// Through the game: what the player changes is there at the next start; the third language entry changes
+// nothing. --langue fr starts a run in French and leaves the stored language alone.
 using ParamètresDuJeu = JeuTest;
 
-TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStart)
+TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStartAndTheCommandLinesLanguageIsForOneRun)
 {
     ChangeLangue(2), ChangeLangue(3);
-    EXPECT_EQ(Valeur(CléJeu, "langue"), " 2");
     Jeu().NomJoueur = "Zoé";
     EnregistreJoueur();
-    Jeu().PartieVierge = true, Langues().Langue = 1, Jeu().NomJoueur.clear();
-    delete std::exchange(forme, nullptr);
-    ASSERT_TRUE(Main());
-    forme = FormePrincipale();
-    EXPECT_TRUE(Langues().Langue == 2 && Jeu().NomJoueur == "Zoé" && Principal().FichierNouveau->text() == ChaîneTable(1306));
-    // --langue fr starts this run in French and leaves the stored language alone.
-    delete std::exchange(forme, nullptr);
-    Réglages().LangueDemandée = 1;
-    const bool démarré = Main();
-    Réglages().LangueDemandée = 0;
-    forme = FormePrincipale();
-    EXPECT_TRUE(démarré && Langues().Langue == 1 && Principal().FichierNouveau->text() == ChaîneTable(1056));
-    EXPECT_EQ(Valeur(CléJeu, "langue"), " 2");
+    for (const short demandée : {0, 1}) {
+        Jeu().PartieVierge = true, Langues().Langue = 1, Jeu().NomJoueur.clear(), Réglages().LangueDemandée = demandée;
+        delete std::exchange(forme, nullptr);
+        const bool démarré = Main();
+        forme = FormePrincipale(), Réglages().LangueDemandée = 0;
+        EXPECT_TRUE(démarré && Langues().Langue == (demandée ? 1 : 2) && Jeu().NomJoueur == "Zoé");
+        EXPECT_TRUE(Principal().FichierNouveau->text() == ChaîneTable(demandée ? 1056 : 1306) && Valeur(CléJeu, "langue") == " 2");
+    }
 }
 
 } // namespace
