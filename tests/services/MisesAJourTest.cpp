@@ -2,7 +2,6 @@
 // installed games, the reminder, and the list read from the site, served here by a
 // small HTTP server on 127.0.0.1.
 #include "Services.h"
-#include "results/PartieEnCours.h"
 
 #include <QElapsedTimer>
 #include <QLocale>

@@ -13,7 +13,7 @@ TEST_F(Registre, EachOperationAnswersByTheRootTheSeparatorsAndTheNumberOfPieces)
         profond += QStringLiteral("\\n%1").arg(i);
     for (const QString &clé : {CléJeu, profond})
         ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, "langue", " 2") == 0);
-    const QByteArray avant = Lit(fichier);
+    const QByteArray avant = Contenu(fichier);
     // What creating the key answers; reading and writing answer 0 or −1 alike.
     const std::pair<QString, i32> cas[] = {
         {"hkey_current_user\\Software\\Globarium\\Kelmor", 0}, {"  HKEY_CURRENT_USER\\\\Software\\\\Globarium\\Kelmor\\\\  ", 0},
@@ -28,7 +28,7 @@ TEST_F(Registre, EachOperationAnswersByTheRootTheSeparatorsAndTheNumberOfPieces)
         EXPECT_EQ(EcritValeur(chemin, "langue", " 2"), créé == 0 ? 0 : -1);
         EXPECT_EQ(CréeClé(chemin), créé);
     }
-    EXPECT_EQ(Lit(fichier), avant) << "nothing created or written";
+    EXPECT_EQ(Contenu(fichier), avant) << "nothing created or written";
     EXPECT_EQ(Valeur(CléJeu, "  LANGUE "), " 2") << "the value's name is trimmed and found in any case";
 }
 
@@ -40,9 +40,9 @@ TEST_F(Registre, CreationMakesEveryLevelOnceAndAMissingKeyAndAMissingValueAnswer
     ASSERT_EQ(CréeClé(CléJeu), 0);
     EXPECT_EQ(QStringList({Valeur(CléJeu, "version"), Valeur(CléFamille, "x")}), QStringList({"<-2>", "<-2>"}))
         << "the key and the level above it made, with no value";
-    const QByteArray après = Lit(fichier);
+    const QByteArray après = Contenu(fichier);
     EXPECT_EQ(CréeClé("hkey_current_user\\SOFTWARE\\Globarium\\Kelmor"), 0);
-    EXPECT_EQ(Lit(fichier), après) << "creating again changes nothing";
+    EXPECT_EQ(Contenu(fichier), après) << "creating again changes nothing";
     EXPECT_EQ(QList<i32>({CréeClé(CléJeu + '\\' + QString(256, 'k')), CréeClé(CléJeu + "\\a\nb"), CréeClé(CléJeu + '\\' + QString(255, 'k'))}),
               QList<i32>({-1, -1, 0}));
 
@@ -87,7 +87,7 @@ TEST_F(Registre, ADamagedFileChangedBehindTheStoreGivesWhatItStillHolds)
         "   \"langue\"   =   \" 2\"   \r\n\"bytes\"=\"\xFF\xFE\x00\x01\"\n"
         "[HKEY_NOWHERE\\Software]\n\"lost\"=\"x\"\n[HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor\n\"half header\"=\"x\"\n"
         "[hkey_current_user\\Software\\Globarium\\Arvenne]\n@=\"default\"\n\"joueur\"=\"Ana\"\n\"joueur\"=\"Ana again\"\n";
-    Ecrit(fichier, QByteArray(abîmé, sizeof abîmé - 1)); // with its NUL byte
+    EcritFichierEntier(fichier, QByteArray(abîmé, sizeof abîmé - 1)); // with its NUL byte
 
     const QString octets = Valeur(CléJeu, "bytes"), arvenne = CléFamille + "\\Arvenne";
     EXPECT_FALSE(octets.startsWith("<-")) << "bad UTF-8 is read as what it can be";
@@ -103,7 +103,7 @@ TEST_F(Registre, ADamagedFileChangedBehindTheStoreGivesWhatItStillHolds)
         ASSERT_EQ(EcritValeur(CléJeu, "joueur", "Zoé"), 0);
         InstalleFichierRegistre(fichier);
     }
-    EXPECT_FALSE(Lit(fichier).contains("orphan"));
+    EXPECT_FALSE(Contenu(fichier).contains("orphan"));
 }
 
 } // namespace

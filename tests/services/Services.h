@@ -1,38 +1,19 @@
 #pragma once
-// What the services' tests share: their headers, files and stored values read back, and a
-// store, message boxes and a clock of a test's own.
+// What the services' tests share: their headers, the stored values read back, and a store,
+// message boxes and a clock of a test's own.
 #include "Fixtures.h"
 
 #include "platform/Ansi.h"
-#include "platform/Ecran.h"
-#include "platform/Formes.h"
-#include "screen/EcranPrincipal.h"
-#include "services/Langues.h"
 #include "services/MisesAJour.h"
 #include "screen/ParametrageRepertoires.h"
-#include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/TableChaines.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 // Texts shown as text when a check fails.
 inline void PrintTo(const QString &s, std::ostream *os) { *os << '"' << s.toStdString() << '"'; }
 
-// The bytes of a file, empty when it can't be read.
-inline QByteArray Lit(const QString &chemin)
-{
-    QFile f(chemin);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-inline void Ecrit(const QString &chemin, const QByteArray &octets)
-{
-    QFile f(chemin);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(octets) == octets.size());
-}
 // The stored text, or "<-1>" / "<-2>" as the read answered; a failed read that touched the caller's text says so.
 inline QString Valeur(const QString &clé, const QString &nom)
 {

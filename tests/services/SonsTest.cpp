@@ -2,7 +2,6 @@
 #include "Services.h"
 
 #include "services/Sons.h"
-#include "results/PartieEnCours.h"
 
 namespace {
 
