@@ -12,14 +12,7 @@ protected:
     {
         Magasin::SetUp();
         ASSERT_TRUE(QDir().mkpath(programme) && QDir().mkpath(choisi));
-        Réglages().RépertoireApplication = programme;
-        // In the folder form the player goes to the next folder chosen and presses OK; past them, the close box.
-        InstalleFormesModales([this](QDialog &forme) {
-            auto &f = dynamic_cast<ParamétrageRépertoires &>(forme);
-            if (choix < dossiersChoisis.size() && f.ChangeRépertoire(dossiersChoisis[choix++]))
-                f.BoutonOK->click();
-            return f.result();
-        });
+        Réglages().RépertoireApplication = programme, ChoisiraDossiers({});
     }
     void TearDown() override { InstalleDossierProgramme(QString()), Magasin::TearDown(); }
 
@@ -50,8 +43,6 @@ protected:
     }
 
     QString programme = dossier.filePath("programme"), choisi = dossier.filePath("choisi");
-    QStringList dossiersChoisis;
-    qsizetype choix = 0;
     int magasins = 0;
 };
 
@@ -114,10 +105,10 @@ TEST_F(Paramètres, AFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven
     Pose(CléJeu, "répertoire", disparu);
     LitParamètres(Jeu()); // given up: the start goes on with what it had
     EXPECT_EQ(Dossiers(), QStringList({disparu, choisi + "/MES.SCS", choisi, disparu + '/', choisi + "/MES.SCS", choisi, dossierCourant}));
-    boîtes.journal.clear(), dossiersChoisis = {choisi};
+    boîtes.journal.clear(), ChoisiraDossiers({choisi});
     LitParamètres(Jeu());
     EXPECT_EQ(Dossiers(), QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi, choisi + "/KELMOR.SCS", choisi, choisi}));
-    Installation(nullptr), choix = 0;
+    Installation(nullptr), ChoisiraDossiers({choisi});
     ASSERT_TRUE(QFile(Réglages().RépertoireApplication = fichierProgramme).open(QIODevice::WriteOnly)); // nothing can be made in a file
     LitParamètres(Jeu());
     EXPECT_EQ(Vues(boîtes), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";

@@ -28,6 +28,17 @@ inline void Pose(const QString &clé, const QString &nom, const QString &texte)
     ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0);
 }
 
+// In the folder form the player goes to each folder given in turn and presses OK; past them, the close box.
+inline void ChoisiraDossiers(const QStringList &dossiers)
+{
+    InstalleFormesModales([dossiers, choix = qsizetype(0)](QDialog &forme) mutable {
+        auto &f = dynamic_cast<ParamétrageRépertoires &>(forme);
+        if (choix < dossiers.size() && f.ChangeRépertoire(dossiers[choix++]))
+            f.BoutonOK->click();
+        return f.result();
+    });
+}
+
 // The messages the boxes showed, by their ids: the longest message that starts a box's text (the
 // reminder goes on with the games to fetch); −1 for a box of none.
 inline QList<int> Vues(const BoîtesScriptées &boîtes)
@@ -50,22 +61,13 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(dossier.isValid());
-        InstalleFichierRegistre(fichier);
-        InstalleBoîtes(&boîtes);
-        InstalleMaintenant([this] { return maintenant; });
-        Réglages().RépertoireApplication = dossier.path();
-        Langues().Langue = 1;
-        ChargeChaînes();
+        InstalleFichierRegistre(fichier), InstalleBoîtes(&boîtes), InstalleMaintenant([this] { return maintenant; });
+        Réglages().RépertoireApplication = dossier.path(), Langues().Langue = 1, ChargeChaînes();
     }
     void TearDown() override
     {
-        QDir::setCurrent(dossierCourant);
-        InstalleFormesModales(nullptr);
-        InstalleMaintenant(nullptr);
-        InstalleBoîtes(nullptr);
-        InstalleFichierRegistre(QString());
-        Langues().Langue = 1;
-        ChargeChaînes();
+        QDir::setCurrent(dossierCourant), InstalleFormesModales(nullptr), InstalleMaintenant(nullptr), InstalleBoîtes(nullptr);
+        InstalleFichierRegistre(QString()), Langues().Langue = 1, ChargeChaînes();
     }
     QTemporaryDir dossier;
     QString fichier = dossier.filePath("registre.ini"), dossierCourant = QDir::currentPath();
