@@ -120,21 +120,6 @@ TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFift
     EXPECT_TRUE(e.result() == QDialog::Accepted && FicheEnEdition().FichierFichesOuvert.isEmpty() && Contenu(chemin).left(650) == Enreg("Nom 1", "court"));
 }
 
-// The reference is only renewed by a read: at the last record the same press of Right writes again, and
-// so does Down, which then reads the record back, so that the box holds no change any more.
-TEST_F(Editeur, AtTheLastRecordRightWritesAndStaysWhileDownReadsAgain)
-{
-    Edition e;
-    e.BTNDown->click(), e.TXTInfos->setPlainText("au bord");
-    QByteArray écrit = avant;
-    écrit.replace(25 * 650, 650, Enreg("Nom 26", "au bord"));
-    for (const auto &[b, écrite] : {std::pair{e.BTNRight, true}, {e.BTNRight, true}, {e.BTNDown, true}, {e.BTNDown, false}}) {
-        EcritFichierEntier(chemin, avant), b->click();
-        EXPECT_TRUE(FicheEnEdition().FicheEditée == 26 && Contenu(chemin) == (écrite ? écrit : avant));
-    }
-    EXPECT_EQ(e.TXTInfos->Text(), "Texte 26");
-}
-
 TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
 {
     ASSERT_TRUE(QFile::remove(chemin));
@@ -153,7 +138,7 @@ TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
 // ---------------------------------------------------------------- files made at the start
 
 // Both in the language in use: it is the player's to rewrite the other's.
-TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
+TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceAndAFolderThatCantBeWrittenAsksForAnother)
 {
     QFile::remove(Langues().CheminsInfo[1]), QFile::remove(Langues().CheminsInfo[2]);
     Relance();
@@ -171,14 +156,11 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
     Principal().MenuFichInfo->trigger();
     EXPECT_TRUE(FormesMontrées().back() == "Edition" && Edition().LBLPays->text() == "Waadt");
     ChangeLangue(1);
-}
 
-// The folder form asked for in the information cards' use; the folder given there takes the file.
-TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
-{
-    ASSERT_TRUE(QDir(dossier.path()).mkdir("cartes"));
-    ChoisiraDossiers({dossier.filePath("cartes")});
+    // A folder that can't be written asks for another in the cards' use, which takes the file.
     const QString disparu = dossier.filePath("parti");
+    ASSERT_TRUE(QDir(dossier.path()).mkdir("cartes"));
+    ChoisiraDossiers({dossier.filePath("cartes")}), boîtes.journal.clear();
     Langues().CheminsInfo[1] = (Réglages().RépertoireInfo = disparu) + "/KELMOR.INF", DemandeDossier().ModeRépertoires = TModeRépertoires::Aucun;
     CréeFichierInfo(Jeu(), 1);
     EXPECT_TRUE(boîtes.journal.size() == 3 && boîtes.journal[1].texte == Message(TMessage::RépertoireNonInscriptible) + " (" + disparu + "/)");
