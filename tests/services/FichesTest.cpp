@@ -1,5 +1,4 @@
-// The information cards: the card of a canton, the editor of the records, the files made
-// at the start, all on files of a temporary folder.
+// The information cards: a canton's card, the records' editor, the files made at the start.
 #include "Services.h"
 
 #include "screen/Edition.h"
@@ -50,8 +49,7 @@ TEST_F(Fiches, ACardShowsItsCantonAndItsRecordWithinTheWorkArea)
     EXPECT_TRUE(FormesMontrées().back() == "Pompe" && boîtes.journal.empty());
     EXPECT_EQ(E.rond[24]->size(), E.RondVille->size()) << "closed, the town's dot is at rest";
 
-    // On a narrow screen Graubünden has room on neither side; a low work area cuts the card, its OK
-    // moving up with the text box's bottom. The main window's frame stands for the card's.
+    // A narrow screen leaves Graubünden's card room on neither side; a low work area cuts it, the OK moving up.
     InstalleEcran(InfoEcran{800, 600, QRect(0, 0, 800, 400), 24});
     Relance();
     Jeu().CantonFiche = 10;
@@ -84,8 +82,6 @@ TEST_F(Fiches, ADamagedRecordShowsEmptyAndIsToldAndACardMakesNoFile)
     EXPECT_FALSE(QFile::exists(absent));
 }
 
-// ---------------------------------------------------------------- the editor
-
 TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFiftyBytesIsRefused)
 {
     // A text that the box shows with other line breaks or spaces is no change, nor is a name typed alone.
@@ -102,8 +98,8 @@ TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFift
     avant.replace(650, 650, QByteArray("\x05\x00" "Berne\x16\x00" "Capitale f\xE9" "d\xE9rale\r\nAar", 31) + QByteArray(619, '\0'));
     EXPECT_EQ(Contenu(chemin), avant);
 
-    // On record 1, 4 + 5 + 641 = 650, a line break counting two: it fits exactly, and one more is refused
-    // by every button, the editor staying as it was. Neither Escape nor the window's closing leave either.
+    // 4 + 5 + 641 = 650, a line break counting two, fits; one more is refused by every button, and neither
+    // Escape nor the close box leave.
     const QString juste = QString(320, 'a') + "\n" + QString(319, 'b');
     e.TXTInfos->setPlainText(juste), e.BTNUp->click();
     avant.replace(0, 650, Enreg("Nom 1", QByteArray(320, 'a') + "\r\n" + QByteArray(319, 'b')));
@@ -115,7 +111,6 @@ TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFift
     QTest::keyClick(&e, Qt::Key_Escape), e.close();
     EXPECT_TRUE(boîtes.journal.size() == 3 && boîtes.journal[2].texte == Message(TMessage::FicheTropLongue).arg(651));
     EXPECT_TRUE(e.TXTInfos->Text() == gardé && FicheEnEdition().FicheEditée == 1 && e.isVisible() && Contenu(chemin) == avant);
-    // Shortened, it is written and the editor closes.
     e.TXTInfos->setPlainText("court"), e.BTNQuit->click();
     EXPECT_TRUE(e.result() == QDialog::Accepted && FicheEnEdition().FichierFichesOuvert.isEmpty() && Contenu(chemin).left(650) == Enreg("Nom 1", "court"));
 }
@@ -128,14 +123,12 @@ TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
     // Left on the first record stays there.
     e.BTNLeft->click(), e.BTNRight->click(), e.BTNRight->click(), e.LBLPays->setText("Uri"), e.TXTInfos->setPlainText("Altdorf"), e.BTNRight->click();
     EXPECT_EQ(Contenu(chemin), QByteArray(1300, '\0') + Enreg("Uri", "Altdorf"));
-    // A folder that is gone: the message, with the length, and the editor stays.
+    // A folder that is gone: the message with the length, and the editor stays.
     FicheEnEdition().FichierFichesOuvert = dossier.filePath("parti/KELMOR.INF");
     e.TXTInfos->setPlainText("Zoug"), e.BTNLeft->click();
     EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.ADit(Message(TMessage::FicheTropLongue).arg(8)) && FicheEnEdition().FicheEditée == 4);
     EXPECT_FALSE(QDir(dossier.filePath("parti")).exists());
 }
-
-// ---------------------------------------------------------------- files made at the start
 
 // Both in the language in use: it is the player's to rewrite the other's.
 TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceAndAFolderThatCantBeWrittenAsksForAnother)

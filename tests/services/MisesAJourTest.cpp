@@ -14,7 +14,7 @@ QDate Le(int j, int m, int a) { return QDate(a, m, j); }
 const QString Updates = CléFamille + "\\Updates";
 const TJeu &Jeu(const QString &nom) { return Famille().JeuxFamille[IndiceJeu(nom)]; }
 
-// A game installed on this machine: its key, with a `version` text when given.
+// A game installed here: its key, with a `version` text when given.
 void Installe(const QString &jeu, const char *version = nullptr)
 {
     ASSERT_TRUE(CréeClé(CléFamille + '\\' + jeu) == 0 && (!version || EcritValeur(CléFamille + '\\' + jeu, "version", version) == 0));
@@ -28,8 +28,7 @@ QStringList Versions(const QStringList &noms, QString TJeu::*version = nullptr)
     return l;
 }
 
-// Answers every request with that status and page, or never when there is no status. Runs in the
-// test's own thread: the fetch's waiting loop serves it.
+// Answers with that status and page, or never without a status; the fetch's waiting loop serves it.
 struct Serveur {
     explicit Serveur(const char *statut, const QByteArray &corps = {})
     {
@@ -73,9 +72,8 @@ TEST_F(MisesAJour, VersionAndDateAreReadFromTheVersionText)
         EXPECT_EQ(ExtraitDate(texte), date) << texte;
 }
 
-// The table's list and Updates: the higher version wins both ways, compared as text ("10.00" is below "6.07");
-// a stored version brings no date, and a name the table doesn't hold stays apart. Then the family's keys
-// scanned, and the reminder listing the games behind.
+// Between the table and Updates the higher version wins both ways, as text ("10.00" is below "6.07"), bringing
+// no date; a name the table doesn't hold stays apart. Then the family's keys scanned, and the games behind listed.
 TEST_F(MisesAJour, TheListMergesTheTableUpdatesAndTheInstalledGamesAndTheReminderListsTheOnesBehind)
 {
     for (const auto &[nom, version] : {std::pair{"Arvenne", "5.20"}, {"Brisolie", "4.10"}, {"Kelmor", "10.00"}, {"Zébrane", "1.00"}})
@@ -86,15 +84,13 @@ TEST_F(MisesAJour, TheListMergesTheTableUpdatesAndTheInstalledGamesAndTheReminde
               QStringList({"5.20", "4.30", "6.07", "1.00", "3.60", "5.20", "4.30", "6.07", "-", "3.60"}));
     EXPECT_TRUE(Famille().NombreJeux == 12 && Jeu("Arvenne").DateDisponible == Le(14, 3, 2007));
 
-    Installe("Arvenne", "Version 5.20 du 14/03/2007");   // as known
-    Installe("Brisolie");                                // no version: behind
-    Installe("Corvalie", "Version 3.10 du 01/02/2007");  // ahead of the table: becomes the known one
-    Installe("Dunmark", "Version 2.41 du 01/01/2004");   // same version, older copy
-    Installe("Estrava", "Version 3.99 du 01/01/2010");   // older version, later date
-    Installe("Kelmor", "Version 6.07 du 30/07/2008");    // this game, dated later than its row
-    Installe("Zébrane", "Version 1.00 du 05/05/2020");   // a game the table doesn't know
-    Installe("Orvelle");                                 // another, without a version
-    Installe("Faldine\\Extensions");                    // one level down only: Faldine is there
+    // As known; without a version (behind); ahead of the table (becomes the known one); same version, older copy;
+    // older version, later date; this game, later than its row; two unknown to the table; Faldine one level up.
+    for (const auto &[jeu, version] : {std::pair<const char *, const char *>{"Arvenne", "Version 5.20 du 14/03/2007"}, {"Brisolie", nullptr},
+                                       {"Corvalie", "Version 3.10 du 01/02/2007"}, {"Dunmark", "Version 2.41 du 01/01/2004"},
+                                       {"Estrava", "Version 3.99 du 01/01/2010"}, {"Kelmor", "Version 6.07 du 30/07/2008"},
+                                       {"Zébrane", "Version 1.00 du 05/05/2020"}, {"Orvelle", nullptr}, {"Faldine\\Extensions", nullptr}})
+        Installe(jeu, version);
     ExploreJeux();
     ASSERT_EQ(Famille().NombreJeux, 14) << "Updates itself is no game";
     const QStringList noms{"Arvenne", "Brisolie", "Corvalie", "Faldine", "Gorvane", "Zébrane", "Orvelle"};
@@ -139,8 +135,7 @@ TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
     EXPECT_EQ(Famille().NombreJeux, 14);
 }
 
-// A page that can't be had in time, is refused or is too long comes back empty; the silent server
-// holds the fetch for the whole time-out, and no longer.
+// A page refused, too long or not had in time is empty; the silent server holds the fetch for the time-out only.
 TEST_F(MisesAJour, APageThatCantBeHadIsEmptyAndOneOfTheLongestLengthIsRead)
 {
     const QByteArray jeu = "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->";
@@ -170,8 +165,7 @@ TEST_F(MisesAJour, APageThatCantBeHadIsEmptyAndOneOfTheLongestLengthIsRead)
     EXPECT_EQ(AdressePage(), QUrl("http://127.0.0.1:9/essai/jeux/listejeux.htm")) << "another root, with no final separator";
 }
 
-// From the menu of the running game, through the main form's own transfer control; the running copy
-// counts as installed. A page that can't be had is one without games: the reminder of what is known.
+// From the running game's menu, which counts as installed; a page that can't be had reminds of what is known.
 using MisesAJourDuJeu = JeuTest;
 
 TEST_F(MisesAJourDuJeu, TheMenuEntryReadsTheSitesListThenReminds)

@@ -1,5 +1,4 @@
-// The folder form: what OK writes in each use, the folders it refuses, the subfolder made from it and the
-// folders it can't show, on temporary folders.
+// The folder form: what OK writes in each use, the folders it refuses or can't show, the subfolder it makes.
 #include "Services.h"
 
 #include <QComboBox>
@@ -31,13 +30,7 @@ protected:
         ASSERT_TRUE(CréeClé(CléJeu) == 0 && QDir::setCurrent(Chemin("courant")));
     }
     QString Chemin(const char *nom) const { return dossier.filePath(nom); }
-    // répertoire, fichier de lancement, répertoire information as stored ("<-2>" for one not written),
-    // then the save folder, the score file, the information folder and files, the current folder.
-    QStringList Etat() const
-    {
-        return {Valeur(CléJeu, "répertoire"), Valeur(CléJeu, "fichier de lancement"), Valeur(CléJeu, "répertoire information"),
-                Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, Langues().CheminsInfo[1], Langues().CheminsInfo[2], QDir::currentPath()};
-    }
+    QStringList Etat() const { return Magasin::Dossiers() << Langues().CheminsInfo[1] << Langues().CheminsInfo[2]; }
     int magasins = 0;
 };
 
@@ -55,8 +48,8 @@ TEST_F(Dossiers, EachUseStartsWhereItShouldAndItsOKWritesItsOwnValuesOnly)
         f.BoutonOK->click();
         EXPECT_TRUE(f.result() == QDialog::Accepted && boîtes.journal.empty() && !QFile::exists(choisi + "/~zut.tmp"))
             << "the write test leaves nothing behind";
-        EXPECT_EQ(Etat(), mode == DossierJeu ? QStringList({choisi, choisi + "/KELMOR.SCS", "<-2>", choisi, "KELMOR.SCS", infos, "avant/KELMOR.INF", "avant/DRAVELN.INF", choisi})
-                                             : QStringList({"<-2>", "<-2>", choisi, "avant", "avant/MES.SCS", choisi, choisi + "/KELMOR.INF", "avant/DRAVELN.INF", courant}));
+        EXPECT_EQ(Etat(), mode == DossierJeu ? QStringList({choisi, choisi + "/KELMOR.SCS", "<-2>", choisi, "KELMOR.SCS", infos, choisi, "avant/KELMOR.INF", "avant/DRAVELN.INF"})
+                                             : QStringList({"<-2>", "<-2>", choisi, "avant", "avant/MES.SCS", choisi, courant, choisi + "/KELMOR.INF", "avant/DRAVELN.INF"}));
     }
 }
 
@@ -86,8 +79,7 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
     ParamétrageRépertoires f;
     f.show();
     ASSERT_TRUE(f.ChangeRépertoire(choisi));
-    // No name, an existing folder, a file in the way, a name under a folder that isn't there, a new one twice.
-    // Making a folder neither goes into it nor moves the process.
+    // No name, an existing folder, a file in the way, a missing parent, a new one twice: none goes into it.
     for (const auto &[nom, fait, message] : {std::tuple<const char *, std::optional<bool>, int>{"", std::nullopt, 0},
                                              {"sous", false, 125}, {"un fichier", false, 120}, {"absent/dessous", false, 120},
                                              {"Parties d'été", true, 0}, {"Parties d'été", false, 125}}) {
@@ -98,8 +90,7 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
     }
     EXPECT_TRUE(QFileInfo(Chemin("choisi/Parties d'été")).isDir() && !QFileInfo::exists(Chemin("choisi/absent")));
 
-    // Enter in the box makes the folder and goes into it, and in the list goes up: neither presses OK, and
-    // Escape does nothing.
+    // Enter in the box makes the folder and goes in, in the list goes up: neither presses OK, nor does Escape.
     f.SousRépertoire->clear(), f.Command1->click(), QTest::keyClicks(f.SousRépertoire, "neuf"), QTest::keyClick(f.SousRépertoire, Qt::Key_Return);
     EXPECT_EQ(f.Chemin(), choisi + "/neuf");
     f.Répertoire->setCurrentRow(0), QTest::keyClick(f.Répertoire, Qt::Key_Return), QTest::keyClick(&f, Qt::Key_Escape);
@@ -116,14 +107,10 @@ TEST_F(Dossiers, FoldersThatCantBeShownLeaveTheListWhereItStood)
     DemandeDossier().ModeRépertoires = DossierInfo, Réglages().RépertoireInfo = Chemin("parti");
     ParamétrageRépertoires f;
     f.BoutonOK->click();
-    EXPECT_TRUE(boîtes.journal.empty() && Etat()[2] == Chemin("courant") && Réglages().RépertoireInfo == Chemin("courant"));
-
-    // A folder taken away between the listing and the double click, a file, nothing: passed over in silence,
-    // the lists read again.
+    EXPECT_TRUE(boîtes.journal.empty() && Etat()[2] == Chemin("courant") && Réglages().RépertoireInfo == Chemin("courant"));    // A folder gone before its double click, a file: passed over in silence, the lists read again.
     ASSERT_TRUE(f.ChangeRépertoire(Chemin("choisi")) && QDir(Chemin("choisi/sous")).removeRecursively());
     emit f.Répertoire->itemActivated(f.Répertoire->item(1));
-    EXPECT_FALSE(f.ChangeRépertoire(Chemin("choisi/KELMOR.SCS")) || f.ChangeRépertoire(QString()));
-    EXPECT_TRUE(Liste(f.Répertoire) == QStringList{".."} && f.Chemin() == Chemin("choisi") && boîtes.journal.empty());
+    EXPECT_TRUE(!f.ChangeRépertoire(Chemin("choisi/KELMOR.SCS")) && Liste(f.Répertoire) == QStringList{".."} && f.Chemin() == Chemin("choisi"));
 }
 
 } // namespace

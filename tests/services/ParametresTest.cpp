@@ -1,5 +1,4 @@
-// The settings read at the start: first run, upgrade, ordinary run, the reminder
-// every 60 days, the language and the folders.
+// The settings read at the start: first run, upgrade, ordinary run, the reminder, the language, the folders.
 #include "Services.h"
 
 namespace {
@@ -16,8 +15,7 @@ protected:
     }
     void TearDown() override { InstalleDossierProgramme(QString()), Magasin::TearDown(); }
 
-    // A store of its own, in French with nothing read yet, holding what an earlier run with a folder of
-    // the player's own left: nothing at all without a version, no version for "-", the running one for "*".
+    // A store of its own as an earlier run left it: nothing without a version, none for "-", this one's for "*".
     void Installation(const char *version = "*", const char *date = "2024-05-01 08:00:00", const char *langue = "1")
     {
         Réglages().RépertoireSauvegarde.clear(), Réglages().RépertoireInfo.clear(), Réglages().FichierLancement.clear(), Jeu().NomJoueur.clear();
@@ -34,19 +32,13 @@ protected:
                 Pose(CléJeu, nom, texte);
         ChargeListeJeux(); // the family's versions known, under Updates
     }
-    // The stored folders and score file, then the same in memory and the current folder.
-    QStringList Dossiers() const
-    {
-        return {Valeur(CléJeu, "répertoire"), Valeur(CléJeu, "fichier de lancement"), Valeur(CléJeu, "répertoire information"),
-                Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, QDir::currentPath()};
-    }
 
     QString programme = dossier.filePath("programme"), choisi = dossier.filePath("choisi");
     int magasins = 0;
 };
 
-// A first run when `version` is missing or empty, an upgrade when it differs in any way. Both write the
-// defaults; a first run forgets player and language, and reminds (message 123).
+// A first run when `version` is missing or empty, an upgrade when it differs at all: both write the defaults,
+// a first run also forgets player and language, and reminds.
 TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPlayerAndLanguage)
 {
     for (const auto &[version, premier] : {std::pair<const char *, bool>{nullptr, true}, {"-", true}, {"", true}, {" ", false},
@@ -61,8 +53,7 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
         EXPECT_EQ(Dossiers(), QStringList({programme + '/', programme + "/KELMOR.SCS", programme + '/', programme + '/',
                                            premier ? "KELMOR.SCS" : programme + "/KELMOR.SCS", programme + '/', programme}));
         EXPECT_TRUE(Réglages().ParamètresLus && Jeu().NomJoueur == (premier ? "" : "Zoé") && Langues().Langue == (premier ? 1 : 2));
-        EXPECT_TRUE(Message(TMessage::VersionDuJeu) == ChaîneTable(premier ? 1000 : 1250) && Réglages().VersionJeu == ChaîneTable(1000))
-            << "the version kept always in French";
+        EXPECT_EQ(Réglages().VersionJeu, ChaîneTable(1000)) << "the version kept always in French";
     }
 }
 
@@ -90,8 +81,7 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
     }
 }
 
-// A save folder that can't be written is asked for (the form's own refusals are its own test): at each
-// start until one is given, and at a first run in a program folder that can't be written, before the reminder.
+// A save folder that can't be written is asked for at each start until one is given, at a first run before the reminder.
 TEST_F(Paramètres, AFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
 {
     Installation();
@@ -135,8 +125,7 @@ TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLe
     EXPECT_EQ(QDir(dossier.path()).entryList({"registre1.ini.*"}), QStringList({"registre1.ini.Ab12Cde", "registre1.ini.bak"}));
 }
 
-// Through the game: what the player changes is there at the next start; the third language entry changes
-// nothing. --langue fr starts a run in French and leaves the stored language alone.
+// The third language entry changes nothing; --langue fr is for one run and leaves the stored language alone.
 using ParamètresDuJeu = JeuTest;
 
 TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStartAndTheCommandLinesLanguageIsForOneRun)

@@ -1,5 +1,4 @@
-// The settings store: paths, result codes, the file behind it and what a damaged file gives.
-// Random bytes in the file are left to the fuzz target (tests/fuzz/FuzzRegistre.cpp).
+// The settings store: paths, result codes, its file and what a damaged one gives (random bytes: FuzzRegistre).
 #include "Services.h"
 
 namespace {
@@ -53,8 +52,7 @@ TEST_F(Registre, CreationMakesEveryLevelOnceAndAMissingKeyAndAMissingValueAnswer
     EXPECT_TRUE(CréeClé(CléJeu) == 0 && QFile::exists(dossier.filePath("a/b/registre.ini")));
 }
 
-// The file as another copy of the game, or a hand, left it since this one read it; what it still holds
-// survives the next write, escapes and all, which goes through a temporary file that takes its place.
+// Changed by another copy or a hand since it was read; what it holds survives a write, through a temporary file.
 TEST_F(Registre, ADamagedFileChangedBehindTheStoreGivesWhatItStillHoldsAndAWriteKeepsIt)
 {
     ASSERT_TRUE(CréeClé(CléJeu) == 0 && EcritValeur(CléJeu, "version", "read before") == 0);

@@ -1,6 +1,5 @@
 #pragma once
-// What the services' tests share: their headers, the stored values read back, and a store,
-// message boxes and a clock of a test's own.
+// What the services' tests share: headers, stored values read back, a store, boxes and a clock of their own.
 #include "Fixtures.h"
 
 #include "platform/Ansi.h"
@@ -39,8 +38,7 @@ inline void ChoisiraDossiers(const QStringList &dossiers)
     });
 }
 
-// The messages the boxes showed, by their ids: the longest message that starts a box's text (the
-// reminder goes on with the games to fetch); −1 for a box of none.
+// The boxes' messages by id: the longest one that starts the box's text, −1 for none.
 inline QList<int> Vues(const BoîtesScriptées &boîtes)
 {
     QList<int> vues;
@@ -54,8 +52,7 @@ inline QList<int> Vues(const BoîtesScriptées &boîtes)
     return vues;
 }
 
-// A store in a temporary folder, which is also the program's, boxes and a clock of the test's own,
-// in French; the current folder put back.
+// A store in a temporary folder, also the program's, in French; the current folder put back.
 class Magasin : public ::testing::Test {
 protected:
     void SetUp() override
@@ -68,6 +65,12 @@ protected:
     {
         QDir::setCurrent(dossierCourant), InstalleFormesModales(nullptr), InstalleMaintenant(nullptr), InstalleBoîtes(nullptr);
         InstalleFichierRegistre(QString()), Langues().Langue = 1, ChargeChaînes();
+    }
+    // The three folder values stored ("<-2>" when not written), the same in memory, and the current folder.
+    QStringList Dossiers() const
+    {
+        return {Valeur(CléJeu, "répertoire"), Valeur(CléJeu, "fichier de lancement"), Valeur(CléJeu, "répertoire information"),
+                Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, QDir::currentPath()};
     }
     QTemporaryDir dossier;
     QString fichier = dossier.filePath("registre.ini"), dossierCourant = QDir::currentPath();

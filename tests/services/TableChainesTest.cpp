@@ -1,5 +1,4 @@
-// The compiled-in string table: every message in both languages, the rows that the
-// rest of the program reads by id, the canton rows and the family's list.
+// The compiled-in string table: the messages in both languages, the canton rows, the addresses.
 #include "Services.h"
 
 #include <QRegularExpression>
@@ -8,10 +7,8 @@ namespace {
 
 QString T(int id) { return ChaîneTable(id); }
 
-// Row 1 counts the messages of each language; German's are French's 250 ids on. They keep the French's
-// joins and their place for the caller's number or path (%1): a lost trailing blank or line break runs words
-// together on screen. The German is built otherwise in 1069 and 1123 (a line less), 1166 (left blank) and
-// 1104 (no blank before the version joined to it).
+// Row 1 counts each language's messages, German's 250 ids on; they keep the French's joins and %1, as a lost
+// blank or line break runs words together. 1069 and 1123 (a line less), 1104 and 1166 are built otherwise.
 TEST(TableChaines, EveryMessageOfBothLanguagesIsThereWithTheFrenchsJoins)
 {
     const int dernier = T(1).toInt();
@@ -26,9 +23,7 @@ TEST(TableChaines, EveryMessageOfBothLanguagesIsThereWithTheFrenchsJoins)
     EXPECT_TRUE(ExtraitVersion(T(1000)) == LitChamp(T(6009), 2) && ExtraitVersion(T(1250)) == LitChamp(T(6009), 2));
 }
 
-// The canton rows' places are checked against the raster and the pictures with the data, the family's list
-// in the update check's tests; here each canton has a plate of its own and German names, and addresses are
-// placeholders only.
+// The cantons' places are the data's test, the family's list the update check's.
 TEST(TableChaines, EachCantonHasItsPlateAndGermanNamesAndOnlyPlaceholderAddressesAppear)
 {
     QSet<QString> plaques;
