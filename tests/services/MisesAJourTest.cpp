@@ -56,21 +56,8 @@ struct Serveur {
 class MisesAJour : public Magasin {
 protected:
     void SetUp() override { Magasin::SetUp(), QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); }
-    void TearDown() override { QLocale::setDefault(QLocale::system()), InstalleAdressePage({}), InstalleDélaiPage(0ms), Magasin::TearDown(); }
+    void TearDown() override { QLocale::setDefault(QLocale::system()), Magasin::TearDown(); }
 };
-
-TEST_F(MisesAJour, VersionAndDateAreReadFromTheVersionText)
-{
-    for (const auto &[texte, version] : {std::pair{"Version 6.07 du 30/07/2008", "6.07"}, {"Version   v10.2b du", "10.2"},
-                                         {"Version .5 x", ".5"}, {"Version", ""}, {"Version ", ""}, {"Version sans numéro", ""}, {"6.07", ""}})
-        EXPECT_EQ(ExtraitVersion(texte), version) << texte;
-    for (const auto &[texte, date] : {std::pair{"Version 6.07 du 30/07/2008", Le(30, 7, 2008)},
-                                      {"Version 6.07 vom 30.07.2008", Le(30, 7, 2008)}, {"01/02/2003", Le(1, 2, 2003)},
-                                      {"du 5/3/07", Le(5, 3, 2007)}, {"du 5/3/45", Le(5, 3, 1945)}, {"le 2024-02-29", Le(29, 2, 2024)},
-                                      {"du 29/02/2023", AucuneDate}, {"du 30/07/2008 ", AucuneDate}, {"du 30/07", AucuneDate},
-                                      {"du 30/07-2008", AucuneDate}, {"Version 6.07", AucuneDate}, {"", AucuneDate}})
-        EXPECT_EQ(ExtraitDate(texte), date) << texte;
-}
 
 // Between the table and Updates the higher version wins both ways, as text ("10.00" is below "6.07"), bringing
 // no date; a name the table doesn't hold stays apart. Then the family's keys scanned, and the games behind listed.
@@ -111,8 +98,18 @@ TEST_F(MisesAJour, TheListMergesTheTableUpdatesAndTheInstalledGamesAndTheReminde
     EXPECT_EQ(TexteRappel(TFamille{}), Message(TMessage::VisiterLeSite)) << "nothing behind: the site's message alone";
 }
 
-TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
+// The version and the date of an installed game's text, then the site's comments.
+TEST_F(MisesAJour, VersionTextsAndTheSitesCommentsGiveVersionsDatesAndGames)
 {
+    for (const auto &[texte, version] : {std::pair{"Version 6.07 du 30/07/2008", "6.07"}, {"Version   v10.2b du", "10.2"},
+                                         {"Version .5 x", ".5"}, {"Version", ""}, {"Version ", ""}, {"Version sans numéro", ""}, {"6.07", ""}})
+        EXPECT_EQ(ExtraitVersion(texte), version) << texte;
+    for (const auto &[texte, date] : {std::pair{"Version 6.07 du 30/07/2008", Le(30, 7, 2008)},
+                                      {"Version 6.07 vom 30.07.2008", Le(30, 7, 2008)}, {"01/02/2003", Le(1, 2, 2003)},
+                                      {"du 5/3/07", Le(5, 3, 2007)}, {"du 5/3/45", Le(5, 3, 1945)}, {"le 2024-02-29", Le(29, 2, 2024)},
+                                      {"du 29/02/2023", AucuneDate}, {"du 30/07/2008 ", AucuneDate}, {"du 30/07", AucuneDate},
+                                      {"du 30/07-2008", AucuneDate}, {"Version 6.07", AucuneDate}, {"", AucuneDate}})
+        EXPECT_EQ(ExtraitDate(texte), date) << texte;
     ChargeListeJeux(), Installe("Kelmor", "Version 6.07 du 30/07/2008"), Installe("Corvalie", "Version 3.05 du 20/06/2005");
     LitListePage("<html><head><!-- le menu du site --><title>Jeux</title></head><body>\n"
                  "<!--Arvenne#5.20#01/09/2008#Les départements arvennais, 2e édition-->\n<p>texte</p>"
@@ -135,9 +132,22 @@ TEST_F(MisesAJour, TheSitesCommentsBringNewVersionsDatesAndGames)
     EXPECT_EQ(Famille().NombreJeux, 14);
 }
 
-// A page refused, too long or not had in time is empty; the silent server holds the fetch for the time-out only.
-TEST_F(MisesAJour, APageThatCantBeHadIsEmptyAndOneOfTheLongestLengthIsRead)
+// From the running game's menu, which counts as installed; a page that can't be had reminds of what is known.
+using MisesAJourDuJeu = JeuTest;
+
+TEST_F(MisesAJourDuJeu, TheMenuEntryReadsTheSitesListThenRemindsAndAPageThatCantBeHadIsEmpty)
 {
+    Serveur serveur("200 OK", "<html><!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens--></html>");
+    InstalleAdressePage(serveur.Site());
+    Principal().FichierVersion->trigger();
+    EXPECT_TRUE(serveur.requête.startsWith("GET /jeux/listejeux.htm HTTP/1.1\r\n") && serveur.pointeurPendant == PointeurSablier);
+    ASSERT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].titre == Message(TMessage::TitrePublicité));
+    EXPECT_TRUE(boîtes.ADit("\r\nLes fjords nordhaliens : version 1.00 du ") && !boîtes.ADit("kelmors"));
+    serveur.serveur.close();
+    Principal().FichierVersion->trigger();
+    EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[1].texte == boîtes.journal[0].texte);
+
+    // A page refused, too long or not had in time is empty; the silent server holds the fetch for the time-out only.
     const QByteArray jeu = "<!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens-->";
     Serveur absent("200 OK"), introuvable("404 Not Found", jeu), muet(nullptr);
     Serveur long_("200 OK", jeu + QByteArray(LongueurMaxPage + 1 - jeu.size(), ' '));
@@ -163,22 +173,7 @@ TEST_F(MisesAJour, APageThatCantBeHadIsEmptyAndOneOfTheLongestLengthIsRead)
     EXPECT_EQ(DécodePage("<p>Les jeux du caf\xE9"), "<p>Les jeux du café");
     InstalleAdressePage(QUrl("http://127.0.0.1:9/essai"));
     EXPECT_EQ(AdressePage(), QUrl("http://127.0.0.1:9/essai/jeux/listejeux.htm")) << "another root, with no final separator";
-}
-
-// From the running game's menu, which counts as installed; a page that can't be had reminds of what is known.
-using MisesAJourDuJeu = JeuTest;
-
-TEST_F(MisesAJourDuJeu, TheMenuEntryReadsTheSitesListThenReminds)
-{
-    Serveur serveur("200 OK", "<html><!--Nordhal#1.00#15/06/2009#Les fjords nordhaliens--></html>");
-    InstalleAdressePage(serveur.Site());
-    Principal().FichierVersion->trigger();
-    EXPECT_TRUE(serveur.requête.startsWith("GET /jeux/listejeux.htm HTTP/1.1\r\n") && serveur.pointeurPendant == PointeurSablier);
-    ASSERT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].titre == Message(TMessage::TitrePublicité));
-    EXPECT_TRUE(boîtes.ADit("\r\nLes fjords nordhaliens : version 1.00 du ") && !boîtes.ADit("kelmors"));
-    serveur.serveur.close();
-    Principal().FichierVersion->trigger();
-    EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[1].texte == boîtes.journal[0].texte);
+    InstalleDélaiPage(0ms);
 }
 
 } // namespace
