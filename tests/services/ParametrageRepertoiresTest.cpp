@@ -53,9 +53,19 @@ TEST_F(Dossiers, EachUseStartsWhereItShouldAndItsOKWritesItsOwnValuesOnly)
     }
 }
 
-// One where the write test's file can't be deleted (also for root), one taken away while shown.
-TEST_F(Dossiers, AFolderThatCantBeWrittenIsRefusedAndTheFormStaysForAnother)
+// The information folder gone, the list stays on the current folder; a folder that can't be written is refused
+// and the form stays for another: one where the write test's file can't be deleted (also for root), one taken away.
+TEST_F(Dossiers, AFolderThatCantBeShownLeavesTheListWhereItStoodAndOneThatCantBeWrittenIsRefused)
 {
+    DemandeDossier().ModeRépertoires = DossierInfo, Réglages().RépertoireInfo = Chemin("parti");
+    ParamétrageRépertoires g;
+    g.BoutonOK->click();
+    EXPECT_TRUE(boîtes.journal.empty() && Etat()[2] == Chemin("courant") && Réglages().RépertoireInfo == Chemin("courant"));
+    // A folder gone before its double click, a file: passed over in silence, the lists read again.
+    ASSERT_TRUE(g.ChangeRépertoire(Chemin("choisi")) && QDir(Chemin("choisi/sous")).removeRecursively());
+    emit g.Répertoire->itemActivated(g.Répertoire->item(1));
+    EXPECT_TRUE(!g.ChangeRépertoire(Chemin("choisi/KELMOR.SCS")) && Liste(g.Répertoire) == QStringList{".."} && g.Chemin() == Chemin("choisi"));
+
     for (const auto &[mode, refusé, retiré] : {std::tuple{DossierJeu, "bloqué", false}, {DossierInfo, "retiré", true}}) {
         SCOPED_TRACE(refusé);
         ASSERT_TRUE(QDir().mkpath(Chemin(refusé) + (retiré ? "" : "/~zut.tmp")));
@@ -99,18 +109,6 @@ TEST_F(Dossiers, ASubfolderIsMadeOnceAndANameThatCantBeMadeIsRefused)
     // A new name left in the box when OK is pressed is made and chosen.
     boîtes.journal.clear(), f.SousRépertoire->setText("nouveau"), f.BoutonOK->click();
     EXPECT_TRUE(boîtes.journal.empty() && Etat().mid(0, 3) == QStringList({choisi + "/nouveau", choisi + "/nouveau/KELMOR.SCS", "<-2>"}));
-}
-
-TEST_F(Dossiers, FoldersThatCantBeShownLeaveTheListWhereItStood)
-{
-    // The information folder is gone: the list stays on the current folder, and OK takes that one.
-    DemandeDossier().ModeRépertoires = DossierInfo, Réglages().RépertoireInfo = Chemin("parti");
-    ParamétrageRépertoires f;
-    f.BoutonOK->click();
-    EXPECT_TRUE(boîtes.journal.empty() && Etat()[2] == Chemin("courant") && Réglages().RépertoireInfo == Chemin("courant"));    // A folder gone before its double click, a file: passed over in silence, the lists read again.
-    ASSERT_TRUE(f.ChangeRépertoire(Chemin("choisi")) && QDir(Chemin("choisi/sous")).removeRecursively());
-    emit f.Répertoire->itemActivated(f.Répertoire->item(1));
-    EXPECT_TRUE(!f.ChangeRépertoire(Chemin("choisi/KELMOR.SCS")) && Liste(f.Répertoire) == QStringList{".."} && f.Chemin() == Chemin("choisi"));
 }
 
 } // namespace

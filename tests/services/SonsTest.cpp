@@ -7,21 +7,18 @@ namespace {
 
 using Sons = JeuTest;
 
-// The value that wasn't there exists afterwards, empty; a missing key is never made.
-TEST_F(Sons, TheSchemesSoundsAreEmptiedForTheRunAndPutBack)
+// Of the scheme's sounds, a value that wasn't there exists afterwards, empty; a missing key is never made.
+TEST_F(Sons, TheSchemesSoundsAreEmptiedForTheRunAndPutBackAndTheSwitchSilencesTheGame)
 {
     const QString schéma = "HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\System%1\\.current";
     Pose(schéma.arg("Exclamation"), "", "/sons/ding.wav");
     ASSERT_EQ(CréeClé(schéma.arg("Question")), 0);
-    const auto sons = [&] { return QStringList({Valeur(schéma.arg("Exclamation"), ""), Valeur(schéma.arg("Question"), ""), Valeur(schéma.arg("Hand"), "")}); };
+    const auto schémas = [&] { return QStringList({Valeur(schéma.arg("Exclamation"), ""), Valeur(schéma.arg("Question"), ""), Valeur(schéma.arg("Hand"), "")}); };
     CoupeSonsSystème();
-    EXPECT_EQ(sons(), QStringList({"", "<-2>", "<-1>"}));
+    EXPECT_EQ(schémas(), QStringList({"", "<-2>", "<-1>"}));
     RestaureSonsSystème();
-    EXPECT_EQ(sons(), QStringList({"/sons/ding.wav", "", "<-1>"}));
-}
+    EXPECT_EQ(schémas(), QStringList({"/sons/ding.wav", "", "<-1>"}));
 
-TEST_F(Sons, TheSwitchSilencesTheGameAndSaysSoInTheMenu)
-{
     NouvellePartieAuNiveau(3);
     for (const bool actif : {false, true}) {
         Principal().Menuson->trigger(), sons.joués.clear(), RépondFaux();

@@ -9,7 +9,7 @@ QString T(int id) { return ChaîneTable(id); }
 
 // Row 1 counts each language's messages, German's 250 ids on; they keep the French's joins and %1, as a lost
 // blank or line break runs words together. 1069 and 1123 (a line less), 1104 and 1166 are built otherwise.
-TEST(TableChaines, EveryMessageOfBothLanguagesIsThereWithTheFrenchsJoins)
+TEST(TableChaines, EveryMessageInBothLanguagesWithTheFrenchsJoinsTheCantonsRowsAndOnlyPlaceholderAddresses)
 {
     const int dernier = T(1).toInt();
     for (int id = 1000; id <= 1000 + dernier; ++id) {
@@ -21,11 +21,9 @@ TEST(TableChaines, EveryMessageOfBothLanguagesIsThereWithTheFrenchsJoins)
         EXPECT_FALSE(ChaîneExiste(id)) << id;
     // The running copy's version, in both languages, is its row in the family's list.
     EXPECT_TRUE(ExtraitVersion(T(1000)) == LitChamp(T(6009), 2) && ExtraitVersion(T(1250)) == LitChamp(T(6009), 2));
-}
 
-// The cantons' places are the data's test, the family's list the update check's.
-TEST(TableChaines, EachCantonHasItsPlateAndGermanNamesAndOnlyPlaceholderAddressesAppear)
-{
+    // Each canton has a plate of its own and German names (their places are the data's test), and addresses
+    // are placeholders only.
     QSet<QString> plaques;
     for (int k = 1; k <= 26; ++k) {
         plaques.insert(LitChamp(T(2000 + k), 5));
