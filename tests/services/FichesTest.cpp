@@ -33,8 +33,7 @@ using Editeur = Fiches;
 // The name and the chief town are the game's own, the text the record's, read in Windows-1252.
 TEST_F(Fiches, ACardShowsItsCantonAndItsRecord)
 {
-    avant.replace(23 * 650, 650, Enreg("Waadt", "Capitale olympique.\r\nL\xE9man\xA0: 582 km\xB2"));
-    EcritFichierEntier(chemin, avant);
+    EcritFichierEntier(chemin, avant.replace(23 * 650, 650, Enreg("Waadt", "Capitale olympique.\r\nL\xE9man\xA0: 582 km\xB2")));
     auto &E = Principal();
     LanceRévision(), boîtes.journal.clear();
     InstalleFormesModales([&](QDialog &d) {
@@ -65,11 +64,9 @@ TEST(PlaceFiche, TheWholeCardFrameIncludedStaysInTheWorkArea)
 TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFiftyBytesIsRefused)
 {
     // A text that the box shows with other line breaks or spaces is no change, nor is a name typed alone.
-    avant.replace(2 * 650, 650, Enreg("Lucerne", "une\nligne\xA0seule"));
-    EcritFichierEntier(chemin, avant);
+    EcritFichierEntier(chemin, avant.replace(2 * 650, 650, Enreg("Lucerne", "une\nligne\xA0seule")));
     Edition e;
-    e.show();
-    e.BTNRight->click(), e.LBLPays->setText("Nom changé seul");
+    e.show(), e.BTNRight->click(), e.LBLPays->setText("Nom changé seul");
     for (BoutonGraphique *b : {e.BTNRight, e.BTNRight, e.BTNLeft, e.BTNLeft})
         b->click();
     EXPECT_TRUE(e.LBLPays->text() == "Nom 2" && Contenu(chemin) == avant);
@@ -99,8 +96,7 @@ TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFift
 // one in the editor, which makes the file and grows it by empty records; a failed write says so.
 TEST_F(Editeur, ADamagedRecordIsToldAMissingOneIsEmptyAndAFailedWriteSaysSo)
 {
-    avant.replace(2 * 650 + 7, 2, "\xFF\x02"); // record 3's text runs past its 650 bytes
-    EcritFichierEntier(chemin, avant);
+    EcritFichierEntier(chemin, avant.replace(2 * 650 + 7, 2, "\xFF\x02")); // record 3's text runs past its 650 bytes
     const QString absent = dossier.filePath("absent.INF");
     EXPECT_TRUE(FicheMontrée(chemin, 3).Texte.isEmpty() && FicheMontrée(chemin, 4).Texte == "Texte 4" && FicheMontrée(absent, 3).Texte.isEmpty());
     EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == chemin + " : " + Message(TMessage::FichierNonInterprétable));
@@ -132,8 +128,7 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceAndAFolderThatCantBeWritten
     EXPECT_TRUE(boîtes.journal.empty()) << "the next start finds them and says nothing";
 
     // The menu opens the editor, on the file of the language in use.
-    ChangeLangue(2);
-    EcritFichierEntier(Langues().CheminsInfo[2], Enreg("Waadt", "Deutsch"));
+    ChangeLangue(2), EcritFichierEntier(Langues().CheminsInfo[2], Enreg("Waadt", "Deutsch"));
     Principal().MenuFichInfo->trigger();
     EXPECT_TRUE(FormesMontrées().back() == "Edition" && Edition().LBLPays->text() == "Waadt");
     ChangeLangue(1);

@@ -72,7 +72,7 @@ TEST_F(MisesAJour, TheListMergesTheTableUpdatesAndTheInstalledGamesAndTheReminde
     EXPECT_TRUE(Famille().NombreJeux == 12 && Jeu("Arvenne").DateDisponible == Le(14, 3, 2007));
 
     // As known; without a version (behind); ahead of the table (becomes the known one); same version, older copy;
-    // older version, later date; this game, later than its row; two unknown to the table; Faldine one level up.
+    // older version, later date; this game, later than its row; two the table doesn't know; Faldine by a subkey.
     for (const auto &[jeu, version] : {std::pair<const char *, const char *>{"Arvenne", "Version 5.20 du 14/03/2007"}, {"Brisolie", nullptr},
                                        {"Corvalie", "Version 3.10 du 01/02/2007"}, {"Dunmark", "Version 2.41 du 01/01/2004"},
                                        {"Estrava", "Version 3.99 du 01/01/2010"}, {"Kelmor", "Version 6.07 du 30/07/2008"},
@@ -85,8 +85,7 @@ TEST_F(MisesAJour, TheListMergesTheTableUpdatesAndTheInstalledGamesAndTheReminde
     EXPECT_EQ(Versions(noms, &TJeu::VersionDisponible), QStringList({"5.20", "4.30", "3.10", "1.90", "3.60", "1.00", ""}));
     EXPECT_EQ(Versions(noms), Versions(noms, &TJeu::VersionDisponible));
     EXPECT_EQ(QList<QDate>({Jeu("Corvalie").DateDisponible, Jeu("Arvenne").DateInstallée, Jeu("Zébrane").DateDisponible}),
-              QList<QDate>({Le(20, 6, 2005), Le(14, 3, 2007), Le(5, 5, 2020)}))
-        << "Corvalie's version is taken, not its date";
+              QList<QDate>({Le(20, 6, 2005), Le(14, 3, 2007), Le(5, 5, 2020)})) << "Corvalie's version is taken, not its date";
     const QString rappel = TexteRappel(Famille());
     QStringList listés;
     for (const TJeu &j : Famille().JeuxFamille)

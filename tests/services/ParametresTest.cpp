@@ -3,8 +3,6 @@
 
 namespace {
 
-using Boîtes = QList<int>;
-
 class Paramètres : public Magasin {
 protected:
     void SetUp() override
@@ -46,7 +44,7 @@ TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPla
         SCOPED_TRACE(version ? version : "no key");
         Installation(version, "2024-05-01 08:00:00", " 2");
         Langues().Langue = 2, LitParamètres(Jeu());
-        EXPECT_EQ(Vues(boîtes), premier ? Boîtes{123} : Boîtes{});
+        EXPECT_EQ(Vues(boîtes), premier ? QList<int>{123} : QList<int>{});
         EXPECT_EQ(QStringList({Valeur(CléJeu, "version"), Valeur(CléJeu, "joueur"), Valeur(CléJeu, "langue"), Valeur(CléFamille, "date")}),
                   QStringList({ChaîneTable(1000), premier ? "" : "Zoé", premier ? "1" : " 2", "2024-05-10 14:30:00"}));
         // A first run leaves the bare name of the score file, found in the current folder.
@@ -74,7 +72,7 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
         maintenant = QDateTime::fromString(aujourdhui, FormatDate);
         const QByteArray avant = Contenu(fichier);
         Langues().Langue = 2, LitParamètres(Jeu());
-        EXPECT_EQ(Vues(boîtes), rappel ? Boîtes{123} : Boîtes{});
+        EXPECT_EQ(Vues(boîtes), rappel ? QList<int>{123} : QList<int>{});
         EXPECT_TRUE(Valeur(CléFamille, "date") == (renouvelée ? aujourdhui : stocké) && (renouvelée || Contenu(fichier) == avant));
         EXPECT_TRUE(Langues().Langue == lue && Message(TMessage::VersionDuJeu) == ChaîneTable(lue == 2 ? 1250 : 1000) && Valeur(CléJeu, "langue") == langue);
         EXPECT_EQ(Dossiers() << Jeu().NomJoueur, QStringList({choisi + '/', choisi + "/MES.SCS", choisi, choisi + '/', choisi + "/MES.SCS", choisi, choisi, "Zoé"}));
@@ -89,13 +87,12 @@ TEST_F(Paramètres, AFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven
     Pose(CléJeu, "répertoire", disparu);
     LitParamètres(Jeu()); // given up: the start goes on with what it had
     EXPECT_EQ(Dossiers(), QStringList({disparu, choisi + "/MES.SCS", choisi, disparu + '/', choisi + "/MES.SCS", choisi, dossierCourant}));
-    boîtes.journal.clear(), ChoisiraDossiers({choisi});
-    LitParamètres(Jeu());
+    ChoisiraDossiers({choisi}), LitParamètres(Jeu());
     EXPECT_EQ(Dossiers(), QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi, choisi + "/KELMOR.SCS", choisi, choisi}));
     Installation(nullptr), ChoisiraDossiers({choisi});
     ASSERT_TRUE(QFile(Réglages().RépertoireApplication = fichierProgramme).open(QIODevice::WriteOnly)); // nothing can be made in a file
     LitParamètres(Jeu());
-    EXPECT_EQ(Vues(boîtes), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
+    EXPECT_EQ(Vues(boîtes), (QList<int>{122, 123})) << "asked in the messages that the first run loaded";
     EXPECT_EQ(Dossiers(),
               QStringList({choisi, choisi + "/KELMOR.SCS", fichierProgramme + '/', choisi, "KELMOR.SCS", fichierProgramme + '/', choisi}));
 }
@@ -115,8 +112,7 @@ TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLe
     const QString plain = dossier.filePath("plain/registre.ini");
     for (const auto &[magasin, texte] : {std::pair{plain, Message(TMessage::RéglagesNonEnregistrables).arg(plain)},
                                          {fichier, Message(TMessage::RéglagesIllisibles) + fichier}}) {
-        InstalleFichierRegistre(magasin);
-        boîtes.journal.clear();
+        InstalleFichierRegistre(magasin), boîtes.journal.clear();
         EXPECT_TRUE(!Main() && !Réglages().ParamètresLus && !FormePrincipale() && QDir::currentPath() == dossierCourant);
         EXPECT_EQ(Famille().JeuxFamille[1].VersionDisponible, LitChamp(ChaîneTable(6001), 2)) << "the family's list works from memory";
         EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].style == StyleCritique && boîtes.journal[0].texte == texte);

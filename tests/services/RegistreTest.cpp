@@ -13,18 +13,15 @@ TEST_F(Registre, EachOperationAnswersByTheRootTheSeparatorsAndTheNumberOfPieces)
     for (const QString &clé : {CléJeu, profond})
         Pose(clé, "langue", " 2");
     const QByteArray avant = Contenu(fichier);
-    // What creating the key answers; reading and writing answer 0 or −1 alike.
-    const std::pair<QString, i32> cas[] = {
+    const std::pair<QString, i32> cas[] = { // what creating the key answers; reading and writing answer 0 or −1 alike
         {"hkey_current_user\\Software\\Globarium\\Kelmor", 0}, {"  HKEY_CURRENT_USER\\\\Software\\\\Globarium\\Kelmor\\\\  ", 0},
         {"\\HKEY_CURRENT_USER\\software\\GLOBARIUM\\kelmor\\", 0}, {profond + "\\\\\\", 0}, // empty pieces don't count towards the 32
         {profond + "\\n33", -1}, {"HKEY_NOWHERE" + profond.mid(17) + "\\n33", -1},             // too long before an unknown root
         {"HKEY_NOWHERE\\Software", -2}, {"Software\\Globarium\\Kelmor", -2}, {"", -2}, {"\\\\", -2},
-        // Known roots, but keys are created under the current user only.
-        {"HKEY_LOCAL_MACHINE\\Software\\Globarium", -2}, {"hkey_users\\Software", -2}};
-    for (const auto &[chemin, créé] : cas) {
+        {"HKEY_LOCAL_MACHINE\\Software\\Globarium", -2}, {"hkey_users\\Software", -2}}; // keys are made under the current user only
+    for (const auto &[chemin, créé] : cas)
         EXPECT_EQ(QStringList({Valeur(chemin, "langue"), QString::number(EcritValeur(chemin, "langue", " 2")), QString::number(CréeClé(chemin))}),
                   QStringList({créé == 0 ? " 2" : "<-1>", créé == 0 ? "0" : "-1", QString::number(créé)})) << chemin.toStdString();
-    }
     EXPECT_EQ(Contenu(fichier), avant) << "nothing created or written";
     EXPECT_EQ(Valeur(CléJeu, "  LANGUE "), " 2") << "the value's name is trimmed and found in any case";
 }

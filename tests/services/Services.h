@@ -22,10 +22,7 @@ inline QString Valeur(const QString &clé, const QString &nom)
 }
 
 // A value stored, its key made first.
-inline void Pose(const QString &clé, const QString &nom, const QString &texte)
-{
-    ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0);
-}
+inline void Pose(const QString &clé, const QString &nom, const QString &texte) { ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0); }
 
 // In the folder form the player goes to each folder given in turn and presses OK; past them, the close box.
 inline void ChoisiraDossiers(const QStringList &dossiers)
