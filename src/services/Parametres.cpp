@@ -81,13 +81,13 @@ QString MessageDuDémarrage(TMessage id)
 void SignaleRéglagesIllisibles()
 {
     Boîte(MessageDuDémarrage(TMessage::RéglagesIllisibles) + QDir::toNativeSeparators(FichierRegistre()), StyleCritique,
-          MessageDuDémarrage(TMessage::NomDuJeu));
+          MessageDuDémarrage(TMessage::NomDuJeu).trimmed());
 }
 
 void MessageCléImpossible()
 {
     Boîte(MessageDuDémarrage(TMessage::RéglagesNonEnregistrables).arg(QDir::toNativeSeparators(FichierRegistre())), StyleCritique,
-          MessageDuDémarrage(TMessage::NomDuJeu));
+          MessageDuDémarrage(TMessage::NomDuJeu).trimmed());
 }
 } // namespace
 
