@@ -36,17 +36,15 @@ QString Mode(int largeur, int hauteur, int bits)
 {
     return QStringLiteral("%1x%2  [").arg(largeur).arg(hauteur) + Profondeur(bits);
 }
-} // namespace
-
-void InstalleModesAffichage(std::function<std::vector<TMode>()> source) { sourceModes = std::move(source); }
-
-bool SondeModes()
+// True when the card offers a mode wider than the present one, or as wide and deeper,
+// then in Modes[0]. The modes kept from 1: at least 16 bits and wider than the screen.
+bool SondeModes(int largeur, int bits, const std::vector<TMode> &offerts)
 {
     CapacitéModes = 36;
     Modes.assign(CapacitéModes + 1, TMode{});
     int suivant = 1;
-    for (const TMode &m : sourceModes ? sourceModes() : std::vector<TMode>{}) {
-        if (m.Bits < 16 || m.Largeur <= EcranMesuré().LargeurEcran)
+    for (const TMode &m : offerts) {
+        if (m.Bits < 16 || m.Largeur <= largeur)
             continue;
         if (suivant > CapacitéModes) {
             CapacitéModes = static_cast<short>(CapacitéModes + 10);
@@ -54,8 +52,8 @@ bool SondeModes()
         }
         Modes[suivant++] = m;
     }
-    Modes[0].Largeur = EcranMesuré().LargeurEcran;
-    Modes[0].Bits = BitsParPixel;
+    Modes[0].Largeur = largeur;
+    Modes[0].Bits = bits;
     bool meilleur = false;
     for (int i = 1; i < suivant; ++i) {
         const TMode &m = Modes[i];
@@ -65,6 +63,20 @@ bool SondeModes()
         }
     }
     return meilleur;
+}
+} // namespace
+
+void InstalleModesAffichage(std::function<std::vector<TMode>()> source) { sourceModes = std::move(source); }
+
+TConseil ConseilRésolution(int largeur, int bits, const std::vector<TMode> &offerts)
+{
+    const bool mieux = SondeModes(largeur, bits, offerts);
+    const bool large = largeur >= 1024;
+    if (!mieux)
+        return {large ? Message(TMessage::RésolutionConvenable) : Message(TMessage::RésolutionMédiocre), !large};
+    return {Message(TMessage::RésolutionPossible) + Mode(Modes[0].Largeur, Modes[0].Hauteur, Modes[0].Bits) +
+                (large ? QStringLiteral(" ; ") + Message(TMessage::RésolutionActuelleSuffit) : Message(TMessage::ÉviteDéplacements)),
+            !large};
 }
 
 Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
@@ -97,14 +109,9 @@ Patience::Patience() : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Q
 
     Commentaire->setText(Message(TMessage::Bienvenue) + QStringLiteral("%1x%2  [").arg(EcranMesuré().LargeurEcran).arg(EcranMesuré().HauteurEcran) +
                          Profondeur(BitsParPixel));
-    const bool mieux = SondeModes();
-    const bool large = EcranMesuré().LargeurEcran >= 1024;
-    Conseil->setStyleSheet(large ? QStringLiteral("color: #000000;") : QStringLiteral("color: #ff0000;"));
-    const QString mode = Mode(Modes[0].Largeur, Modes[0].Hauteur, Modes[0].Bits);
-    if (!mieux)
-        Conseil->setText(large ? Message(TMessage::RésolutionConvenable) : Message(TMessage::RésolutionMédiocre));
-    else
-        Conseil->setText(Message(TMessage::RésolutionPossible) + mode + (large ? QStringLiteral(" ; ") + Message(TMessage::RésolutionActuelleSuffit) : Message(TMessage::ÉviteDéplacements)));
+    const TConseil conseil = ConseilRésolution(EcranMesuré().LargeurEcran, BitsParPixel, sourceModes ? sourceModes() : std::vector<TMode>{});
+    Conseil->setStyleSheet(conseil.rouge ? QStringLiteral("color: #ff0000;") : QStringLiteral("color: #000000;"));
+    Conseil->setText(conseil.texte);
 }
 
 void Patience::closeEvent(QCloseEvent *e) { e->ignore(); }

@@ -14,7 +14,6 @@ struct TMode {
     int Bits = 0;
 };
 
-
 class Patience : public QDialog {
 public:
     Patience();
@@ -28,8 +27,13 @@ protected:
     void closeEvent(QCloseEvent *e) override;
 };
 
-// True when the screen offers a mode wider than the present one, then in Modes[0].
-bool SondeModes();
+// The advice on the resolution for a screen `largeur` pixels wide at `bits` per pixel, among
+// the modes the card offers: its text in the language in use, red below a width of 1024.
+struct TConseil {
+    QString texte;
+    bool rouge = false;
+};
+TConseil ConseilRésolution(int largeur, int bits, const std::vector<TMode> &offerts);
 // The display modes the screen offers; none are known on this desktop unless installed.
 void InstalleModesAffichage(std::function<std::vector<TMode>()> source);
 

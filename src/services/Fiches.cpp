@@ -72,9 +72,7 @@ bool EcrireFiche(int numéro, const TFiche &fiche)
     if (!écrit) {
         // The player counts characters as typed: a line break is two.
         const qsizetype longueur = 4 + fiche.Nom.size() + fiche.Texte.size();
-        Boîte(QStringLiteral("Erreur à l'enregistrement de cette fiche ; la longueur de l'enregistrement est de ") +
-                  QString::number(longueur) + QStringLiteral(" pour un maximum autorisé de 650"),
-              StyleInformation, QStringLiteral("Erreur..."));
+        Boîte(Message(TMessage::FicheTropLongue).arg(longueur), StyleInformation, Message(TMessage::TitreErreurFiche));
     }
     return écrit;
 }

@@ -216,11 +216,11 @@ void ExploreJeux()
         SauveMisesAJour();
 }
 
-void AfficheRappel()
+QString TexteRappel(const TFamille &famille)
 {
     bool aDire = false;
-    for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
-        const TJeu &jeu = Famille().JeuxFamille[i];
+    for (i16 i = 1; i <= famille.NombreJeux; ++i) {
+        const TJeu &jeu = famille.JeuxFamille[i];
         if (jeu.VersionInstallée.isEmpty() || jeu.VersionInstallée < jeu.VersionDisponible ||
             jeu.DateInstallée < jeu.DateDisponible)
             aDire = true;
@@ -228,8 +228,8 @@ void AfficheRappel()
     QString texte = Message(TMessage::VisiterLeSite);
     if (aDire) {
         texte += FinDeLigne + FinDeLigne + Message(TMessage::MisesÀJourSuivantes) + FinDeLigne + FinDeLigne;
-        for (i16 i = 1; i <= Famille().NombreJeux; ++i) {
-            const TJeu &jeu = Famille().JeuxFamille[i];
+        for (i16 i = 1; i <= famille.NombreJeux; ++i) {
+            const TJeu &jeu = famille.JeuxFamille[i];
             if (jeu.VersionInstallée >= jeu.VersionDisponible && jeu.DateInstallée >= jeu.DateDisponible)
                 continue;
             texte += (jeu.Description.trimmed().isEmpty() ? jeu.Nom : jeu.Description) + QStringLiteral(" : version ") +
@@ -239,8 +239,10 @@ void AfficheRappel()
             texte += FinDeLigne;
         }
     }
-    Boîte(texte, StyleInformation, Message(TMessage::TitrePublicité));
+    return texte;
 }
+
+void AfficheRappel() { Boîte(TexteRappel(Famille()), StyleInformation, Message(TMessage::TitrePublicité)); }
 
 void LitListePage(const QString &page)
 {

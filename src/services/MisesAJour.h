@@ -39,7 +39,10 @@ void ChargeListeJeux();
 void SauveMisesAJour();
 // Which games of the family have a key on this machine, and their versions.
 void ExploreJeux();
-// The message box of the site and of the games that could be fetched or updated.
+// The site's message, then the games of the list that could be fetched or updated, with
+// their versions and dates (a date in the desktop's short form).
+QString TexteRappel(const TFamille &famille);
+// The message box of that text.
 void AfficheRappel();
 // The menu's command: the site's list read, then the reminder.
 void ChercheVersions();

@@ -71,23 +71,23 @@ void RappelSiLeTempsEstVenu()
     EcritValeur(CléFamille, Date, TexteMaintenant());
 }
 
-// The language is among what couldn't be read: the messages in use if there are any, else the French.
+// Before the language is read the messages aren't loaded: those of the start are then in French.
+QString MessageDuDémarrage(TMessage id)
+{
+    const auto i = static_cast<std::size_t>(id);
+    return i < Langues().Messages.size() && !Langues().Messages[i].isEmpty() ? Langues().Messages[i] : ChaîneTable(1000 + int(id));
+}
+
 void SignaleRéglagesIllisibles()
 {
-    const QString texte = int(Langues().Messages.size()) > int(TMessage::RéglagesIllisibles)
-                              ? Message(TMessage::RéglagesIllisibles)
-                              : ChaîneTable(1000 + int(TMessage::RéglagesIllisibles));
-    Boîte(texte + QDir::toNativeSeparators(FichierRegistre()), StyleCritique, QStringLiteral("Les cantons kelmors"));
+    Boîte(MessageDuDémarrage(TMessage::RéglagesIllisibles) + QDir::toNativeSeparators(FichierRegistre()), StyleCritique,
+          MessageDuDémarrage(TMessage::NomDuJeu).trimmed());
 }
 
 void MessageCléImpossible()
 {
-    // The messages aren't loaded yet: this one is in the default language.
-    Boîte(QStringLiteral("Les paramètres du jeu ne peuvent pas être enregistrés dans le fichier\n%1\n"
-                         "Vérifiez que ce dossier existe et qu'il est accessible en écriture ; "
-                         "le jeu ne peut pas démarrer sans lui.")
-              .arg(QDir::toNativeSeparators(FichierRegistre())),
-          StyleCritique, QStringLiteral("Les cantons kelmors"));
+    Boîte(MessageDuDémarrage(TMessage::RéglagesNonEnregistrables).arg(QDir::toNativeSeparators(FichierRegistre())), StyleCritique,
+          MessageDuDémarrage(TMessage::NomDuJeu).trimmed());
 }
 } // namespace
 

@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "172"},
+    {1, "175"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -197,10 +197,13 @@ constexpr Ligne Table[] = {
     {1167, "  "},
     {1168, "Editer les fiches d'information"},
     {1169, "Modification de la description des cantons"},
-    // The program's own messages.
+    // The program's own messages; %1 stands for the number or the path that the caller gives.
     {1170, "Le dossier du programme n'accepte pas l'écriture (il est peut-être protégé, ou n'existe plus). Le tableau reste affiché : vous pouvez continuer à le consulter."},
     {1171, "Impossible d'enregistrer la partie dans ce dossier : le chemin du fichier des scores ne pourrait pas y être relu tel quel (il est trop long, ou il contient des caractères que le fichier de partie ne sait pas écrire). Choisissez un dossier plus proche de ce fichier, par exemple le sien : "},
     {1172, "Le fichier des réglages du jeu n'a pas pu être lu en entier ; il est laissé tel quel, et le jeu ne peut pas démarrer sans lui. Réparez-le, ou mettez-le de côté pour repartir des réglages d'origine : "},
+    {1173, "Erreur à l'enregistrement de cette fiche ; la longueur de l'enregistrement est de %1 pour un maximum autorisé de 650"},
+    {1174, "Erreur..."},
+    {1175, "Les paramètres du jeu ne peuvent pas être enregistrés dans le fichier\n%1\nVérifiez que ce dossier existe et qu'il est accessible en écriture ; le jeu ne peut pas démarrer sans lui."},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -376,6 +379,9 @@ constexpr Ligne Table[] = {
     {1420, "Der Programmordner ist nicht beschreibbar (vielleicht schreibgeschützt oder nicht mehr vorhanden). Die Tabelle bleibt angezeigt."},
     {1421, "Die Partie kann in diesem Ordner nicht gespeichert werden: der Pfad der Ergebnisdatei ließe sich daraus nicht unverändert wieder lesen (er ist zu lang oder enthält Zeichen, die die Spieldatei nicht schreiben kann). Wählen Sie einen Ordner näher bei dieser Datei, zum Beispiel ihren eigenen: "},
     {1422, "Die Einstellungsdatei des Spiels konnte nicht vollständig gelesen werden; sie bleibt unverändert, und ohne sie kann das Spiel nicht starten. Reparieren Sie sie, oder legen Sie sie beiseite, um mit den ursprünglichen Einstellungen neu zu beginnen: "},
+    {1423, "Fehler beim Speichern dieses Steckbriefs; der Eintrag ist %1 Zeichen lang, erlaubt sind höchstens 650"},
+    {1424, "Fehler..."},
+    {1425, "Die Einstellungen des Spiels können nicht in der Datei\n%1\ngespeichert werden. Prüfen Sie, ob dieser Ordner existiert und beschreibbar ist; ohne ihn kann das Spiel nicht starten."},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

@@ -1,11 +1,9 @@
-// The information cards: the card of a canton, the editor of the records, the files made
-// at the start, all on files of a temporary folder.
+// The information cards: a canton's card, the records' editor, the files made at the start.
 #include "Services.h"
 
 #include "screen/Edition.h"
 #include "screen/Pompe.h"
 #include "services/Fiches.h"
-#include "results/PartieEnCours.h"
 
 namespace {
 
@@ -24,50 +22,31 @@ protected:
         JeuTest::SetUp();
         for (int k = 1; k <= 26; ++k)
             avant += Enreg("Nom " + QByteArray::number(k), "Texte " + QByteArray::number(k));
-        Ecrit(chemin = Langues().CheminsInfo[1], avant);
+        EcritFichierEntier(chemin = Langues().CheminsInfo[1], avant);
     }
-    void Relance()
-    {
-        delete std::exchange(forme, nullptr);
-        boîtes.journal.clear();
-        ASSERT_TRUE(Main());
-        forme = FormePrincipale();
-    }
-    // The main window's frame stands for the card's own, unknown before it shows.
-    int Cadre() { return Principal().frameGeometry().height() - Principal().geometry().height(); }
+    void Relance() { delete std::exchange(forme, nullptr), boîtes.journal.clear(); ASSERT_TRUE(Main()); forme = FormePrincipale(); }
     QString chemin;
     QByteArray avant;
 };
 using Editeur = Fiches;
 
-TEST_F(Fiches, ACardShowsItsCantonAndItsRecordBesideItWithinTheWorkArea)
+// The name and the chief town are the game's own, the text the record's, read in Windows-1252.
+TEST_F(Fiches, ACardShowsItsCantonAndItsRecord)
 {
-    avant.replace(23 * 650, 650, Enreg("Vaud", "Capitale olympique.\r\nL\xE9man\xA0: 582 km\xB2"));
-    Ecrit(chemin, avant);
+    EcritFichierEntier(chemin, avant.replace(23 * 650, 650, Enreg("Waadt", "Capitale olympique.\r\nL\xE9man\xA0: 582 km\xB2")));
     auto &E = Principal();
-    LanceRévision();
-    boîtes.journal.clear();
+    LanceRévision(), boîtes.journal.clear();
     InstalleFormesModales([&](QDialog &d) {
         auto &p = dynamic_cast<Pompe &>(d);
         EXPECT_EQ(QStringList({p.LBLPays->text(), p.LBLCapitale->text(), p.TXTInfos->Text()}),
                   QStringList({"Vaud (VD)", "Chef-lieu : Lausanne", "Capitale olympique.\r\nLéman\u00A0: 582 km²"}));
         EXPECT_EQ(p.IMGDrapeau->Picture().cacheKey(), E.drapeau[24]->Picture().cacheKey());
-        EXPECT_EQ(p.pos(), QPoint(E.inv[24]->Left() + E.Carte->Left() + E.inv[24]->Width() + 10, (1024 - 493 - Cadre()) / 2));
         EXPECT_TRUE(E.rond[24]->Visible() && E.rond[24]->size() != E.RondVille->size()) << "the target on its town";
         return 0;
     });
     CliqueCanton(24);
     EXPECT_TRUE(FormesMontrées().back() == "Pompe" && boîtes.journal.empty());
     EXPECT_EQ(E.rond[24]->size(), E.RondVille->size()) << "closed, the town's dot is at rest";
-
-    // On a narrow screen Graubünden has room on neither side; a low work area cuts the card, its OK
-    // moving up with the text box's bottom.
-    InstalleEcran(InfoEcran{800, 600, QRect(0, 0, 800, 400), 24});
-    Relance();
-    Jeu().CantonFiche = 10;
-    Pompe p;
-    EXPECT_EQ(QList<int>({p.x(), p.height(), p.y(), p.BTNOK->Top(), p.TXTInfos->Top() + p.TXTInfos->Height()}),
-              QList<int>({10, 400 - Cadre(), 0, 360 - Cadre(), 355 - Cadre()}));
 }
 
 TEST(PlaceFiche, TheWholeCardFrameIncludedStaysInTheWorkArea)
@@ -82,96 +61,61 @@ TEST(PlaceFiche, TheWholeCardFrameIncludedStaysInTheWorkArea)
     }
 }
 
-// The card's name is the game's own; its text is empty, and a damaged record is told.
-TEST_F(Fiches, AMissingOrDamagedFileGivesAnEmptyCardAndADamagedRecordIsTold)
-{
-    QByteArray abîmé = avant;
-    abîmé.replace(2 * 650 + 7, 2, "\xFF\x02"); // record 3's text runs past its 650 bytes
-    for (const auto &[nom, contenu] : {std::pair<const char *, QByteArray>{"absent.INF", {}}, {"court.INF", Enreg("a", "b") + Enreg("c", "d")},
-                                       {"abime.INF", abîmé}, {"parti/absent.INF", {}}}) {
-        SCOPED_TRACE(nom);
-        if (!contenu.isEmpty())
-            Ecrit(dossier.filePath(nom), contenu);
-        boîtes.journal.clear(), Langues().CheminsInfo[1] = dossier.filePath(nom), Jeu().CantonFiche = 3;
-        Pompe p;
-        EXPECT_TRUE(p.TXTInfos->Text().isEmpty() && !p.LBLPays->text().isEmpty());
-        EXPECT_TRUE(boîtes.journal.size() == (contenu == abîmé) && boîtes.ADit(Langues().CheminsInfo[1] + " : " + Message(TMessage::FichierNonInterprétable)) == (contenu == abîmé));
-        EXPECT_EQ(QFile::exists(Langues().CheminsInfo[1]), !contenu.isEmpty()) << "a card doesn't make the file";
-    }
-}
-
-// ---------------------------------------------------------------- the editor
-
 TEST_F(Editeur, OnlyAChangedRecordIsWrittenInItsPlaceAndOneOverSixHundredAndFiftyBytesIsRefused)
 {
     // A text that the box shows with other line breaks or spaces is no change, nor is a name typed alone.
-    avant.replace(2 * 650, 650, Enreg("Lucerne", "une\nligne\xA0seule"));
-    Ecrit(chemin, avant);
+    EcritFichierEntier(chemin, avant.replace(2 * 650, 650, Enreg("Lucerne", "une\nligne\xA0seule")));
     Edition e;
-    e.show();
-    e.BTNRight->click(), e.LBLPays->setText("Nom changé seul");
+    e.show(), e.BTNRight->click(), e.LBLPays->setText("Nom changé seul");
     for (BoutonGraphique *b : {e.BTNRight, e.BTNRight, e.BTNLeft, e.BTNLeft})
         b->click();
-    EXPECT_TRUE(e.LBLPays->text() == "Nom 2" && Lit(chemin) == avant);
+    EXPECT_TRUE(e.LBLPays->text() == "Nom 2" && Contenu(chemin) == avant);
     // A new text, with the name typed beside it, goes to record 2 and nowhere else.
     e.LBLPays->setText("Berne"), e.TXTInfos->setPlainText("Capitale fédérale\nAar"), e.BTNUp->click();
     avant.replace(650, 650, QByteArray("\x05\x00" "Berne\x16\x00" "Capitale f\xE9" "d\xE9rale\r\nAar", 31) + QByteArray(619, '\0'));
-    EXPECT_EQ(Lit(chemin), avant);
+    EXPECT_EQ(Contenu(chemin), avant);
 
-    // On record 1, 4 + 5 + 641 = 650, a line break counting two: it fits exactly, and one more is refused
-    // by every button, the editor staying as it was. Neither Escape nor the window's closing leave either.
+    // 4 + 5 + 641 = 650, a line break counting two, fits; one more is refused by every button, and neither
+    // Escape nor the close box leave.
     const QString juste = QString(320, 'a') + "\n" + QString(319, 'b');
     e.TXTInfos->setPlainText(juste), e.BTNUp->click();
     avant.replace(0, 650, Enreg("Nom 1", QByteArray(320, 'a') + "\r\n" + QByteArray(319, 'b')));
-    EXPECT_TRUE(Lit(chemin) == avant && boîtes.journal.empty());
+    EXPECT_TRUE(Contenu(chemin) == avant && boîtes.journal.empty());
     e.TXTInfos->setPlainText(juste + "c");
     const QString gardé = e.TXTInfos->Text();
-    for (BoutonGraphique *b : {e.BTNRight, e.BTNUp, e.BTNQuit}) {
-        boîtes.journal.clear(), b->click();
-        EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.ADit("651 pour un maximum"));
-        EXPECT_TRUE(e.TXTInfos->Text() == gardé && FicheEnEdition().FicheEditée == 1 && e.isVisible() && Lit(chemin) == avant);
-    }
+    for (BoutonGraphique *b : {e.BTNRight, e.BTNUp, e.BTNQuit})
+        b->click();
     QTest::keyClick(&e, Qt::Key_Escape), e.close();
-    EXPECT_TRUE(e.isVisible());
-    // Shortened, it is written and the editor closes.
+    EXPECT_TRUE(boîtes.journal.size() == 3 && boîtes.journal[2].texte == Message(TMessage::FicheTropLongue).arg(651));
+    EXPECT_TRUE(e.TXTInfos->Text() == gardé && FicheEnEdition().FicheEditée == 1 && e.isVisible() && Contenu(chemin) == avant);
     e.TXTInfos->setPlainText("court"), e.BTNQuit->click();
-    EXPECT_TRUE(e.result() == QDialog::Accepted && FicheEnEdition().FichierFichesOuvert.isEmpty() && Lit(chemin).left(650) == Enreg("Nom 1", "court"));
+    EXPECT_TRUE(e.result() == QDialog::Accepted && FicheEnEdition().FichierFichesOuvert.isEmpty() && Contenu(chemin).left(650) == Enreg("Nom 1", "court"));
 }
 
-TEST_F(Editeur, AtTheEdgesTheArrowsWriteAndStayWhileUpAndDownReadAgain)
+// A damaged record shows empty and is told, and a card makes no file; a missing file or record is an empty
+// one in the editor, which makes the file and grows it by empty records; a failed write says so.
+TEST_F(Editeur, ADamagedRecordIsToldAMissingOneIsEmptyAndAFailedWriteSaysSo)
 {
-    Edition e;
-    for (const auto &[bord, flèche, relit] : {std::tuple{1, e.BTNLeft, e.BTNUp}, {26, e.BTNRight, e.BTNDown}}) {
-        SCOPED_TRACE(bord);
-        relit->click(), e.TXTInfos->setPlainText("au bord");
-        QByteArray écrit = avant;
-        écrit.replace(650 * (bord - 1), 650, Enreg("Nom " + QByteArray::number(bord), "au bord"));
-        // The reference is only renewed by a read: the same press writes again, and so does Up or Down,
-        // which then reads the record back, so that the box holds no change any more.
-        for (const auto &[b, écrite] : {std::pair{flèche, true}, {flèche, true}, {relit, true}, {relit, false}}) {
-            Ecrit(chemin, avant), b->click();
-            EXPECT_TRUE(FicheEnEdition().FicheEditée == bord && Lit(chemin) == (écrite ? écrit : avant));
-        }
-        EXPECT_EQ(e.TXTInfos->Text(), "Texte " + QString::number(bord));
-    }
-}
-
-TEST_F(Editeur, AShortOrMissingFileGrowsByEmptyRecordsAndAFailedWriteSaysSo)
-{
-    ASSERT_TRUE(QFile::remove(chemin));
+    EcritFichierEntier(chemin, avant.replace(2 * 650 + 7, 2, "\xFF\x02")); // record 3's text runs past its 650 bytes
+    const QString absent = dossier.filePath("absent.INF");
+    EXPECT_TRUE(FicheMontrée(chemin, 3).Texte.isEmpty() && FicheMontrée(chemin, 4).Texte == "Texte 4" && FicheMontrée(absent, 3).Texte.isEmpty());
+    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == chemin + " : " + Message(TMessage::FichierNonInterprétable));
+    EXPECT_TRUE(!QFile::exists(absent) && QFile::remove(chemin));
+    boîtes.journal.clear();
     Edition e;
     EXPECT_TRUE(e.TXTInfos->Text().isEmpty() && e.LBLPays->text().isEmpty());
-    e.BTNRight->click(), e.BTNRight->click(), e.LBLPays->setText("Uri"), e.TXTInfos->setPlainText("Altdorf"), e.BTNRight->click();
-    EXPECT_EQ(Lit(chemin), QByteArray(1300, '\0') + Enreg("Uri", "Altdorf"));
-    // A folder that is gone: the message, with the length, and the editor stays.
+    // Left on the first record stays there.
+    e.BTNLeft->click(), e.BTNRight->click(), e.BTNRight->click(), e.LBLPays->setText("Uri"), e.TXTInfos->setPlainText("Altdorf"), e.BTNRight->click();
+    EXPECT_EQ(Contenu(chemin), QByteArray(1300, '\0') + Enreg("Uri", "Altdorf"));
+    // A folder that is gone: the message with the length, and the editor stays.
     FicheEnEdition().FichierFichesOuvert = dossier.filePath("parti/KELMOR.INF");
     e.TXTInfos->setPlainText("Zoug"), e.BTNLeft->click();
-    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.ADit("est de 8 pour") && FicheEnEdition().FicheEditée == 4 && !QDir(dossier.filePath("parti")).exists());
+    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.ADit(Message(TMessage::FicheTropLongue).arg(8)) && FicheEnEdition().FicheEditée == 4 &&
+                !QDir(dossier.filePath("parti")).exists());
 }
 
-// ---------------------------------------------------------------- files made at the start
-
-TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
+// Both in the language in use: it is the player's to rewrite the other's.
+TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceAndAFolderThatCantBeWrittenAsksForAnother)
 {
     QFile::remove(Langues().CheminsInfo[1]), QFile::remove(Langues().CheminsInfo[2]);
     Relance();
@@ -179,44 +123,25 @@ TEST_F(Fiches, AFirstStartMakesBothFilesAndSaysSoOnceInTheLanguageInUse)
     QByteArray attendu;
     for (int k = 1; k <= 26; ++k)
         attendu += Enreg(VersAnsi(Jeu().Cantons[k].Nom), VersAnsi(Message(TMessage::FicheÀRemplir)));
-    EXPECT_TRUE(Lit(Langues().CheminsInfo[1]) == attendu && Lit(Langues().CheminsInfo[2]) == attendu);
+    EXPECT_TRUE(Contenu(Langues().CheminsInfo[1]) == attendu && Contenu(Langues().CheminsInfo[2]) == attendu);
     Relance();
     EXPECT_TRUE(boîtes.journal.empty()) << "the next start finds them and says nothing";
 
-    // In German the French file gets German names and text, and only the German one is told of.
-    ChangeLangue(2);
-    for (int langue : {1, 2}) {
-        QFile::remove(Langues().CheminsInfo[langue]), boîtes.journal.clear(), CréeFichierInfo(Jeu(), langue);
-        TFiche fiche;
-        EXPECT_TRUE(LitFicheInfo(Langues().CheminsInfo[langue], 24, fiche) && fiche.Nom == "Waadt" && fiche.Texte == Message(TMessage::FicheÀRemplir)) << langue;
-        EXPECT_EQ(boîtes.journal.size(), langue == 2 ? 1u : 0u);
-    }
     // The menu opens the editor, on the file of the language in use.
-    Ecrit(Langues().CheminsInfo[2], Enreg("Waadt", "Deutsch"));
+    ChangeLangue(2), EcritFichierEntier(Langues().CheminsInfo[2], Enreg("Waadt", "Deutsch"));
     Principal().MenuFichInfo->trigger();
     EXPECT_TRUE(FormesMontrées().back() == "Edition" && Edition().LBLPays->text() == "Waadt");
     ChangeLangue(1);
-}
 
-TEST_F(Fiches, AFolderThatCantBeWrittenAsksForAnother)
-{
-    // The folder form: first closed by its close box, then a folder that can be written taken.
-    ASSERT_TRUE(QDir(dossier.path()).mkdir("cartes"));
-    int ouvertures = 0;
-    InstalleFormesModales([&](QDialog &d) {
-        auto &f = dynamic_cast<ParamétrageRépertoires &>(d);
-        if (++ouvertures > 1 && f.ChangeRépertoire(dossier.filePath("cartes")))
-            f.BoutonOK->click();
-        return f.result();
-    });
+    // A folder that can't be written asks for another in the cards' use, which takes the file.
     const QString disparu = dossier.filePath("parti");
+    ASSERT_TRUE(QDir(dossier.path()).mkdir("cartes"));
+    ChoisiraDossiers({dossier.filePath("cartes")}), boîtes.journal.clear();
     Langues().CheminsInfo[1] = (Réglages().RépertoireInfo = disparu) + "/KELMOR.INF", DemandeDossier().ModeRépertoires = TModeRépertoires::Aucun;
     CréeFichierInfo(Jeu(), 1);
     EXPECT_TRUE(boîtes.journal.size() == 3 && boîtes.journal[1].texte == Message(TMessage::RépertoireNonInscriptible) + " (" + disparu + "/)");
-    EXPECT_EQ(DemandeDossier().ModeRépertoires, TModeRépertoires::DossierInformation);
-    EXPECT_FALSE(QDir(disparu).exists()) << "given up: no file, no folder";
-    CréeFichierInfo(Jeu(), 1);
-    EXPECT_EQ(Lit(dossier.filePath("cartes/KELMOR.INF")).size(), 16900);
+    EXPECT_TRUE(DemandeDossier().ModeRépertoires == TModeRépertoires::DossierInformation && !QDir(disparu).exists());
+    EXPECT_EQ(Contenu(dossier.filePath("cartes/KELMOR.INF")).size(), 16900);
 }
 
 } // namespace

@@ -1,13 +1,7 @@
-// The settings read at the start: first run, upgrade, ordinary run, the reminder
-// every 60 days, the language and the folders.
+// The settings read at the start: first run, upgrade, ordinary run, the reminder, the language, the folders.
 #include "Services.h"
 
-#include "results/Resultats.h"
-#include "results/PartieEnCours.h"
-
 namespace {
-
-using Boîtes = QList<int>;
 
 class Paramètres : public Magasin {
 protected:
@@ -15,23 +9,14 @@ protected:
     {
         Magasin::SetUp();
         ASSERT_TRUE(QDir().mkpath(programme) && QDir().mkpath(choisi));
-        Réglages().RépertoireApplication = programme;
-        // In the folder form the player goes to the next folder chosen and presses OK; past them, the close box.
-        InstalleFormesModales([this](QDialog &forme) {
-            auto &f = dynamic_cast<ParamétrageRépertoires &>(forme);
-            if (choix < dossiersChoisis.size() && f.ChangeRépertoire(dossiersChoisis[choix++]))
-                f.BoutonOK->click();
-            return f.result();
-        });
+        Réglages().RépertoireApplication = programme, ChoisiraDossiers({});
     }
     void TearDown() override { InstalleDossierProgramme(QString()), Magasin::TearDown(); }
 
-    // A store of its own, in French with nothing read yet, holding what an earlier run with a folder of
-    // the player's own left: nothing at all without a version, no version for "-", the running one for "*".
+    // A store of its own as an earlier run left it: nothing without a version, none for "-", this one's for "*".
     void Installation(const char *version = "*", const char *date = "2024-05-01 08:00:00", const char *langue = "1")
     {
-        for (QString *g : {&Réglages().RépertoireSauvegarde, &Réglages().RépertoireInfo, &Réglages().FichierLancement, &Jeu().NomJoueur})
-            g->clear();
+        Réglages().RépertoireSauvegarde.clear(), Réglages().RépertoireInfo.clear(), Réglages().FichierLancement.clear(), Jeu().NomJoueur.clear();
         InstalleFichierRegistre(fichier = dossier.filePath(QStringLiteral("registre%1.ini").arg(++magasins)));
         boîtes.journal.clear(), QDir::setCurrent(dossierCourant), Langues().Langue = 1;
         if (!version)
@@ -45,41 +30,28 @@ protected:
                 Pose(CléJeu, nom, texte);
         ChargeListeJeux(); // the family's versions known, under Updates
     }
-    // The stored folders and score file, then the same in memory and the current folder.
-    QStringList Dossiers() const
-    {
-        return {Valeur(CléJeu, "répertoire"), Valeur(CléJeu, "fichier de lancement"), Valeur(CléJeu, "répertoire information"),
-                Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, QDir::currentPath()};
-    }
 
     QString programme = dossier.filePath("programme"), choisi = dossier.filePath("choisi");
-    QStringList dossiersChoisis;
-    qsizetype choix = 0;
     int magasins = 0;
 };
 
-// A first run when `version` is missing or empty, an upgrade when it differs in any way. Both write the
-// defaults; a first run forgets player and language, and reminds (message 123).
+// A first run when `version` is missing or empty, an upgrade when it differs at all: both write the defaults,
+// a first run also forgets player and language, and reminds.
 TEST_F(Paramètres, FirstRunAndUpgradeWriteTheDefaultsAndOnlyAFirstRunForgetsPlayerAndLanguage)
 {
     for (const auto &[version, premier] : {std::pair<const char *, bool>{nullptr, true}, {"-", true}, {"", true}, {" ", false},
                                            {"Version 6.06 du 01/02/2008", false}, {"Version 7.00 du 01/01/2030", false}}) {
         SCOPED_TRACE(version ? version : "no key");
         Installation(version, "2024-05-01 08:00:00", " 2");
-        Langues().Langue = 2;
-        LitParamètres(Jeu());
-        EXPECT_EQ(Vues(boîtes), premier ? Boîtes{123} : Boîtes{});
+        Langues().Langue = 2, LitParamètres(Jeu());
+        EXPECT_EQ(Vues(boîtes), premier ? QList<int>{123} : QList<int>{});
         EXPECT_EQ(QStringList({Valeur(CléJeu, "version"), Valeur(CléJeu, "joueur"), Valeur(CléJeu, "langue"), Valeur(CléFamille, "date")}),
                   QStringList({ChaîneTable(1000), premier ? "" : "Zoé", premier ? "1" : " 2", "2024-05-10 14:30:00"}));
         // A first run leaves the bare name of the score file, found in the current folder.
         EXPECT_EQ(Dossiers(), QStringList({programme + '/', programme + "/KELMOR.SCS", programme + '/', programme + '/',
                                            premier ? "KELMOR.SCS" : programme + "/KELMOR.SCS", programme + '/', programme}));
         EXPECT_TRUE(Réglages().ParamètresLus && Jeu().NomJoueur == (premier ? "" : "Zoé") && Langues().Langue == (premier ? 1 : 2));
-        EXPECT_EQ(Message(TMessage::VersionDuJeu), ChaîneTable(premier ? 1000 : 1250));
-        EXPECT_EQ(Réglages().VersionJeu, ChaîneTable(1000)) << "the version always in French";
-        const QByteArray avant = Lit(fichier);
-        LitParamètres(Jeu());
-        EXPECT_EQ(Lit(fichier), avant) << "the next start is an ordinary run that writes nothing";
+        EXPECT_EQ(Réglages().VersionJeu, ChaîneTable(1000)) << "the version kept always in French";
     }
 }
 
@@ -98,92 +70,73 @@ TEST_F(Paramètres, TheReminderComesAfterSixtyCalendarDaysAndAnOrdinaryRunWrites
         SCOPED_TRACE(std::string(stocké ? stocké : "no date") + " -> " + aujourdhui + ", language " + langue);
         Installation("*", stocké, langue);
         maintenant = QDateTime::fromString(aujourdhui, FormatDate);
-        const QByteArray avant = Lit(fichier);
-        Langues().Langue = 2;
-        LitParamètres(Jeu());
-        EXPECT_EQ(Vues(boîtes), rappel ? Boîtes{123} : Boîtes{});
-        EXPECT_TRUE(Valeur(CléFamille, "date") == (renouvelée ? aujourdhui : stocké) && (renouvelée || Lit(fichier) == avant));
+        const QByteArray avant = Contenu(fichier);
+        Langues().Langue = 2, LitParamètres(Jeu());
+        EXPECT_EQ(Vues(boîtes), rappel ? QList<int>{123} : QList<int>{});
+        EXPECT_TRUE(Valeur(CléFamille, "date") == (renouvelée ? aujourdhui : stocké) && (renouvelée || Contenu(fichier) == avant));
         EXPECT_TRUE(Langues().Langue == lue && Message(TMessage::VersionDuJeu) == ChaîneTable(lue == 2 ? 1250 : 1000) && Valeur(CléJeu, "langue") == langue);
-        EXPECT_EQ(Dossiers(), QStringList({choisi + '/', choisi + "/MES.SCS", choisi, choisi + '/', choisi + "/MES.SCS", choisi, choisi}));
-        EXPECT_EQ(Jeu().NomJoueur, "Zoé");
+        EXPECT_EQ(Dossiers() << Jeu().NomJoueur, QStringList({choisi + '/', choisi + "/MES.SCS", choisi, choisi + '/', choisi + "/MES.SCS", choisi, choisi, "Zoé"}));
     }
 }
 
-// The form's refusal of a folder that can't be written is the folder form's own test.
-TEST_F(Paramètres, ASaveFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
+// A save folder that can't be written is asked for at each start until one is given, at a first run before the reminder.
+TEST_F(Paramètres, AFolderThatCantBeWrittenIsAskedForAtEachStartUntilOneIsGiven)
 {
     Installation();
-    const QString disparu = dossier.filePath("disparu");
+    const QString disparu = dossier.filePath("disparu"), fichierProgramme = dossier.filePath("programme.bin");
     Pose(CléJeu, "répertoire", disparu);
     LitParamètres(Jeu()); // given up: the start goes on with what it had
-    EXPECT_EQ(Vues(boîtes), Boîtes{122});
     EXPECT_EQ(Dossiers(), QStringList({disparu, choisi + "/MES.SCS", choisi, disparu + '/', choisi + "/MES.SCS", choisi, dossierCourant}));
-    boîtes.journal.clear(), dossiersChoisis = {choisi};
-    LitParamètres(Jeu());
-    EXPECT_EQ(Vues(boîtes), Boîtes{122});
+    ChoisiraDossiers({choisi}), LitParamètres(Jeu());
     EXPECT_EQ(Dossiers(), QStringList({choisi, choisi + "/KELMOR.SCS", choisi, choisi, choisi + "/KELMOR.SCS", choisi, choisi}));
-}
-
-TEST_F(Paramètres, AFirstRunInAProgramFolderThatCantBeWrittenAsksBeforeTheReminder)
-{
-    const QString fichierProgramme = dossier.filePath("programme.bin"); // a file: nothing can be made in it
-    ASSERT_TRUE(QFile(Réglages().RépertoireApplication = fichierProgramme).open(QIODevice::WriteOnly));
-    dossiersChoisis = {choisi};
+    Installation(nullptr), ChoisiraDossiers({choisi});
+    ASSERT_TRUE(QFile(Réglages().RépertoireApplication = fichierProgramme).open(QIODevice::WriteOnly)); // nothing can be made in a file
     LitParamètres(Jeu());
-    EXPECT_EQ(Vues(boîtes), (Boîtes{122, 123})) << "asked in the messages that the first run loaded";
+    EXPECT_EQ(Vues(boîtes), (QList<int>{122, 123})) << "asked in the messages that the first run loaded";
     EXPECT_EQ(Dossiers(),
               QStringList({choisi, choisi + "/KELMOR.SCS", fichierProgramme + '/', choisi, "KELMOR.SCS", fichierProgramme + '/', choisi}));
 }
 
+// Before it is read, the copies that an interrupted write left beside it are taken away, and only those. The
+// family's list is read before the game's key is made: from a store that can't be written it works from memory.
 TEST_F(Paramètres, AStoreThatCantBeCreatedOrReadWholeEndsTheStartInOrderAndIsLeftAsItIs)
 {
     Installation();
-    const QByteArray gros = ";" + QByteArray(17 << 20, 'x') + "\n" + Lit(fichier); // the settings behind 17 MiB
-    Ecrit(fichier, gros);
+    for (const char *fin : {".Ab12Cd", ".bak", ".Ab12Cde"})
+        ASSERT_TRUE(QFile(fichier + fin).open(QIODevice::WriteOnly));
+    const QByteArray gros = ";" + QByteArray(17 << 20, 'x') + "\n" + Contenu(fichier); // the settings behind 17 MiB
+    EcritFichierEntier(fichier, gros);
     ASSERT_TRUE(QFile(dossier.filePath("plain")).open(QIODevice::WriteOnly));
     InstalleDossierProgramme(programme);
     ASSERT_TRUE(QFile::copy(DOSSIER_DONNEES "/KELMOR.pts", programme + "/KELMOR.pts"));
-    for (const auto &[magasin, message] : {std::pair<QString, QString>{dossier.filePath("plain/registre.ini"), "Les paramètres du jeu"},
-                                           {fichier, ChaîneTable(1000 + int(TMessage::RéglagesIllisibles))}}) {
-        InstalleFichierRegistre(magasin);
-        boîtes.journal.clear();
+    const QString plain = dossier.filePath("plain/registre.ini");
+    for (const auto &[magasin, texte] : {std::pair{plain, Message(TMessage::RéglagesNonEnregistrables).arg(plain)},
+                                         {fichier, Message(TMessage::RéglagesIllisibles) + fichier}}) {
+        InstalleFichierRegistre(magasin), boîtes.journal.clear();
         EXPECT_TRUE(!Main() && !Réglages().ParamètresLus && !FormePrincipale() && QDir::currentPath() == dossierCourant);
-        ASSERT_EQ(boîtes.journal.size(), 1u);
-        EXPECT_TRUE(boîtes.journal[0].style == StyleCritique && boîtes.journal[0].texte.startsWith(message) && boîtes.ADit(magasin));
+        EXPECT_EQ(Famille().JeuxFamille[1].VersionDisponible, LitChamp(ChaîneTable(6001), 2)) << "the family's list works from memory";
+        EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].style == StyleCritique && boîtes.journal[0].texte == texte);
     }
-    EXPECT_TRUE(Lit(fichier) == gros);
+    EXPECT_TRUE(Contenu(fichier) == gros);
+    EXPECT_EQ(QDir(dossier.path()).entryList({"registre1.ini.*"}), QStringList({"registre1.ini.Ab12Cde", "registre1.ini.bak"}));
 }
 
-TEST_F(Paramètres, CopiesLeftByAnInterruptedWriteAreTakenAwayAtTheStart)
-{
-    for (const char *fin : {".Ab12Cd", ".bak", ".Ab12Cde"})
-        ASSERT_TRUE(QFile(fichier + fin).open(QIODevice::WriteOnly));
-    LitParamètres(Jeu());
-    EXPECT_EQ(QDir(dossier.path()).entryList({"registre.ini.*"}), QStringList({"registre.ini.Ab12Cde", "registre.ini.bak"}));
-}
-
-// Through the game: what the player changes is there at the next start; the third language entry changes nothing.
+// The third language entry changes nothing; --langue fr is for one run and leaves the stored language alone.
 using ParamètresDuJeu = JeuTest;
 
-TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStart)
+TEST_F(ParamètresDuJeu, LanguageAndPlayerAreThereAtTheNextStartAndTheCommandLinesLanguageIsForOneRun)
 {
     ChangeLangue(2), ChangeLangue(3);
-    EXPECT_EQ(Valeur(CléJeu, "langue"), " 2");
     Jeu().NomJoueur = "Zoé";
     EnregistreJoueur();
-    Jeu().PartieVierge = true, Langues().Langue = 1, Jeu().NomJoueur.clear();
-    delete std::exchange(forme, nullptr);
-    ASSERT_TRUE(Main());
-    forme = FormePrincipale();
-    EXPECT_TRUE(Langues().Langue == 2 && Jeu().NomJoueur == "Zoé" && Principal().FichierNouveau->text() == ChaîneTable(1306));
-    // --langue fr starts this run in French and leaves the stored language alone.
-    delete std::exchange(forme, nullptr);
-    Réglages().LangueDemandée = 1;
-    const bool démarré = Main();
-    Réglages().LangueDemandée = 0;
-    forme = FormePrincipale();
-    EXPECT_TRUE(démarré && Langues().Langue == 1 && Principal().FichierNouveau->text() == ChaîneTable(1056));
-    EXPECT_EQ(Valeur(CléJeu, "langue"), " 2");
+    for (const short demandée : {0, 1}) {
+        Jeu().PartieVierge = true, Langues().Langue = 1, Jeu().NomJoueur.clear(), Réglages().LangueDemandée = demandée;
+        delete std::exchange(forme, nullptr);
+        const bool démarré = Main();
+        forme = FormePrincipale(), Réglages().LangueDemandée = 0;
+        EXPECT_TRUE(démarré && Langues().Langue == (demandée ? 1 : 2) && Jeu().NomJoueur == "Zoé");
+        EXPECT_TRUE(Principal().FichierNouveau->text() == ChaîneTable(demandée ? 1056 : 1306) && Valeur(CléJeu, "langue") == " 2");
+    }
 }
 
 } // namespace

@@ -1,5 +1,4 @@
-// The settings store: paths, result codes, the file behind it and what a damaged file gives.
-// Random bytes in the file are left to the fuzz target (tests/fuzz/FuzzRegistre.cpp).
+// The settings store: paths, result codes, its file and what a damaged one gives (random bytes: FuzzRegistre).
 #include "Services.h"
 
 namespace {
@@ -12,23 +11,18 @@ TEST_F(Registre, EachOperationAnswersByTheRootTheSeparatorsAndTheNumberOfPieces)
     for (int i = 2; i <= 32; ++i)
         profond += QStringLiteral("\\n%1").arg(i);
     for (const QString &clé : {CléJeu, profond})
-        ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, "langue", " 2") == 0);
-    const QByteArray avant = Lit(fichier);
-    // What creating the key answers; reading and writing answer 0 or −1 alike.
-    const std::pair<QString, i32> cas[] = {
+        Pose(clé, "langue", " 2");
+    const QByteArray avant = Contenu(fichier);
+    const std::pair<QString, i32> cas[] = { // what creating the key answers; reading and writing answer 0 or −1 alike
         {"hkey_current_user\\Software\\Globarium\\Kelmor", 0}, {"  HKEY_CURRENT_USER\\\\Software\\\\Globarium\\Kelmor\\\\  ", 0},
         {"\\HKEY_CURRENT_USER\\software\\GLOBARIUM\\kelmor\\", 0}, {profond + "\\\\\\", 0}, // empty pieces don't count towards the 32
         {profond + "\\n33", -1}, {"HKEY_NOWHERE" + profond.mid(17) + "\\n33", -1},             // too long before an unknown root
-        {"HKEY_NOWHERE\\Software", -2}, {"Software\\Globarium\\Kelmor", -2}, {"", -2}, {"   ", -2}, {"\\\\", -2},
-        // Known roots, but keys are created under the current user only.
-        {"HKEY_LOCAL_MACHINE\\Software\\Globarium", -2}, {"hkey_users\\Software", -2}};
-    for (const auto &[chemin, créé] : cas) {
-        SCOPED_TRACE(chemin.toStdString());
-        EXPECT_EQ(Valeur(chemin, "langue"), créé == 0 ? " 2" : "<-1>");
-        EXPECT_EQ(EcritValeur(chemin, "langue", " 2"), créé == 0 ? 0 : -1);
-        EXPECT_EQ(CréeClé(chemin), créé);
-    }
-    EXPECT_EQ(Lit(fichier), avant) << "nothing created or written";
+        {"HKEY_NOWHERE\\Software", -2}, {"Software\\Globarium\\Kelmor", -2}, {"", -2}, {"\\\\", -2},
+        {"HKEY_LOCAL_MACHINE\\Software\\Globarium", -2}, {"hkey_users\\Software", -2}}; // keys are made under the current user only
+    for (const auto &[chemin, créé] : cas)
+        EXPECT_EQ(QStringList({Valeur(chemin, "langue"), QString::number(EcritValeur(chemin, "langue", " 2")), QString::number(CréeClé(chemin))}),
+                  QStringList({créé == 0 ? " 2" : "<-1>", créé == 0 ? "0" : "-1", QString::number(créé)})) << chemin.toStdString();
+    EXPECT_EQ(Contenu(fichier), avant) << "nothing created or written";
     EXPECT_EQ(Valeur(CléJeu, "  LANGUE "), " 2") << "the value's name is trimmed and found in any case";
 }
 
@@ -40,9 +34,6 @@ TEST_F(Registre, CreationMakesEveryLevelOnceAndAMissingKeyAndAMissingValueAnswer
     ASSERT_EQ(CréeClé(CléJeu), 0);
     EXPECT_EQ(QStringList({Valeur(CléJeu, "version"), Valeur(CléFamille, "x")}), QStringList({"<-2>", "<-2>"}))
         << "the key and the level above it made, with no value";
-    const QByteArray après = Lit(fichier);
-    EXPECT_EQ(CréeClé("hkey_current_user\\SOFTWARE\\Globarium\\Kelmor"), 0);
-    EXPECT_EQ(Lit(fichier), après) << "creating again changes nothing";
     EXPECT_EQ(QList<i32>({CréeClé(CléJeu + '\\' + QString(256, 'k')), CréeClé(CléJeu + "\\a\nb"), CréeClé(CléJeu + '\\' + QString(255, 'k'))}),
               QList<i32>({-1, -1, 0}));
 
@@ -58,52 +49,34 @@ TEST_F(Registre, CreationMakesEveryLevelOnceAndAMissingKeyAndAMissingValueAnswer
     EXPECT_TRUE(CréeClé(CléJeu) == 0 && QFile::exists(dossier.filePath("a/b/registre.ini")));
 }
 
-TEST_F(Registre, EverythingSurvivesAReloadAndTheFileIsReplacedWhole)
-{
-    const QString vide = CléJeu + "\\Vide";
-    ASSERT_TRUE(CréeClé(vide) == 0 && EcritValeur(CléJeu, "JOUEUR", "Zoé") == 0); // "joueur" below is the same value
-    const std::pair<const char *, QString> valeurs[] = {{"joueur", "Jürg"}, {"langue", " 2"}, {"répertoire information", "/home/zoé/Cartes/"},
-                                                        {"vide", ""}, {"", "défaut"}, {"[x] \"y\"=", "a\\b \"c\" d=e\r\nf\tg\x01h "}};
-    for (const auto &[nom, texte] : valeurs)
-        ASSERT_EQ(EcritValeur(CléJeu, nom, texte), 0) << nom;
-    // Each write went through a temporary file that took the old one's place.
-    EXPECT_EQ(QDir(dossier.path()).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList({"registre.ini"}));
-
-    InstalleFichierRegistre(fichier);
-    for (const auto &[nom, texte] : valeurs)
-        EXPECT_EQ(Valeur(CléJeu, nom), texte) << nom;
-    EXPECT_EQ(QStringList({Valeur(vide, "x"), Valeur(vide + "\\Rien", "x")}), QStringList({"<-2>", "<-1>"}))
-        << "a key without values still exists";
-}
-
-// The file as another copy of the game, or a hand, left it since this one read it.
-TEST_F(Registre, ADamagedFileChangedBehindTheStoreGivesWhatItStillHolds)
+// Changed by another copy or a hand since it was read; what it holds survives a write, through a temporary file.
+TEST_F(Registre, ADamagedFileChangedBehindTheStoreGivesWhatItStillHoldsAndAWriteKeepsIt)
 {
     ASSERT_TRUE(CréeClé(CléJeu) == 0 && EcritValeur(CléJeu, "version", "read before") == 0);
     static const char abîmé[] =
         "\xEF\xBB\xBF; a comment\r\n\"orphan\"=\"before any key\"\r\n"
         "[HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor]\r\n\"version\"=\"Version 6.07 du 30/07/2008\"\r\n"
         "\"unterminated\"=\"abc\r\nno equals sign here\r\n\"bad escape\"=\"\\x4\"\r\n\"trailing\"=\"x\" junk\r\n"
-        "   \"langue\"   =   \" 2\"   \r\n\"bytes\"=\"\xFF\xFE\x00\x01\"\n"
+        "   \"langue\"   =   \" 2\"   \r\n\"bytes\"=\"\xFF\xFE\x00\x01\"\n\"[x] \\\"y\\\"=\"=\"a\\\\b \\\"c\\\" d=e\\r\\nf\\tg\\x01h \"\n"
         "[HKEY_NOWHERE\\Software]\n\"lost\"=\"x\"\n[HKEY_CURRENT_USER\\Software\\Globarium\\Kelmor\n\"half header\"=\"x\"\n"
-        "[hkey_current_user\\Software\\Globarium\\Arvenne]\n@=\"default\"\n\"joueur\"=\"Ana\"\n\"joueur\"=\"Ana again\"\n";
-    Ecrit(fichier, QByteArray(abîmé, sizeof abîmé - 1)); // with its NUL byte
+        "[hkey_current_user\\Software\\Globarium\\Arvenne]\n@=\"default\"\n\"vide\"=\"\"\n\"joueur\"=\"Ana\"\n\"JOUEUR\"=\"Ana again\"\n"
+        "[HKEY_CURRENT_USER\\Software\\Globarium\\Vide]\n";
+    EcritFichierEntier(fichier, QByteArray(abîmé, sizeof abîmé - 1)); // with its NUL byte
 
     const QString octets = Valeur(CléJeu, "bytes"), arvenne = CléFamille + "\\Arvenne";
     EXPECT_FALSE(octets.startsWith("<-")) << "bad UTF-8 is read as what it can be";
     for (const char *fois : {"as read", "as written again"}) {
-        SCOPED_TRACE(fois);
-        EXPECT_EQ(QStringList({Valeur(CléJeu, "version"), Valeur(CléJeu, "langue"), Valeur(CléJeu, "bytes"), Valeur(arvenne, ""),
-                               Valeur(arvenne, "joueur"), Valeur("HKEY_NOWHERE\\Software", "lost")}),
-                  QStringList({"Version 6.07 du 30/07/2008", " 2", octets, "default", "Ana again", "<-1>"}))
-            << "the last of a name wins";
+        EXPECT_EQ(QStringList({Valeur(CléJeu, "version"), Valeur(CléJeu, "langue"), Valeur(CléJeu, "bytes"), Valeur(CléJeu, "[x] \"y\"="),
+                               Valeur(arvenne, ""), Valeur(arvenne, "vide"), Valeur(arvenne, "joueur"), Valeur(CléFamille + "\\Vide", "x"), Valeur("HKEY_NOWHERE\\Software", "lost")}),
+                  QStringList({"Version 6.07 du 30/07/2008", " 2", octets, "a\\b \"c\" d=e\r\nf\tg\x01h ", "default", "", "Ana again", "<-2>", "<-1>"}))
+            << fois << ": the last of a name wins, a key without values still exists";
         for (const char *perdu : {"unterminated", "bad escape", "trailing", "half header", "orphan"})
-            EXPECT_EQ(Valeur(CléJeu, perdu), "<-2>") << perdu;
-        // The next write keeps what the other copy left, in a clean file.
+            EXPECT_EQ(Valeur(CléJeu, perdu), "<-2>") << fois << " " << perdu;
         ASSERT_EQ(EcritValeur(CléJeu, "joueur", "Zoé"), 0);
         InstalleFichierRegistre(fichier);
     }
-    EXPECT_FALSE(Lit(fichier).contains("orphan"));
+    EXPECT_FALSE(Contenu(fichier).contains("orphan"));
+    EXPECT_EQ(QDir(dossier.path()).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot), QStringList({"registre.ini"}));
 }
 
 } // namespace

@@ -1,38 +1,18 @@
 #pragma once
-// What the services' tests share: their headers, files and stored values read back, and a
-// store, message boxes and a clock of a test's own.
+// What the services' tests share: headers, stored values read back, a store, boxes and a clock of their own.
 #include "Fixtures.h"
 
 #include "platform/Ansi.h"
-#include "platform/Ecran.h"
-#include "platform/Formes.h"
-#include "screen/EcranPrincipal.h"
-#include "services/Langues.h"
 #include "services/MisesAJour.h"
 #include "screen/ParametrageRepertoires.h"
-#include "services/Parametres.h"
 #include "services/Registre.h"
 #include "services/TableChaines.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 // Texts shown as text when a check fails.
 inline void PrintTo(const QString &s, std::ostream *os) { *os << '"' << s.toStdString() << '"'; }
 
-// The bytes of a file, empty when it can't be read.
-inline QByteArray Lit(const QString &chemin)
-{
-    QFile f(chemin);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-inline void Ecrit(const QString &chemin, const QByteArray &octets)
-{
-    QFile f(chemin);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(octets) == octets.size());
-}
 // The stored text, or "<-1>" / "<-2>" as the read answered; a failed read that touched the caller's text says so.
 inline QString Valeur(const QString &clé, const QString &nom)
 {
@@ -42,13 +22,20 @@ inline QString Valeur(const QString &clé, const QString &nom)
 }
 
 // A value stored, its key made first.
-inline void Pose(const QString &clé, const QString &nom, const QString &texte)
+inline void Pose(const QString &clé, const QString &nom, const QString &texte) { ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0); }
+
+// In the folder form the player goes to each folder given in turn and presses OK; past them, the close box.
+inline void ChoisiraDossiers(const QStringList &dossiers)
 {
-    ASSERT_TRUE(CréeClé(clé) == 0 && EcritValeur(clé, nom, texte) == 0);
+    InstalleFormesModales([dossiers, choix = qsizetype(0)](QDialog &forme) mutable {
+        auto &f = dynamic_cast<ParamétrageRépertoires &>(forme);
+        if (choix < dossiers.size() && f.ChangeRépertoire(dossiers[choix++]))
+            f.BoutonOK->click();
+        return f.result();
+    });
 }
 
-// The messages the boxes showed, by their ids: the longest message that starts a box's text (the
-// reminder goes on with the games to fetch); −1 for a box of none.
+// The boxes' messages by id: the longest one that starts the box's text, −1 for none.
 inline QList<int> Vues(const BoîtesScriptées &boîtes)
 {
     QList<int> vues;
@@ -62,29 +49,25 @@ inline QList<int> Vues(const BoîtesScriptées &boîtes)
     return vues;
 }
 
-// A store in a temporary folder, which is also the program's, boxes and a clock of the test's own,
-// in French; the current folder put back.
+// A store in a temporary folder, also the program's, in French; the current folder put back.
 class Magasin : public ::testing::Test {
 protected:
     void SetUp() override
     {
         ASSERT_TRUE(dossier.isValid());
-        InstalleFichierRegistre(fichier);
-        InstalleBoîtes(&boîtes);
-        InstalleMaintenant([this] { return maintenant; });
-        Réglages().RépertoireApplication = dossier.path();
-        Langues().Langue = 1;
-        ChargeChaînes();
+        InstalleFichierRegistre(fichier), InstalleBoîtes(&boîtes), InstalleMaintenant([this] { return maintenant; });
+        Réglages().RépertoireApplication = dossier.path(), Langues().Langue = 1, ChargeChaînes();
     }
     void TearDown() override
     {
-        QDir::setCurrent(dossierCourant);
-        InstalleFormesModales(nullptr);
-        InstalleMaintenant(nullptr);
-        InstalleBoîtes(nullptr);
-        InstalleFichierRegistre(QString());
-        Langues().Langue = 1;
-        ChargeChaînes();
+        QDir::setCurrent(dossierCourant), InstalleFormesModales(nullptr), InstalleMaintenant(nullptr), InstalleBoîtes(nullptr);
+        InstalleFichierRegistre(QString()), Langues().Langue = 1, ChargeChaînes();
+    }
+    // The three folder values stored ("<-2>" when not written), the same in memory, and the current folder.
+    QStringList Dossiers() const
+    {
+        return {Valeur(CléJeu, "répertoire"), Valeur(CléJeu, "fichier de lancement"), Valeur(CléJeu, "répertoire information"),
+                Réglages().RépertoireSauvegarde, Réglages().FichierLancement, Réglages().RépertoireInfo, QDir::currentPath()};
     }
     QTemporaryDir dossier;
     QString fichier = dossier.filePath("registre.ini"), dossierCourant = QDir::currentPath();

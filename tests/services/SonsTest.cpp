@@ -2,38 +2,29 @@
 #include "Services.h"
 
 #include "services/Sons.h"
-#include "results/PartieEnCours.h"
 
 namespace {
 
 using Sons = JeuTest;
 
-TEST_F(Sons, TheSchemesSoundsAreEmptiedForTheRunAndPutBack)
+// Of the scheme's sounds, a value that wasn't there exists afterwards, empty; a missing key is never made.
+TEST_F(Sons, TheSchemesSoundsAreEmptiedForTheRunAndPutBackAndTheSwitchSilencesTheGame)
 {
     const QString schéma = "HKEY_CURRENT_USER\\AppEvents\\Schemes\\Apps\\.Default\\System%1\\.current";
-    ASSERT_TRUE(CréeClé(schéma.arg("Exclamation")) == 0 && EcritValeur(schéma.arg("Exclamation"), "", "/sons/ding.wav") == 0);
-    ASSERT_EQ(CréeClé(schéma.arg("Question")), 0); // a key without a value
-    const auto sons = [&] {
-        return QStringList({Valeur(schéma.arg("Exclamation"), ""), Valeur(schéma.arg("Question"), ""), Valeur(schéma.arg("Hand"), "")});
-    };
+    Pose(schéma.arg("Exclamation"), "", "/sons/ding.wav");
+    ASSERT_EQ(CréeClé(schéma.arg("Question")), 0);
+    const auto schémas = [&] { return QStringList({Valeur(schéma.arg("Exclamation"), ""), Valeur(schéma.arg("Question"), ""), Valeur(schéma.arg("Hand"), "")}); };
     CoupeSonsSystème();
-    EXPECT_EQ(sons(), QStringList({"", "<-2>", "<-1>"}));
-    // The value that wasn't there exists now, empty; a missing key is never made.
+    EXPECT_EQ(schémas(), QStringList({"", "<-2>", "<-1>"}));
     RestaureSonsSystème();
-    EXPECT_EQ(sons(), QStringList({"/sons/ding.wav", "", "<-1>"}));
-}
+    EXPECT_EQ(schémas(), QStringList({"/sons/ding.wav", "", "<-1>"}));
 
-TEST_F(Sons, TheSwitchSilencesTheGameAndSaysSoInTheMenu)
-{
     NouvellePartieAuNiveau(3);
-    Menuson_Click();
-    EXPECT_EQ(Principal().Menuson->text(), Message(TMessage::MettreLeSon));
-    RépondFaux();
-    EXPECT_TRUE(sons.joués.empty());
-    Menuson_Click();
-    RépondFaux();
-    EXPECT_EQ(sons.joués, std::vector<QString>({SonsJeu().SonErreur}));
-    EXPECT_EQ(Principal().Menuson->text(), Message(TMessage::CouperLeSon));
+    for (const bool actif : {false, true}) {
+        Principal().Menuson->trigger(), sons.joués.clear(), RépondFaux();
+        EXPECT_EQ(sons.joués, actif ? std::vector<QString>{SonsJeu().SonErreur} : std::vector<QString>{});
+        EXPECT_EQ(Principal().Menuson->text(), Message(actif ? TMessage::CouperLeSon : TMessage::MettreLeSon));
+    }
 }
 
 } // namespace
