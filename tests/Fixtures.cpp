@@ -3,7 +3,6 @@
 #include "platform/Horloge.h"
 #include "services/MisesAJour.h"
 #include "services/Registre.h"
-#include "results/PartieEnCours.h"
 
 QByteArray Enregistrement(int carte, int x, int zone) { return char(carte) + Octets::LE(x, 2) + char(zone); }
 
