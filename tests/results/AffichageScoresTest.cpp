@@ -2,7 +2,6 @@
 #include "Fixtures.h"
 
 #include "results/AffichageScores.h"
-#include "results/PartieEnCours.h"
 
 TEST(FormatDurée, HoursMinutesAndSecondsWithoutLeadingZerosInFront)
 {
@@ -23,36 +22,32 @@ TEST(RangScore, PointsFirstThenTheShorterTimeAndAnEqualLineStaysAhead)
 
 using Meilleurs = JeuTest;
 
-TEST_F(Meilleurs, NoLevelYetAsksFirstThenShowsFacileAChosenLevelShowsItsLinesAZeroAsAnEmptyRowAndEnterCloses)
+TEST_F(Meilleurs, NoLevelAsksFirstThenShowsFacileALevelShowsItsLinesAZeroAsAnEmptyRowAndStatisticsOnlyAtAGamesEnd)
 {
-    Jeu().ScoresFinPartie = false;
-    Jeu().MeilleursScores[1][1] = {QStringLiteral("Ana"), 999, 61};
-    Jeu().NombreScores[2] = 4;
-    Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
-    Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125};
-    Jeu().MeilleursScores[2][3] = {QStringLiteral("Nul"), 0, 77};
-    Jeu().MeilleursScores[2][4] = {QStringLiteral("Lou"), -4321, 42};
-    // The form's title, then its ten rows as "name|points|duration", empty rows left out; and the boxes before it.
-    std::vector<std::vector<QString>> vus;
-    InstalleFormesModales([&](QDialog &d) {
-        auto &f = dynamic_cast<AffichageScores &>(d);
-        vus.push_back({QString::number(boîtes.journal.size()), f.Etiquette->text()});
+    Jeu().ScoresFinPartie = false, Jeu().NombreScores[2] = 4;
+    Jeu().MeilleursScores[1][1] = {"Ana", 999, 61}, Jeu().MeilleursScores[2][1] = {QString::fromUtf8("Zoé"), 812345, 3725};
+    Jeu().MeilleursScores[2][2] = {QString::fromUtf8("Marc-André Weißmüller"), 1500, 125}, Jeu().MeilleursScores[2][3] = {"Nul", 0, 77};
+    Jeu().MeilleursScores[2][4] = {"Lou", -4321, 42};
+    // The form's title, then its rows as "name|points|duration", the empty ones at the end left out.
+    auto vu = [](const AffichageScores &f) {
+        QStringList l{f.Etiquette->text()};
         for (int i = 1; i <= 10; ++i)
-            vus.back().push_back(f.nomjoueur[i]->text() + '|' + f.valeurscore[i]->text() + '|' + f.valeurdurée[i]->text());
-        while (vus.back().back() == "||")
-            vus.back().pop_back();
-        return 0;
-    });
-    AfficheMeilleursScores(Jeu().Niveau); // no game yet in this run: the menu's current level, asked first
-    AfficheMeilleursScores(TNiveau::Expert), AfficheMeilleursScores(TNiveau::Moyen);
-    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::NiveauNonChoisi) && ScoresAffichés().NiveauAffiché == TNiveau::Moyen);
-    EXPECT_EQ(vus, (std::vector<std::vector<QString>>{{"1", "Niveau facile", "Ana|999|1mn01s"}, {"1", "Expert"},
-                   {"1", "Niveau moyen", "Zoé|812345|1h02mn05s", "Marc-André Weißmüller|1500|2mn05s", "||", "Lou|-4321|42s"}}));
-    EXPECT_FALSE(AffichageScores().BoutonStatistiques->Visible()) << "the statistics are the ended game's, not the menu's";
+            l << f.nomjoueur[i]->text() + '|' + f.valeurscore[i]->text() + '|' + f.valeurdurée[i]->text();
+        while (l.back() == "||")
+            l.pop_back();
+        return l;
+    };
+    ScoresAffichés().NiveauAffiché = TNiveau::Aucun; // no game yet in this run
+    const AffichageScores aucun;
+    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::NiveauNonChoisi) && ScoresAffichés().NiveauAffiché == TNiveau::Facile);
+    EXPECT_EQ(vu(aucun), QStringList({"Niveau facile", "Ana|999|1mn01s"}));
+    ScoresAffichés().NiveauAffiché = TNiveau::Moyen;
+    AffichageScores f;
+    EXPECT_EQ(vu(f), QStringList({"Niveau moyen", "Zoé|812345|1h02mn05s", "Marc-André Weißmüller|1500|2mn05s", "||", "Lou|-4321|42s"}));
+    EXPECT_FALSE(f.BoutonStatistiques->Visible()) << "the statistics are the ended game's, not the menu's";
     Jeu().ScoresFinPartie = true;
-    AffichageScores f; // Enter on the focused close button closes the form
-    EXPECT_TRUE(f.BoutonStatistiques->Visible());
-    f.show();
+    EXPECT_TRUE(AffichageScores().BoutonStatistiques->Visible());
+    f.show(); // Enter on the focused close button closes the form
     QApplication::processEvents();
     QTest::keyClick(&f, Qt::Key_Return);
     EXPECT_TRUE(!f.isVisible() && f.result() == QDialog::Accepted);

@@ -2,7 +2,6 @@
 #include "Fixtures.h"
 
 #include "results/NouvellePartie.h"
-#include "results/PartieEnCours.h"
 
 #include <QRadioButton>
 
@@ -16,8 +15,8 @@ TEST_F(Dialogue, TheLevelOfferedTheNameAndLevelChosenTheClockAndTheFocus)
     EXPECT_TRUE(montré(premier) == premier.BoîteNomJoueur && premier.NiveauFacile->isChecked() && premier.BoîteNomJoueur->text().isEmpty());
     premier.BoîteNomJoueur->setText("   ");
     premier.BoutonSortie->click();
-    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::IndiquerVotreNom));
-    EXPECT_TRUE(premier.result() == 0 && Jeu().Etape == TEtape::Aucune && Jeu().NomJoueur.isEmpty());
+    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::IndiquerVotreNom) && premier.result() == 0 &&
+                Jeu().Etape == TEtape::Aucune && Jeu().NomJoueur.isEmpty());
     // Each button its level; names cut at twenty, kept as typed otherwise; the clock rounded.
     horloge = 4000.6;
     struct Cas { QRadioButton *NouvellePartie::*bouton; const char *tapé, *gardé; int niveau; bool apprentissage; };
@@ -37,7 +36,6 @@ TEST_F(Dialogue, TheLevelOfferedTheNameAndLevelChosenTheClockAndTheFocus)
     Jeu().Niveau = TNiveau::Facile, Jeu().ModeApprentissage = true;
     NouvellePartie d; // after Apprentissage, Facile; a known name: Enter starts the game
     EXPECT_TRUE(montré(d) == d.BoutonSortie && d.NiveauFacile->isChecked() && d.BoîteNomJoueur->text() == "Lou");
-    EXPECT_EQ(boîtes.journal.size(), 1u);
 }
 
 TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
@@ -53,6 +51,5 @@ TEST_F(Dialogue, CancelWithAGameUnderWayLeavesNoGame)
     });
     LanceNouvellePartie(); // and Yes to leaving the game
     EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[1].texte == Message(TMessage::MieuxFaireTopTen)) << "the abandoned game is scored";
-    EXPECT_EQ(std::vector<int>({Numéro(Jeu().Etape), Jeu().Score}), std::vector<int>({0, -999999 + 4807}));
-    EXPECT_FALSE(Principal().rond[1]->Visible() || Principal().QueFaire->Visible());
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && !Principal().rond[1]->Visible() && !Principal().QueFaire->Visible());
 }

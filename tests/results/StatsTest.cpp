@@ -2,7 +2,6 @@
 #include "Fixtures.h"
 
 #include "results/Stats.h"
-#include "results/PartieEnCours.h"
 
 #include <QWheelEvent>
 
