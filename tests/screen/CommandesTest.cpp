@@ -1,8 +1,7 @@
-// The markers of every step and level, every command in every state, the language and the dots' colours.
+// The markers of every step and level, every command in every state, and the dots' colours.
 #include "Fixtures.h"
 
 #include "screen/Palette.h"
-#include "results/PartieEnCours.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -56,20 +55,10 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             EXPECT_EQ(E.QueFaire->Visible(), Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques);
             EXPECT_TRUE(Jeu().Etape != TEtape::Aucune || std::none_of(E.rond.begin() + 1, E.rond.end(), [](Image *r) { return r->Visible(); }));
             EXPECT_TRUE(état != 1 || entrée == E.MenuRévision || entrée == E.FichierNouveau || entrée == E.FichierLire || Jeu().Etape == avant);
+            EXPECT_TRUE(Jeu().Etape != TEtape::Révision || E.rond[5]->toolTip() == Jeu().Cantons[5].ChefLieu) << "in Révision each dot names its town";
             if (Langues().Langue != 1)
                 ChangeLangue(1);
         }
-}
-
-TEST_F(Marques, AChangeOfLanguageRenamesMenusAndTownsButNotTheLanguages)
-{
-    auto &E = Principal();
-    LanceRévision();
-    EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::ConseilFicheRévision) && E.rond[5]->toolTip() == QString::fromUtf8("Bâle"));
-    const QString allemand = E.MenuAllemand->text(), nouveau = E.FichierNouveau->text();
-    ChangeLangue(2);
-    EXPECT_TRUE(E.rond[5]->toolTip() == "Basel" && E.MenuAllemand->text() == allemand);
-    EXPECT_TRUE(E.FichierNouveau->text() == Message(TMessage::NouvellePartie) && E.FichierNouveau->text() != nouveau);
 }
 
 TEST_F(Marques, AColourChoiceRepaintsTheDotsByTheirFoundStateAndTheCloseSignChangesNothing)

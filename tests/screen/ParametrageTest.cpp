@@ -3,8 +3,6 @@
 
 #include "screen/Parametrage.h"
 #include "services/Registre.h"
-#include "services/Reglages.h"
-#include "results/PartieEnCours.h"
 
 #include <QMenu>
 
