@@ -5,13 +5,11 @@
 #include "services/Donnees.h"
 
 #include <QImageReader>
-#include <QSvgRenderer>
 
 const QString Données = QStringLiteral(DOSSIER_DONNEES);
 QString NN(int i) { return QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0')); }
 
-// Every town's dot lies in its canton, every canton inside its picture, and the border
-// drawn in each picture (just inside the canton) resolves to it.
+// Every town's dot lies in its canton and every canton inside its picture.
 TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
 {
     Langues().Langue = 1, ChargeChaînes(), ChargeCantons(Jeu());
@@ -25,22 +23,12 @@ TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
                     << "canton " << z << " at " << x << "," << y;
             }
     EXPECT_TRUE(pays > 652 * 456 / 5 && pays < 652 * 456 * 4 / 5) << "a good part of the map, not all of it: " << pays;
-    for (int i = 1; i <= 26; ++i) {
-        const TCanton &c = Jeu().Cantons[i];
-        EXPECT_EQ(ZoneEn(Jeu().Carte, 0, c.VilleGauche + 3, c.VilleHaut + 4), i) << c.Nom.toStdString();
-        const QImage inv = QImage(Données + "/images/inv" + NN(i) + ".png").convertToFormat(QImage::Format_ARGB32);
-        int dessinés = 0, dedans = 0;
-        for (int y = 0; y < inv.height(); ++y)
-            for (int x = 0; x < inv.width(); ++x)
-                if (qAlpha(inv.pixel(x, y)) > 200)
-                    ++dessinés, dedans += ZoneEn(Jeu().Carte, 0, c.PaysGauche + x, c.PaysHaut + y) == i;
-        EXPECT_TRUE(dessinés > 10 && dedans > dessinés * 8 / 10) << c.Nom.toStdString() << ": " << dedans << " of " << dessinés;
-    }
+    for (int i = 1; i <= 26; ++i)
+        EXPECT_EQ(ZoneEn(Jeu().Carte, 0, Jeu().Cantons[i].VilleGauche + 3, Jeu().Cantons[i].VilleHaut + 4), i) << Jeu().Cantons[i].Nom.toStdString();
 }
 
-// Each canton's pictures at the size of the table and twice that; every vector picture sound, the flags
-// filling the question's frame.
-TEST(Images, EveryPictureAtItsSizeAndTwiceThatVectorOnesSound)
+// Each canton's pictures at the size of the table and twice that, and a flag for each.
+TEST(Images, EveryPictureAtItsSizeAndTwiceThat)
 {
     std::vector<std::pair<QString, QSize>> attendus = {{"carte", {652, 456}}};
     for (int i = 1; i <= 26; ++i)
@@ -49,11 +37,5 @@ TEST(Images, EveryPictureAtItsSizeAndTwiceThatVectorOnesSound)
     for (const auto &[nom, taille] : attendus)
         EXPECT_TRUE(QImageReader(Données + "/images/" + nom + ".png").size() == taille &&
                     QImageReader(Données + "/images/" + nom + "@2x.png").size() == taille * 2) << nom.toStdString();
-    EXPECT_EQ(QDir(Données + "/drapeaux").entryList({"drapeau??.svg"}).size(), 26);
-    for (const QString dossier : {"images", "drapeaux"})
-        for (const QFileInfo &f : QDir(Données + "/" + dossier).entryInfoList({"*.svg"})) {
-            QSvgRenderer image(f.filePath());
-            EXPECT_TRUE(image.isValid() && !image.defaultSize().isEmpty() && (dossier == "images" || image.defaultSize() == QSize(125, 125)))
-                << f.fileName().toStdString();
-        }
+    EXPECT_EQ(QDir(Données + "/drapeaux").entryList({"drapeau??.svg"}).size(), 26); // each sound and square: the drawings' checker sees to that
 }

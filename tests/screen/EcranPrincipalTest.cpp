@@ -52,28 +52,26 @@ TEST_F(Chargement, TheFileDialogRefusesTakenEmptyAndUnselectedNamesOffersAnother
     QDir(dossier.path()).mkdir("autre");
     ASSERT_TRUE(EcritFichierEntier(dossier.filePath("pris.CAS"), {}));
     Réglages().RépertoireSauvegarde = dossier.path(), DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde, DemandeDossier().TypeFichier = TTypeFichier::Partie;
-    {
-        SélectionPartie s;
-        s.NomFichier->setText("pris");
-        Tape(s, s.NomFichier, Qt::Key_Return);
-        EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::FichierExisteDéjà)) << "the name taken refused, once";
-        s.NomFichier->setText("   ");
-        s.BoutonOK->click();
-        EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::NomFichierObligatoire) && s.NomFichier->text() == "   .CAS");
-        s.Fichier->setCurrentRow(0);
-        s.Fichier_DblClick();
-        EXPECT_TRUE(s.NomFichier->text() == "pris.CAS" && s.result() == 0) << "a double click names the file and saves nothing";
-        boîtes.journal.clear(), s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
-        Tape(s, s.Répertoire, Qt::Key_Return);
-        EXPECT_TRUE(s.Chemin() == autre && boîtes.journal.empty() && s.isVisible()) << "Enter opens the folder and presses nothing else";
-        s.ProposeRépertoire(); // and Yes
-        EXPECT_TRUE(boîtes.ADit(Message(TMessage::RépertoireParDéfaut) + autre) && Réglages().RépertoireSauvegarde == autre && QDir::currentPath() == autre);
-        boîtes.journal.clear(), s.ChangeRépertoire(autre + "/"), s.ProposeRépertoire();
-        EXPECT_TRUE(boîtes.journal.empty()) << "the same folder with a final separator asks nothing";
-    }
-    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
     SélectionPartie s;
-    s.Fichier->setCurrentRow(-1);
+    s.NomFichier->setText("pris");
+    Tape(s, s.NomFichier, Qt::Key_Return);
+    EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::FichierExisteDéjà)) << "the name taken refused, once";
+    s.NomFichier->setText("   ");
     s.BoutonOK->click();
-    EXPECT_TRUE(s.NomFichier->isHidden() && boîtes.journal.back().texte == Message(TMessage::ChoisirFichierPartie));
+    EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::NomFichierObligatoire) && s.NomFichier->text() == "   .CAS");
+    s.Fichier->setCurrentRow(0);
+    s.Fichier_DblClick();
+    EXPECT_TRUE(s.NomFichier->text() == "pris.CAS" && s.result() == 0) << "a double click names the file and saves nothing";
+    boîtes.journal.clear(), s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
+    Tape(s, s.Répertoire, Qt::Key_Return);
+    EXPECT_TRUE(s.Chemin() == autre && boîtes.journal.empty() && s.isVisible()) << "Enter opens the folder and presses nothing else";
+    s.ProposeRépertoire(); // and Yes
+    EXPECT_TRUE(boîtes.ADit(Message(TMessage::RépertoireParDéfaut) + autre) && Réglages().RépertoireSauvegarde == autre && QDir::currentPath() == autre);
+    boîtes.journal.clear(), s.ChangeRépertoire(autre + "/"), s.ProposeRépertoire();
+    EXPECT_TRUE(boîtes.journal.empty()) << "the same folder with a final separator asks nothing";
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
+    SélectionPartie l;
+    l.Fichier->setCurrentRow(-1);
+    l.BoutonOK->click();
+    EXPECT_TRUE(l.NomFichier->isHidden() && boîtes.journal.back().texte == Message(TMessage::ChoisirFichierPartie));
 }

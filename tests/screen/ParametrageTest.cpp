@@ -30,17 +30,28 @@ protected:
     static CaseACocher *B(int rang, int genre) { return Principal().Bouton[(rang - 1) * 4 + genre]; }
 };
 
-TEST_F(Parametrage, EveryTextFitsItsBoxTheMenusAreLockedAndTheBoxesFollowTheGrid)
+TEST_F(Parametrage, TheTextsFitTheMenusLockOkOnTheSetUnchangedOnlyMarksItForTheStartAndTheBoxesFollowTheGrid)
 {
     auto &E = Principal();
+    EcritValeur(CléJeu, "fichier de lancement", dossier.filePath("autre.SCS"));
     DéfinitParamétrage();
-    EXPECT_TRUE(!E.MenuFichier->isEnabled() && E.MenuLangue->isEnabled());
+    EXPECT_TRUE(!E.MenuFichier->isEnabled() && E.MenuLangue->isEnabled() && !E.Bouton[18]->isChecked());
     for (int langue : {2, 1}) {
         ChangeLangue(langue);
         for (int i = 1; i <= 13; ++i)
             EXPECT_TRUE(E.LBLParam[i]->TexteTientDans() && (i < 8 || i > 10 || !E.LBLParam[i]->geometry().intersects(E.LBLParam[i + 1]->geometry())))
                 << "language " << langue << ", LBLParam(" << i << ")";
     }
+    // OK on the named set unchanged, now to be used at the start: no dialog, no message, nothing written to its file.
+    E.Bouton[18]->setChecked(true);
+    E.BTN[1]->click();
+    QString lancement;
+    LitValeur(CléJeu, "fichier de lancement", lancement);
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && FormesMontrées().empty() && boîtes.journal.empty() && lancement == Réglages().FichierLancement &&
+                !QFile::exists(lancement));
+    RevoitParamétrage(); // shown again, it is the start-up set and everything is locked
+    EXPECT_TRUE(E.Bouton[18]->isChecked() && !E.Bouton[3]->isEnabled() && E.BTN[1]->isHidden() && E.LBLParam[2]->text() == Message(TMessage::ConseilParamétrageRonds));
+    DéfinitParamétrage();
     B(2, 3)->setChecked(true); // flags second: they leave rank 3, which empties, so rank 4 goes
     EXPECT_TRUE(B(1, 1)->isChecked() && B(2, 3)->isChecked() && !B(2, 2)->isChecked() && !B(3, 3)->isChecked() && !B(4, 4)->isChecked());
     B(1, 1)->setChecked(false);
@@ -49,39 +60,20 @@ TEST_F(Parametrage, EveryTextFitsItsBoxTheMenusAreLockedAndTheBoxesFollowTheGrid
 
 TEST_F(Parametrage, AChangedSetGoesToANewFileWithEmptyListsAndItsOrderIsPlayed)
 {
-    Jeu().NombreScores[1] = 1;
-    Jeu().MeilleursScores[1][1] = {"Ancien", 900000, 60};
+    Jeu().NombreScores[1] = 1, Jeu().MeilleursScores[1][1] = {"Ancien", 900000, 60};
     DéfinitParamétrage();
     // Two red dots, one flipped back: only Zoug stays out. One step of plates.
     for (int c : {25, 3, 3})
         TraiteClic(Jeu(), static_cast<i16>(c), 100, 100);
     EXPECT_TRUE(Principal().rond[25]->Width() == 16 && Principal().rond[3]->Width() == 20);
-    B(1, 4)->setChecked(true);
-    B(2, 2)->setChecked(false);
+    B(1, 4)->setChecked(true), B(2, 2)->setChecked(false);
     ChoisitFichier("plaques");
     Principal().BTN[1]->click();
-    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && Réglages().FichierLancement == dossier.filePath("plaques.SCS"));
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && Réglages().FichierLancement == dossier.filePath("plaques.SCS") &&
+                QFileInfo(Réglages().FichierLancement).size() == 34 * 128) << "the set alone, without lists";
     EXPECT_TRUE(Jeu().Cantons[25].Inhibé && !Jeu().Cantons[3].Inhibé && Jeu().NombreScores[1] == 0);
-    EXPECT_EQ(QFileInfo(Réglages().FichierLancement).size(), 34 * 128) << "the set alone, without lists";
     NouvellePartieAuNiveau(2);
     EXPECT_TRUE(Jeu().Etape == TEtape::Plaques && Jeu().RestantsEtape == 25);
-}
-
-TEST_F(Parametrage, OkOnAnUnchangedNamedSetEndsQuietlyAndOnlyTheStartFlagMayChange)
-{
-    EcritValeur(CléJeu, "fichier de lancement", dossier.filePath("autre.SCS"));
-    DéfinitParamétrage();
-    EXPECT_FALSE(Principal().Bouton[18]->isChecked());
-    Principal().Bouton[18]->setChecked(true);
-    Principal().BTN[1]->click();
-    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && FormesMontrées().empty() && boîtes.journal.empty());
-    QString lancement;
-    LitValeur(CléJeu, "fichier de lancement", lancement);
-    EXPECT_TRUE(lancement == Réglages().FichierLancement && !QFile::exists(lancement)) << "nothing is written to the file";
-    // Shown again, it is the start-up set and everything is locked.
-    RevoitParamétrage();
-    EXPECT_TRUE(Principal().Bouton[18]->isChecked() && !Principal().Bouton[3]->isEnabled() && Principal().BTN[1]->isHidden());
-    EXPECT_EQ(Principal().LBLParam[2]->text(), Message(TMessage::ConseilParamétrageRonds));
 }
 
 TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToTheTemporaryFileAndTheDefaultComesBack)
@@ -92,8 +84,8 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     Principal().BTN[1]->click();
     EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::AuMoinsUnCanton) && Jeu().Etape == TEtape::ParamétrageModifié);
     Principal().BTN[2]->click();
-    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && !Jeu().Cantons[1].Trouvé && !Jeu().Cantons[26].Trouvé);
-    EXPECT_TRUE(Principal().MenuFichier->isEnabled() && Principal().LBLParam[1]->isHidden());
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && !Jeu().Cantons[1].Trouvé && !Jeu().Cantons[26].Trouvé && Principal().MenuFichier->isEnabled() &&
+                Principal().LBLParam[1]->isHidden());
 
     ASSERT_TRUE(EcritFichierEntier(dossier.filePath("~tmp.~cf"), "vieux"));
     Jeu().NombreScores[2] = 1;
@@ -105,12 +97,12 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     Principal().BTN[1]->click();
     EXPECT_EQ(Jeu().Etape, TEtape::ParamétrageModifié) << "No keeps the mode";
     Principal().BTN[1]->click();
-    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && Réglages().FichierLancement == "~tmp.~cf" && Jeu().NombreScores[2] == 0);
-    EXPECT_EQ(QFileInfo(dossier.filePath("~tmp.~cf")).size(), 34 * 128);
+    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && Réglages().FichierLancement == "~tmp.~cf" && Jeu().NombreScores[2] == 0 &&
+                QFileInfo(dossier.filePath("~tmp.~cf")).size() == 34 * 128);
 
     // The default set comes back and becomes the start-up set.
     Jeu().OrdreEtapes[2] = Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     ParamétrageDéfaut();
-    EXPECT_TRUE(Réglages().FichierLancement == dossier.filePath("KELMOR.SCS") && Jeu().OrdreEtapes[4] == TEtape::Plaques);
-    EXPECT_TRUE(Jeu().Etape == TEtape::ParamétrageAffiché && Principal().Bouton[18]->isChecked());
+    EXPECT_TRUE(Réglages().FichierLancement == dossier.filePath("KELMOR.SCS") && Jeu().OrdreEtapes[4] == TEtape::Plaques &&
+                Jeu().Etape == TEtape::ParamétrageAffiché && Principal().Bouton[18]->isChecked());
 }
