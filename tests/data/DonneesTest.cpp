@@ -1,13 +1,11 @@
-// What ships with the game: the map's raster, the pictures at 100 % and 200 %, the flags.
+// The map's raster that ships with the game. The pictures, the flags and the rest are checked by the programs
+// that make them (tools/carte, tools/dessins) before they write anything.
 #include "Fixtures.h"
 
 #include "files/CarteZones.h"
 #include "services/Donnees.h"
 
-#include <QImageReader>
-
 const QString Données = QStringLiteral(DOSSIER_DONNEES);
-QString NN(int i) { return QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0')); }
 
 // Every town's dot lies in its canton and every canton inside its picture.
 TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
@@ -25,17 +23,4 @@ TEST(Carte, TheRasterAgreesWithTheTownsAndThePictures)
     EXPECT_TRUE(pays > 652 * 456 / 5 && pays < 652 * 456 * 4 / 5) << "a good part of the map, not all of it: " << pays;
     for (int i = 1; i <= 26; ++i)
         EXPECT_EQ(ZoneEn(Jeu().Carte, 0, Jeu().Cantons[i].VilleGauche + 3, Jeu().Cantons[i].VilleHaut + 4), i) << Jeu().Cantons[i].Nom.toStdString();
-}
-
-// Each canton's pictures at the size of the table and twice that, and a flag for each.
-TEST(Images, EveryPictureAtItsSizeAndTwiceThat)
-{
-    std::vector<std::pair<QString, QSize>> attendus = {{"carte", {652, 456}}};
-    for (int i = 1; i <= 26; ++i)
-        for (const QString &nom : {"pays" + NN(i) + "_fr", "pays" + NN(i) + "_de", "inv" + NN(i)})
-            attendus.push_back({nom, nom == "inv01" ? QSize(170, TaillePays(i).height()) : TaillePays(i)});
-    for (const auto &[nom, taille] : attendus)
-        EXPECT_TRUE(QImageReader(Données + "/images/" + nom + ".png").size() == taille &&
-                    QImageReader(Données + "/images/" + nom + "@2x.png").size() == taille * 2) << nom.toStdString();
-    EXPECT_EQ(QDir(Données + "/drapeaux").entryList({"drapeau??.svg"}).size(), 26); // each sound and square: the drawings' checker sees to that
 }

@@ -32,7 +32,6 @@ TEST_F(Dialogue, TheLevelOfferedTheNameAndLevelChosenTheClockAndTheFocus)
         EXPECT_EQ(std::vector<int>({Numéro(Jeu().Etape), Numéro(Jeu().Niveau), Jeu().ModeApprentissage, Jeu().ScoreGelé, Jeu().HeureDépart}),
                   std::vector<int>({Numéro(Jeu().OrdreEtapes[1]), c.niveau, c.apprentissage, c.apprentissage, 4001}));
     }
-    EXPECT_TRUE(NouvellePartie().NiveauExpert->isChecked()) << "the last level is offered again";
     Jeu().Niveau = TNiveau::Facile, Jeu().ModeApprentissage = true;
     NouvellePartie d; // after Apprentissage, Facile; a known name: Enter starts the game
     EXPECT_TRUE(montré(d) == d.BoutonSortie && d.NiveauFacile->isChecked() && d.BoîteNomJoueur->text() == "Lou");

@@ -50,6 +50,8 @@ protected:
 TEST_F(Store, WrittenByteByByteReadBackWholeAndAnotherMajorVersionOrADamagedFileFallsBackToTheDefault)
 {
     const QString défaut = Réglages().FichierLancement, abîmé = dossier.filePath("abime.SCS");
+    ChargeScores(); // no file yet: no message, and none made
+    EXPECT_TRUE(boîtes.journal.empty() && !QFile::exists(défaut));
     Jeu().OrdreEtapes[1] = TEtape::ChefsLieux, Jeu().OrdreEtapes[2] = TEtape::Drapeaux, Jeu().OrdreEtapes[3] = Jeu().OrdreEtapes[4] = TEtape::Aucune;
     Jeu().Cantons[5].Inhibé = Jeu().Cantons[26].Inhibé = true;
     Jeu().NombreScores[2] = 2, Jeu().NombreScores[4] = 1;
@@ -79,10 +81,6 @@ TEST_F(Store, WrittenByteByByteReadBackWholeAndAnotherMajorVersionOrADamagedFile
         EXPECT_TRUE(boîtes.journal.size() == (défautBon ? 1u : 2u) && boîtes.ADit(abîmé + " : " + Message(TMessage::FichierNonInterprétable)) &&
                     Réglages().FichierLancement == défaut && ContenuScores(true) == (défautBon ? bonDéfaut : Tête({1, 2, 3, 4}).o)) << o.size();
     }
-    QFile::remove(défaut), boîtes.journal.clear(); // no file at all: no message, nothing made
-    Réglages().FichierLancement = dossier.filePath("absent.SCS");
-    ChargeScores();
-    EXPECT_TRUE(boîtes.journal.empty() && !QFile::exists(défaut) && !QFile::exists(dossier.filePath("absent.SCS")));
 }
 
 // A place taken is told and written, a score left out is told and changes nothing, Apprentissage keeps none;
@@ -92,8 +90,8 @@ TEST_F(Store, TheBestTenTakeAScoreWithItsVerdictAndItsFileAFrozenScoreIsNotKeptA
     Jeu().OrdreEtapes[1] = TEtape::Drapeaux, Jeu().Cantons[7].Inhibé = true;
     for (int i = 0; i <= 9; ++i)
         Termine(2, 500 + 10 * i, 100);
-    EXPECT_EQ(boîtes.journal[0].texte, Message(TMessage::BravoTopTen));
-    EXPECT_TRUE(FormesMontrées().back() == "AffichageScores" && ScoresAffichés().NiveauAffiché == TNiveau::Moyen) << "the list of the game's level follows";
+    EXPECT_TRUE(boîtes.journal[0].texte == Message(TMessage::BravoTopTen) && FormesMontrées().back() == "AffichageScores" &&
+                ScoresAffichés().NiveauAffiché == TNiveau::Moyen) << "the list of the game's level follows";
     EXPECT_TRUE(Jeu().NombreScores[2] == 10 && Jeu().MeilleursScores[2][1].Points == 590 && Contenu(Réglages().FichierLancement) == ContenuScores(true));
     const QByteArray avant = Contenu(Réglages().FichierLancement);
     Termine(2, 500, 100); // equal in points and length: the older line stays
@@ -101,8 +99,6 @@ TEST_F(Store, TheBestTenTakeAScoreWithItsVerdictAndItsFileAFrozenScoreIsNotKeptA
     Termine(2, 555, 50); // the lines below move down, the tenth goes
     EXPECT_EQ(std::vector<int>({Jeu().MeilleursScores[2][5].Points, Jeu().MeilleursScores[2][6].Points, Jeu().MeilleursScores[2][10].Points}),
               std::vector<int>({555, 550, 510}));
-    Termine(3, -432773, 500);
-    EXPECT_TRUE(boîtes.journal[0].texte == Message(TMessage::MieuxFaireTopTen) && Jeu().MeilleursScores[3][1].Points == -432773);
     Jeu().ScoreGelé = true, Jeu().Niveau = TNiveau::Facile, Jeu().PartieEnregistrée = false, boîtes.journal.clear();
     EnregistreScore();
     EXPECT_TRUE(Jeu().NombreScores[1] == 0 && Jeu().PartieEnregistrée && boîtes.journal.at(0).texte == Message(TMessage::ScoreNonEnregistréAssistance));

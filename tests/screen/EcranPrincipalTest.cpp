@@ -40,10 +40,8 @@ TEST_F(Chargement, F1OpensTheContextOfTheControlWithTheFocusAndItsPageInTheLangu
     Tape(Principal(), Principal().Bouton[3], Qt::Key_F1);
     Principal().MenuAide->trigger();
     Tape(Principal(), Principal().Bouton[3], Qt::Key_F1);
-    InstalleAide(nullptr);
-    EXPECT_EQ(ouverts, (std::vector<int>{65, 10, 10}));
-    ChangeLangue(2);
-    EXPECT_TRUE(PageAide(160).endsWith("/aide/de/aide_160.html"));
+    InstalleAide(nullptr), ChangeLangue(2);
+    EXPECT_TRUE(ouverts == std::vector<int>({65, 10, 10}) && PageAide(160).endsWith("/aide/de/aide_160.html"));
 }
 
 TEST_F(Chargement, TheFileDialogRefusesTakenEmptyAndUnselectedNamesOffersAnotherFolderOnceAndEnterDoesOneThingOnly)
@@ -68,7 +66,7 @@ TEST_F(Chargement, TheFileDialogRefusesTakenEmptyAndUnselectedNamesOffersAnother
     s.ProposeRépertoire(); // and Yes
     EXPECT_TRUE(boîtes.ADit(Message(TMessage::RépertoireParDéfaut) + autre) && Réglages().RépertoireSauvegarde == autre && QDir::currentPath() == autre);
     boîtes.journal.clear(), s.ChangeRépertoire(autre + "/"), s.ProposeRépertoire();
-    EXPECT_TRUE(boîtes.journal.empty()) << "the same folder with a final separator asks nothing";
+    EXPECT_TRUE(boîtes.journal.empty()) << "the same folder, with a final separator, is not offered again";
     DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
     SélectionPartie l;
     l.Fichier->setCurrentRow(-1);

@@ -87,7 +87,6 @@ TEST_F(Parametrage, NoCantonLeftIsRefusedAnnulerDropsTheMarksAnUnsavedSetGoesToT
     EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && !Jeu().Cantons[1].Trouvé && !Jeu().Cantons[26].Trouvé && Principal().MenuFichier->isEnabled() &&
                 Principal().LBLParam[1]->isHidden());
 
-    ASSERT_TRUE(EcritFichierEntier(dossier.filePath("~tmp.~cf"), "vieux"));
     Jeu().NombreScores[2] = 1;
     DéfinitParamétrage();
     TraiteClic(Jeu(), 7, 1, 1);
