@@ -44,9 +44,7 @@ TEST_F(Meilleurs, NoLevelAsksFirstThenShowsFacileALevelShowsItsLinesAZeroAsAnEmp
     ScoresAffichés().NiveauAffiché = TNiveau::Moyen;
     AffichageScores f;
     EXPECT_EQ(vu(f), QStringList({"Niveau moyen", "Zoé|812345|1h02mn05s", "Marc-André Weißmüller|1500|2mn05s", "||", "Lou|-4321|42s"}));
-    EXPECT_FALSE(f.BoutonStatistiques->Visible()) << "the statistics are the ended game's, not the menu's";
-    Jeu().ScoresFinPartie = true;
-    EXPECT_TRUE(AffichageScores().BoutonStatistiques->Visible());
+    EXPECT_FALSE(f.BoutonStatistiques->Visible()) << "the statistics are the ended game's (the installed game's run opens them), not the menu's";
     f.show(); // Enter on the focused close button closes the form
     QApplication::processEvents();
     QTest::keyClick(&f, Qt::Key_Return);

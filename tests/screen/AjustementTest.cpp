@@ -35,7 +35,7 @@ TEST_F(Ajustement, OnEveryScreenTheBarsAndThePanelStandBesideTheMapInsideTheWind
         auto &E = Principal();
         const bool barreH = E.BarreH->Visible(), v = E.BarreV->Visible();
         EXPECT_TRUE((!barreH || E.BarreH->geometry().topLeft() == E.Carte->geometry().bottomLeft() + QPoint(0, 1)) && (!v || E.BarreV->Left() == E.Carte->Width()));
-        // The panel right of the map, all of it inside the window, on the map's bottom edge where the map fits.
+        // The panel right of the map, all of it inside the window; the digits inside their boxes.
         const int droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();
         for (QWidget *w : std::initializer_list<QWidget *>{E.QueFaire, E.BoîteScore, E.LBLParam[2], E.LBLParam[13], E.Bouton[1], E.Bouton[16], E.BTN[2]})
             EXPECT_TRUE(w->x() >= droite && w->x() + w->width() <= E.width()) << w->x();
