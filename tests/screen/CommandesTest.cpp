@@ -42,8 +42,8 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             if (entrée == E.FichierQuitter)
                 continue; // closes the window
             Jeu().PartieVierge = true;
-            if (état == 1)
-                NouvellePartieAuNiveau(2), RépondJuste();
+            if (état == 1) // a game under way: FichierNouveau leaves it (Yes), its dialog then cancelled
+                NouvellePartieAuNiveau(2), RépondJuste(), boîtes.réponses = {entrée == E.FichierNouveau ? RéponseOui : RéponseNon};
             if (état == 2)
                 LanceRévision();
             const TEtape avant = Jeu().Etape;
@@ -54,6 +54,7 @@ TEST_F(Marques, EveryCommandInEveryStateKeepsTheScreenInLineWithTheGame)
             EXPECT_EQ(E.QueFaire->Visible(), Jeu().Etape >= TEtape::Cantons && Jeu().Etape <= TEtape::Plaques);
             EXPECT_TRUE(Jeu().Etape != TEtape::Aucune || std::none_of(E.rond.begin() + 1, E.rond.end(), [](Image *r) { return r->Visible(); }));
             EXPECT_TRUE(état != 1 || entrée == E.MenuRévision || entrée == E.FichierNouveau || entrée == E.FichierLire || Jeu().Etape == avant);
+            EXPECT_TRUE(état != 1 || entrée != E.FichierNouveau || boîtes.ADit(Message(TMessage::MieuxFaireTopTen))) << "the game left is scored";
             EXPECT_TRUE(Jeu().Etape != TEtape::Révision || E.rond[5]->toolTip() == Jeu().Cantons[5].ChefLieu) << "in Révision each dot names its town";
             ChangeLangue(1);
         }
