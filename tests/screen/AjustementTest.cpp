@@ -1,4 +1,4 @@
-// The main window fitted to screens of every size, and the map scrolled under its window.
+// The main window started and fitted on screens of every size, and the map scrolled under its window.
 #include "Fixtures.h"
 
 // The width and height the map window may take, then its size, the horizontal bar's Max, large and small
@@ -23,7 +23,7 @@ TEST(AjustementCarte, TheMapWindowTakesWhatTheScreenLeavesUpToTheMapAndTheBarsTh
 
 using Ajustement = JeuTest;
 
-TEST_F(Ajustement, OnEveryScreenTheBarsAndThePanelStandBesideTheMapInsideTheWindowAndTheMarkersScrollWithIt)
+TEST_F(Ajustement, OnEveryScreenTheMarkersStackOverTheMapTheBarsAndPanelStandBesideItInsideTheWindowAndAllScrollTogether)
 {
     for (auto [l, h, bas] : {std::tuple{640, 480, 400}, {800, 600, 450}, {800, 600, 570}, {1024, 768, 728}}) {
         SCOPED_TRACE(testing::Message() << l << "x" << h << " to " << bas); // the program started again on that screen
@@ -34,6 +34,14 @@ TEST_F(Ajustement, OnEveryScreenTheBarsAndThePanelStandBesideTheMapInsideTheWind
         forme = FormePrincipale();
         auto &E = Principal();
         const bool barreH = E.BarreH->Visible(), v = E.BarreV->Visible();
+        // Stacked from the bottom: the map, each border then its inverse, the dots over all, so a dot stays clickable.
+        const QObjectList enfants = E.Carte->children();
+        std::vector<qsizetype> rangs{enfants.indexOf(E.ImageRégion[0])};
+        for (int i = 1; i <= 26; ++i)
+            rangs.insert(rangs.end(), {enfants.indexOf(E.Pays[i]), enfants.indexOf(E.inv[i])});
+        for (int i = 1; i <= 26; ++i)
+            rangs.push_back(enfants.indexOf(E.rond[i]));
+        EXPECT_EQ(std::adjacent_find(rangs.begin(), rangs.end(), std::greater_equal<>()), rangs.end());
         EXPECT_TRUE((!barreH || E.BarreH->geometry().topLeft() == E.Carte->geometry().bottomLeft() + QPoint(0, 1)) && (!v || E.BarreV->Left() == E.Carte->Width()));
         // The panel right of the map, all of it inside the window; the digits inside their boxes.
         const int droite = E.Carte->Left() + E.Carte->Width() + E.BarreV->Width();

@@ -1,24 +1,9 @@
-// The main window after its load, its keys, and the file dialog.
+// The main window's keys, and the file dialog.
 #include "Fixtures.h"
 
 #include "services/Aide.h"
 
 using Chargement = JeuTest;
-
-TEST_F(Chargement, IdleWithTheBareMapAndDotsOverEveryBorder)
-{
-    auto &E = Principal();
-    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && E.ImageRégion[0]->Visible() && !E.QueFaire->Visible() && !E.BoîteScore->Visible());
-    // Stacked from the bottom: the map, each border then its inverse in order, the dots over all, so a dot
-    // stays clickable where borders overlap.
-    const QObjectList enfants = E.Carte->children();
-    std::vector<qsizetype> rangs{enfants.indexOf(E.ImageRégion[0])};
-    for (int i = 1; i <= 26; ++i)
-        rangs.insert(rangs.end(), {enfants.indexOf(E.Pays[i]), enfants.indexOf(E.inv[i])});
-    for (int i = 1; i <= 26; ++i)
-        rangs.push_back(enfants.indexOf(E.rond[i]));
-    EXPECT_EQ(std::adjacent_find(rangs.begin(), rangs.end(), std::greater_equal<>()), rangs.end());
-}
 
 // Keys reach the program as a player types them: through the active window, to its focus.
 void Tape(QWidget &forme, QWidget *focus, Qt::Key touche)
