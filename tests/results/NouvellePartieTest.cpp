@@ -1,4 +1,4 @@
-// The new game's dialog: name, level, clock; its Annuler with a game under way is the commands' test's.
+// The new game's dialog: name, level, clock, Annuler. A game left for a new one is in the commands' sweep.
 #include "Fixtures.h"
 
 #include "results/NouvellePartie.h"

@@ -3,7 +3,7 @@
 
 #include "services/Aide.h"
 
-using Chargement = JeuTest;
+using Fenêtre = JeuTest;
 
 // Keys reach the program as a player types them: through the active window, to its focus.
 void Tape(QWidget &forme, QWidget *focus, Qt::Key touche)
@@ -17,7 +17,7 @@ void Tape(QWidget &forme, QWidget *focus, Qt::Key touche)
 }
 
 // F1 on a box of the panel gives the context the panel's command set; the help menu takes the general one back.
-TEST_F(Chargement, F1OpensTheContextOfTheControlWithTheFocusAndItsPageInTheLanguageInUse)
+TEST_F(Fenêtre, F1OpensTheContextOfTheControlWithTheFocusAndItsPageInTheLanguageInUse)
 {
     std::vector<int> ouverts;
     InstalleAide([&](int c) { ouverts.push_back(c); });
@@ -29,7 +29,7 @@ TEST_F(Chargement, F1OpensTheContextOfTheControlWithTheFocusAndItsPageInTheLangu
     EXPECT_TRUE(ouverts == std::vector<int>({65, 10, 10}) && PageAide(160).endsWith("/aide/de/aide_160.html"));
 }
 
-TEST_F(Chargement, TheFileDialogRefusesTakenEmptyAndUnselectedNamesOffersAnotherFolderOnceAndEnterDoesOneThingOnly)
+TEST_F(Fenêtre, TheFileDialogRefusesTakenEmptyAndUnselectedNamesOffersAnotherFolderOnceAndEnterDoesOneThingOnly)
 {
     const QString autre = dossier.filePath("autre");
     QDir(dossier.path()).mkdir("autre");
