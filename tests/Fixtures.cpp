@@ -63,12 +63,9 @@ void JeuTest::CliqueEn(QPoint pointCarte)
 void JeuTest::NouvellePartieAuNiveau(int niveau, bool apprentissage)
 {
     InstalleDialogueNouvellePartie([niveau, apprentissage] {
-        Jeu().NomJoueur = QStringLiteral("Test");
-        Jeu().Niveau = static_cast<TNiveau>(niveau);
-        Jeu().ModeApprentissage = Jeu().ScoreGelé = apprentissage;
+        Jeu().NomJoueur = QStringLiteral("Test"), Jeu().Niveau = static_cast<TNiveau>(niveau), Jeu().ModeApprentissage = Jeu().ScoreGelé = apprentissage;
         Principal().BoutonGruge->setPicture(Principal().AmpouleAllumée->Picture());
-        Jeu().Etape = Jeu().OrdreEtapes[1];
-        Jeu().HeureDépart = SecondesDepuisMinuit();
+        Jeu().Etape = Jeu().OrdreEtapes[1], Jeu().HeureDépart = SecondesDepuisMinuit();
     });
     LanceNouvellePartie();
 }

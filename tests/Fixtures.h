@@ -2,13 +2,11 @@
 // A game on the offscreen main form, with every service of the desktop scripted; and
 // what the game's tests share: the headers, the records of its files built by hand.
 #include "Doublures.h"
-#include "engine/communs.h"
 #include "files/FichierEnregistrements.h"
 #include "platform/Ecran.h"
 #include "platform/Formes.h"
 #include "results/Parties.h"
 #include "results/Resultats.h"
-#include "results/Scores.h"
 #include "results/SelectionPartie.h"
 #include "screen/Ajustement.h"
 #include "screen/Chargement.h"
@@ -19,7 +17,6 @@
 #include "screen/VueJeu.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
-#include "services/Parametres.h"
 #include "results/PartieEnCours.h"
 
 #include <QApplication>
@@ -28,7 +25,6 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>

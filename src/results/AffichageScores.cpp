@@ -161,6 +161,17 @@ QString FormatDurée(i32 Durée)
     return tête(s) + QLatin1Char('s');
 }
 
+int RangScore(std::span<const TLigneScore> lignes, i32 points, i32 durée)
+{
+    int pos = 1;
+    for (const TLigneScore &l : lignes) {
+        if (l.Points < points || (l.Points == points && l.Durée > durée))
+            break;
+        pos = pos + 1;
+    }
+    return pos;
+}
+
 void AfficheMeilleursScores(TNiveau niveau)
 {
     ScoresAffichés().NiveauAffiché = niveau;
@@ -181,15 +192,7 @@ void EnregistreScore()
     } else {
         Jeu().DuréePartie = DuréeDepuis(Jeu().HeureDépart);
         const int niveau = Numéro(Jeu().Niveau);
-        int pos = 1;
-        for (int i = 1; i <= Jeu().NombreScores[niveau]; ++i) {
-            const TLigneScore &l = Jeu().MeilleursScores[niveau][i];
-            if (l.Points < Jeu().Score || (l.Points == Jeu().Score && l.Durée > Jeu().DuréePartie)) {
-                pos = i;
-                break;
-            }
-            pos = pos + 1;
-        }
+        const int pos = RangScore(std::span(Jeu().MeilleursScores[niveau] + 1, Jeu().NombreScores[niveau]), Jeu().Score, Jeu().DuréePartie);
         if (Jeu().NombreScores[niveau] != 10)
             Jeu().NombreScores[niveau] = Jeu().NombreScores[niveau] + 1;
         for (int r = Jeu().NombreScores[niveau]; r > pos; --r)

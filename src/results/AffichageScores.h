@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <array>
+#include <span>
 
 class AffichageScores : public QDialog {
 public:
@@ -30,5 +31,9 @@ protected:
 void AfficheMeilleursScores(TNiveau niveau);
 // Shows the form modally for NiveauAffiché, as at the end of a game.
 void MontreAffichageScores();
+// The place (1 = best) that a score of `points` made in `durée` seconds takes in a level's list,
+// best first: before the first line it beats in points, or equals in a shorter time; one
+// behind the last line when it beats none.
+int RangScore(std::span<const TLigneScore> lignes, i32 points, i32 durée);
 // 3725 → "1h02mn05s", 125 → "2mn05s", 42 → "42s".
 QString FormatDurée(i32 Durée);

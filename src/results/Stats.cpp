@@ -82,6 +82,13 @@ QColor CouleurAbsence(i16 k)
     return CouleurNeutre();
 }
 
+QColor CouleurCase(bool Réussi, i32 Pertes, bool Inhibé, const QColor &absence)
+{
+    if (Réussi)
+        return Pertes == 0 ? CouleurTrouvé : CouleurNeutre();
+    return Inhibé ? CouleurNeutre() : absence;
+}
+
 Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("Stats"));
@@ -166,12 +173,7 @@ void Stats::RemplitStats(i16 Décalage)
         Etiquette *cellules[5] = {nullptr, PertePays[r], PerteCapitales[r], PerteDrapeaux[r], PertePlaques[r]};
         for (i16 k = 1; k <= 4; ++k) {
             cellules[k]->setText(QString::number(c.Pertes[k]));
-            QColor fond;
-            if (c.Réussi[k])
-                fond = c.Pertes[k] == 0 ? CouleurTrouvé : CouleurNeutre();
-            else
-                fond = c.Inhibé ? CouleurNeutre() : CouleurAbsence(k);
-            Colore(cellules[k], fond);
+            Colore(cellules[k], CouleurCase(c.Réussi[k], c.Pertes[k], c.Inhibé, CouleurAbsence(k)));
         }
     }
 }

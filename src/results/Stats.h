@@ -39,6 +39,9 @@ protected:
 void TriePertes();
 // Red when step kind k is played in this game, else the neutral colour.
 QColor CouleurAbsence(i16 k);
+// A cell's background: green for a kind found at the first try, neutral for one found after
+// errors or a canton left out, else the colour of its absence (CouleurAbsence).
+QColor CouleurCase(bool Réussi, i32 Pertes, bool Inhibé, const QColor &absence);
 // The neutral background of a cell, the system's colour of scroll bars.
 QColor CouleurNeutre();
 constexpr QColor CouleurTrouvé(0, 255, 0);

@@ -24,6 +24,35 @@ void MesureCarte()
     FenêtreAjustée().RectangleEcran = {r.left(), r.top(), r.left() + r.width(), r.top() + r.height()};
 }
 
+TCarteAjustée AjustementCarte(int largeur, int hauteur, int W, int H, int épaisseurH, int épaisseurV)
+{
+    TCarteAjustée a;
+    a.Largeur = largeur;
+    a.Hauteur = hauteur;
+    // The width: the whole map with a margin of 4, or a horizontal bar under the window.
+    if (a.Largeur >= W) {
+        a.Largeur = W + 4;
+    } else {
+        a.BarreH = true;
+        a.Hauteur = a.Hauteur - épaisseurH;
+    }
+    // The height: the whole map, or a vertical bar beside the window, which narrows it.
+    if (a.Hauteur >= H) {
+        a.Hauteur = H;
+    } else {
+        a.BarreV = true;
+        a.Largeur = a.Largeur - épaisseurV;
+        a.MaxV = H - a.Hauteur + 4;
+        a.GrandPasV = H < 1.5 * a.Hauteur ? H - a.Hauteur : int(0.9 * a.Hauteur);
+    }
+    if (a.BarreH) {
+        a.MaxH = W - a.Largeur + 4;
+        a.GrandPasH = W < 1.5 * a.Largeur ? W - a.Largeur : int(0.9 * a.Largeur);
+        a.PetitPasH = a.GrandPasH / 5;
+    }
+    return a;
+}
+
 void AjusteCarte()
 {
     auto &E = Principal();
@@ -43,49 +72,40 @@ void AjusteCarte()
     carte->setHeight(EcranMesuré().BasZoneTravail - FenêtreAjustée().RectangleEcran.Top);
     carte->setLeft(0);
 
-    const int W = E.ImageRégion[0]->Width();
-    const int H = E.ImageRégion[0]->Height();
-    bool barreH = false;
-    if (carte->Width() >= W) {
-        carte->setWidth(W + 4);
-        E.BarreH->hide();
-    } else {
-        barreH = true;
-        carte->setHeight(carte->Height() - E.BarreH->Height());
-        E.BarreH->setWidth(carte->Width());
-        E.BarreH->setTop(carte->Height() > H ? carte->Top() + H : carte->Top() + carte->Height());
+    const TCarteAjustée a = AjustementCarte(carte->Width(), carte->Height(), E.ImageRégion[0]->Width(), E.ImageRégion[0]->Height(),
+                                            E.BarreH->Height(), E.BarreV->Width());
+    carte->setWidth(a.Largeur);
+    carte->setHeight(a.Hauteur);
+    if (a.BarreH) {
+        E.BarreH->setWidth(a.Largeur);
+        E.BarreH->setTop(carte->Top() + a.Hauteur);
         E.BarreH->setLeft(carte->Left());
         E.BarreH->show();
-    }
-    bool barreV = false;
-    if (carte->Height() >= H) {
-        carte->setHeight(H);
     } else {
-        barreV = true;
-        carte->setWidth(carte->Width() - E.BarreV->Width());
-        if (barreH)
-            E.BarreH->setWidth(carte->Width());
-        E.BarreV->setTop(carte->Top());
-        E.BarreV->setLeft(carte->Left() + carte->Width());
-        E.BarreV->setHeight(carte->Height());
-        E.BarreV->setMax(H - carte->Height() + 4);
-        E.BarreV->setMin(0);
-        E.BarreV->setLargeChange(H < 1.5 * carte->Height() ? H - carte->Height() : int(0.9 * carte->Height()));
-        E.BarreV->setSmallChange(E.BarreV->LargeChange());
+        E.BarreH->hide();
     }
-    E.BarreV->setVisible(barreV);
-    if (barreH) {
-        E.BarreH->setMax(W - carte->Width() + 4);
+    if (a.BarreV) {
+        E.BarreV->setTop(carte->Top());
+        E.BarreV->setLeft(carte->Left() + a.Largeur);
+        E.BarreV->setHeight(a.Hauteur);
+        E.BarreV->setMax(a.MaxV);
+        E.BarreV->setMin(0);
+        E.BarreV->setLargeChange(a.GrandPasV);
+        E.BarreV->setSmallChange(a.GrandPasV);
+    }
+    E.BarreV->setVisible(a.BarreV);
+    if (a.BarreH) {
+        E.BarreH->setMax(a.MaxH);
         E.BarreH->setMin(0);
-        E.BarreH->setLargeChange(W < 1.5 * carte->Width() ? W - carte->Width() : int(0.9 * carte->Width()));
-        E.BarreH->setSmallChange(E.BarreH->LargeChange() / 5);
+        E.BarreH->setLargeChange(a.GrandPasH);
+        E.BarreH->setSmallChange(a.PetitPasH);
     }
 
     if (FenêtreAjustée().HauteurFenêtre != 0)
         E.setHeight(FenêtreAjustée().HauteurFenêtre);
     else
         E.setHeight(TwipsPerPixelY * (carte->Height() + carte->Top() + FenêtreAjustée().RectangleEcran.Top) - E.Top());
-    if (barreH)
+    if (a.BarreH)
         E.setHeight(E.Height() + TwipsPerPixelY * E.BarreH->Height());
     if (FenêtreAjustée().LargeurFenêtre != 0)
         E.setWidth(FenêtreAjustée().LargeurFenêtre);

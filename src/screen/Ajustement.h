@@ -7,6 +7,16 @@ struct TFenêtreAjustée {
     TRectangle RectangleEcran;
 };
 TFenêtreAjustée &FenêtreAjustée();
+// What the fit decides for the map window: its size, and the bars it needs with their ranges
+// and steps (the vertical bar's small step is its large one).
+struct TCarteAjustée {
+    int Largeur = 0, Hauteur = 0;
+    bool BarreH = false, BarreV = false;
+    int MaxH = 0, GrandPasH = 0, PetitPasH = 0, MaxV = 0, GrandPasV = 0;
+};
+// The map window fitted to the width and height it may take, for a map of W × H pixels and
+// bars of the thickness given.
+TCarteAjustée AjustementCarte(int largeur, int hauteur, int W, int H, int épaisseurH, int épaisseurV);
 void AjusteCarte();
 void AjusteEcran();
 void MesureCarte();

@@ -26,12 +26,65 @@ bool ParamétrageDeLancement = false;
 const QString FichierDeLancement = QStringLiteral("fichier de lancement");
 
 CaseACocher *Case(int colonne, int rang) { return Principal().Bouton[(colonne - 1) * 4 + rang]; }
-bool ColonneRemplie(int colonne)
+
+// The sixteen boxes of the grid, 1..16, and the message of the last refusal.
+struct Cases {
+    bool b[17] = {};
+    std::optional<TMessage> refus;
+    bool coché(int colonne, int rang) const { return b[(colonne - 1) * 4 + rang]; }
+    bool ColonneRemplie(int colonne) const { return coché(colonne, 1) || coché(colonne, 2) || coché(colonne, 3) || coché(colonne, 4); }
+    void Ecrit(int k, bool valeur);
+    void Clic(int k);
+};
+
+// A box written changes, and only then runs the rules for itself, at once.
+void Cases::Ecrit(int k, bool valeur)
 {
-    for (int r = 1; r <= 4; ++r)
-        if (Case(colonne, r)->isChecked())
-            return true;
-    return false;
+    if (b[k] != valeur)
+        b[k] = valeur, Clic(k);
+}
+
+void Cases::Clic(int k)
+{
+    const int c = (k - 1) / 4 + 1;
+    const int r = (k - 1) % 4 + 1;
+    bool vide = true;
+    bool doublon = false;
+    const bool estCoché = b[k];
+    if (estCoché) {
+        for (int j = 1; j < c; ++j)
+            doublon = doublon || coché(j, r);
+        vide = c == 1 ? false : !ColonneRemplie(c - 1);
+    } else {
+        vide = !ColonneRemplie(c);
+    }
+    if (!estCoché) {
+        if (!vide)
+            return;
+        if (c != 1) {
+            // A gap closes by dropping all later ranks.
+            for (int j = c + 1; j <= 4; ++j)
+                for (int rr = 1; rr <= 4; ++rr)
+                    Ecrit((j - 1) * 4 + rr, false);
+            return;
+        }
+        refus = TMessage::PremierJeu;
+        Ecrit(k, true);
+        return;
+    }
+    if (vide) {
+        refus = TMessage::ColonnePrécédenteVide;
+        Ecrit(k, false);
+    } else if (doublon) {
+        refus = TMessage::JeuDéjàChoisi;
+        Ecrit(k, false);
+    } else {
+        for (int rr = 1; rr <= 4; ++rr)
+            if (rr != r)
+                Ecrit((c - 1) * 4 + rr, false);
+        for (int j = c + 1; j <= 4; ++j)
+            Ecrit((j - 1) * 4 + r, false);
+    }
 }
 
 void MenusDeJeu(bool actifs)
@@ -160,49 +213,45 @@ void CacheParamétrage()
     MenusDeJeu(true);
 }
 
+TClicGrille RègleGrille(const TGrille &avant, int rang, int genre, bool coché)
+{
+    Cases g;
+    for (int c = 1; c <= 4; ++c)
+        if (avant[c - 1] != 0)
+            g.b[(c - 1) * 4 + avant[c - 1]] = true;
+    const int k = (rang - 1) * 4 + genre;
+    g.b[k] = coché;
+    g.Clic(k);
+    TClicGrille après{{0, 0, 0, 0}, g.refus};
+    for (int c = 1; c <= 4; ++c)
+        for (int r = 1; r <= 4; ++r)
+            if (g.coché(c, r))
+                après.Grille[c - 1] = r;
+    return après;
+}
+
 void Bouton_Click(int k)
 {
     auto &E = Principal();
     if (k <= 16 && GrilleActive) {
         const int c = (k - 1) / 4 + 1;
         const int r = (k - 1) % 4 + 1;
-        bool vide = true;
-        bool doublon = false;
         const bool coché = E.Bouton[k]->isChecked();
-        if (coché) {
-            for (int j = 1; j < c; ++j)
-                doublon = doublon || Case(j, r)->isChecked();
-            vide = c == 1 ? false : !ColonneRemplie(c - 1);
-        } else {
-            vide = !ColonneRemplie(c);
-        }
-        if (!coché) {
-            if (!vide)
-                return;
-            if (c != 1) {
-                // A gap closes by dropping all later ranks.
-                for (int j = c + 1; j <= 4; ++j)
-                    for (int rr = 1; rr <= 4; ++rr)
-                        Case(j, rr)->setChecked(false);
-                return;
-            }
-            Boîte(Message(TMessage::PremierJeu), StyleInformation, Message(TMessage::TitreErreur));
-            E.Bouton[k]->setChecked(true);
-            return;
-        }
-        if (vide) {
-            Boîte(Message(TMessage::ColonnePrécédenteVide), StyleInformation, Message(TMessage::TitreErreur));
-            E.Bouton[k]->setChecked(false);
-        } else if (doublon) {
-            Boîte(Message(TMessage::JeuDéjàChoisi), StyleInformation, Message(TMessage::TitreErreur));
-            E.Bouton[k]->setChecked(false);
-        } else {
+        // The grid before this box changed: one box at most in each rank.
+        TGrille avant{0, 0, 0, 0};
+        for (int j = 1; j <= 4; ++j)
             for (int rr = 1; rr <= 4; ++rr)
-                if (rr != r)
-                    Case(c, rr)->setChecked(false);
-            for (int j = c + 1; j <= 4; ++j)
-                Case(j, r)->setChecked(false);
-        }
+                if (j == c && rr == r ? !coché : Case(j, rr)->isChecked())
+                    avant[j - 1] = rr;
+        const TClicGrille après = RègleGrille(avant, c, r, coché);
+        if (après.Refus)
+            Boîte(Message(*après.Refus), StyleInformation, Message(TMessage::TitreErreur));
+        // The boxes take the rules' outcome; the rules have already run for each of them.
+        GrilleActive = false;
+        for (int j = 1; j <= 4; ++j)
+            for (int rr = 1; rr <= 4; ++rr)
+                Case(j, rr)->setChecked(après.Grille[j - 1] == rr);
+        GrilleActive = true;
         return;
     }
     if (k == 17) {

@@ -190,55 +190,63 @@ void AmèneEnVue(i16 c)
               [&] { return double(E.ImageRégion[0]->Left()); });
 }
 
+std::optional<TMarques> MarquesEtapesSuivantes(TNiveau niveau, bool Trouvé, bool Inhibé)
+{
+    const bool S = Trouvé || Inhibé;
+    const bool I = Inhibé;
+    switch (niveau) {
+    case TNiveau::Facile: return TMarques{!S, S, true};
+    case TNiveau::Moyen: return TMarques{S, !S, true};
+    case TNiveau::Difficile: return TMarques{I, !I, true};
+    case TNiveau::Expert: return TMarques{I, false, false};
+    default: return std::nullopt;
+    }
+}
+
+std::optional<TMarques> MarquesCanton(TEtape étape, TNiveau niveau, bool Trouvé, bool Inhibé)
+{
+    const bool S = Trouvé || Inhibé;
+    const bool I = Inhibé;
+    switch (étape) {
+    case TEtape::Aucune: return TMarques{false, false, false};
+    case TEtape::Cantons:
+        switch (niveau) {
+        case TNiveau::Facile: return TMarques{S, !S, true};
+        case TNiveau::Moyen: return TMarques{S, false, true};
+        case TNiveau::Difficile: return TMarques{I, !I, true};
+        case TNiveau::Expert: return TMarques{I, false, false};
+        default: return std::nullopt;
+        }
+    case TEtape::ChefsLieux:
+    case TEtape::Drapeaux: return MarquesEtapesSuivantes(niveau, Trouvé, Inhibé);
+    case TEtape::ParamétrageModifié:
+    case TEtape::ParamétrageAffiché:
+    case TEtape::Révision: return TMarques{true, false, true};
+    default: return std::nullopt;
+    }
+}
+
+namespace {
+void Montre(i16 i, const std::optional<TMarques> &m)
+{
+    if (!m)
+        return;
+    auto &E = Principal();
+    E.Pays[i]->setVisible(m->Pays);
+    E.inv[i]->setVisible(m->inv);
+    E.rond[i]->setVisible(m->rond);
+}
+} // namespace
+
 // Which of a canton's pictures show in the steps after "Cantons"; the plate step follows the same rule.
 void MontreCantonEtapesSuivantes(i16 i)
 {
-    auto &E = Principal();
-    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
-    const bool I = Jeu().Cantons[i].Inhibé;
-    switch (Jeu().Niveau) {
-    case TNiveau::Facile: E.Pays[i]->setVisible(!S); E.inv[i]->setVisible(S); E.rond[i]->show(); break;
-    case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
-    case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
-    case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
-    default: break;
-    }
+    Montre(i, MarquesEtapesSuivantes(Jeu().Niveau, Jeu().Cantons[i].Trouvé, Jeu().Cantons[i].Inhibé));
 }
 
 void MontreCanton(i16 i)
 {
-    auto &E = Principal();
-    const bool S = Jeu().Cantons[i].Trouvé || Jeu().Cantons[i].Inhibé;
-    const bool I = Jeu().Cantons[i].Inhibé;
-    switch (Jeu().Etape) {
-    case TEtape::Aucune:
-        E.Pays[i]->hide();
-        E.inv[i]->hide();
-        E.rond[i]->hide();
-        break;
-    case TEtape::Cantons:
-        switch (Jeu().Niveau) {
-        case TNiveau::Facile: E.Pays[i]->setVisible(S); E.inv[i]->setVisible(!S); E.rond[i]->show(); break;
-        case TNiveau::Moyen: E.Pays[i]->setVisible(S); E.inv[i]->hide(); E.rond[i]->show(); break;
-        case TNiveau::Difficile: E.Pays[i]->setVisible(I); E.inv[i]->setVisible(!I); E.rond[i]->show(); break;
-        case TNiveau::Expert: E.Pays[i]->setVisible(I); E.inv[i]->hide(); E.rond[i]->hide(); break;
-        default: break;
-        }
-        break;
-    case TEtape::ChefsLieux:
-    case TEtape::Drapeaux:
-        MontreCantonEtapesSuivantes(i);
-        break;
-    case TEtape::ParamétrageModifié:
-    case TEtape::ParamétrageAffiché:
-    case TEtape::Révision:
-        E.Pays[i]->show();
-        E.inv[i]->hide();
-        E.rond[i]->show();
-        break;
-    default:
-        break;
-    }
+    Montre(i, MarquesCanton(Jeu().Etape, Jeu().Niveau, Jeu().Cantons[i].Trouvé, Jeu().Cantons[i].Inhibé));
     MontreCantonSpécifique(i);
 }
 

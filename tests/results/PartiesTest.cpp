@@ -1,7 +1,6 @@
-// Saved games: the .CAS file record by record, a game taken up where it stood, files refused, and the file dialog.
+// Saved games: the .CAS file record by record, a game taken up where it stood, files refused.
 #include "Fixtures.h"
 
-#include "files/FichierEnregistrements.h"
 #include "files/FichierPartie.h"
 #include "results/PartieEnCours.h"
 
@@ -55,8 +54,8 @@ TEST_F(Sauvegarde, WrittenRecordByRecordAnUnsavedSetTravelsInTheFileAndTheScoreF
         ASSERT_TRUE(EcritFichierScores(true));
         const QString chemin = dossier.filePath(partie + "/p.CAS"), avant = Réglages().FichierLancement;
         boîtes.journal.clear();
-        EXPECT_TRUE(EcritPartie(chemin) == enregistrée && QFile::exists(chemin) == enregistrée) << partie.size();
-        EXPECT_EQ(boîtes.ADit(Message(TMessage::PartieNonNotable) + avant), !enregistrée);
+        EXPECT_TRUE(EcritPartie(chemin) == enregistrée && QFile::exists(chemin) == enregistrée &&
+                    boîtes.ADit(Message(TMessage::PartieNonNotable) + avant) != enregistrée) << partie.size();
         RazScores();
         EXPECT_TRUE(!enregistrée || (LitPartie(chemin) && Réglages().FichierLancement == avant && Jeu().MeilleursScores[2][1].Nom == "Ola")) << partie.size();
     }
@@ -64,7 +63,10 @@ TEST_F(Sauvegarde, WrittenRecordByRecordAnUnsavedSetTravelsInTheFileAndTheScoreF
 
 TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
 {
+    EnregistrePartie();
+    EXPECT_TRUE(FormesMontrées().empty()) << "nothing to save without a game";
     PartieEntamée();
+    EXPECT_TRUE(!EcritPartie(dossier.filePath("nulle/part/x.CAS")) && boîtes.journal.back().texte == Message(TMessage::RépertoireNonInscriptible));
     const i32 solde = Jeu().Score - (16 + 64 + 256 + 1024 + 4096 + 16384 + 65536); // errors 3 to 9 of the open question
     const i16 restants = Jeu().RestantsEtape;
     horloge = 36000 + 600;
@@ -73,66 +75,25 @@ TEST_F(Sauvegarde, SavedInStepThreeDamagedCopiesRefusedAndTakenUpOnce)
     boîtes.journal.clear();
     EXPECT_TRUE(ConfirmeArrêt() && boîtes.journal.empty()) << "a saved game has nothing to confirm";
 
-    // Damaged copies change nothing (the score charged, the bare map); a number outside 0..26 in a pair is never an index.
+    // Damaged copies change nothing: the score charged, the bare map.
     const QByteArray bon = Contenu(dossier.filePath("essai.CAS")); // the extension is the game's own
-    QByteArray horsTable = bon, autre = bon;
-    horsTable[(9 - 1) * 128] = char(200);
-    autre.replace(2 + 8, 4, "6.08");
+    const QByteArray autre = QByteArray(bon).replace(2 + 8, 4, "6.08");
     for (const QByteArray &o : {bon.left(200 * 128), bon.left(100), QByteArray(), autre})
         EXPECT_EQ(std::vector<int>({RestaurePartie(o), Jeu().Score, Numéro(Jeu().Etape), Jeu().PartieVierge}), std::vector<int>({false, solde, 0, true}));
-    EXPECT_TRUE(RestaurePartie(horsTable));
-    Jeu().Etape = TEtape::Aucune, Jeu().PartieVierge = true;
 
     // Taken up later, once, as it was saved: the clock goes on from where it stood.
     horloge = 50000;
     ChoisitFichier();
     FichierLire_Click();
-    EXPECT_EQ(ContenuPartie(), bon);
-    EXPECT_EQ(std::vector<int>({Jeu().Score, Jeu().RestantsEtape, Jeu().HeureDépart}), std::vector<int>({solde, restants, 50000 - 600}));
+    EXPECT_TRUE(ContenuPartie() == bon && Jeu().RestantsEtape == restants && Jeu().HeureDépart == 50000 - 600);
     EXPECT_FALSE(QFile::exists(dossier.filePath("essai.CAS")) || Jeu().Cantons[Jeu().CantonRecherché].Trouvé);
     boîtes.réponses = {RéponseNon}; // the resumed game asks before it is left, even before its first click
-    EXPECT_FALSE(ConfirmeArrêt());
-    EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::ConfirmerAbandon));
+    EXPECT_TRUE(!ConfirmeArrêt() && boîtes.journal.back().texte == Message(TMessage::ConfirmerAbandon));
 
     // Another version chosen in the dialog: its message, then the dialog's own; the file stays.
     ASSERT_TRUE(EcritFichierEntier(dossier.filePath("vieux.CAS"), autre));
     boîtes.journal.clear(), Jeu().PartieVierge = true;
     ChoisitFichier();
     FichierLire_Click();
-    EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[0].texte == Message(TMessage::ReprisePartieImpossible) + Message(TMessage::VersionDuJeu) + Message(TMessage::VersionAntérieure));
-    EXPECT_TRUE(QFile::exists(dossier.filePath("vieux.CAS")));
-}
-
-TEST_F(Sauvegarde, TheDialogRefusesEmptyAndUnselectedNamesOffersAnotherFolderOnceAndAnUnwritableFolderIsTold)
-{
-    EnregistrePartie();
-    EXPECT_TRUE(FormesMontrées().empty()) << "nothing to save without a game";
-    PartieEntamée();
-    ASSERT_TRUE(EcritFichierEntier(dossier.filePath("pris.CAS"), {}));
-    Réglages().RépertoireSauvegarde = dossier.path(), DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde, DemandeDossier().TypeFichier = TTypeFichier::Partie;
-    {
-        SélectionPartie s;
-        s.NomFichier->setText("   ");
-        s.BoutonOK->click();
-        EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::NomFichierObligatoire) && s.NomFichier->text() == "   .CAS");
-        s.Fichier->setCurrentRow(0);
-        s.Fichier_DblClick(); // an existing name refused is the screen tests' (Enter in the file dialog)
-        EXPECT_TRUE(s.NomFichier->text() == "pris.CAS" && s.result() == 0);
-        boîtes.journal.clear();
-        s.ChangeRépertoire(dossier.path() + "/");
-        s.ProposeRépertoire();
-        EXPECT_TRUE(boîtes.journal.empty()) << "the same folder with a final separator asks nothing";
-        const QString autre = dossier.filePath("autre");
-        QDir(dossier.path()).mkdir("autre");
-        s.ChangeRépertoire(autre);
-        s.ProposeRépertoire(); // and Yes
-        EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.ADit(Message(TMessage::RépertoireParDéfaut) + autre) && Réglages().RépertoireSauvegarde == autre && QDir::currentPath() == autre);
-    }
-    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
-    SélectionPartie s;
-    s.Fichier->setCurrentRow(-1);
-    s.BoutonOK->click();
-    EXPECT_TRUE(s.NomFichier->isHidden() && boîtes.journal.back().texte == Message(TMessage::ChoisirFichierPartie));
-    EXPECT_FALSE(EcritPartie(dossier.filePath("nulle/part/x.CAS")));
-    EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::RépertoireNonInscriptible) && Jeu().Etape == TEtape::Drapeaux);
+    EXPECT_TRUE(boîtes.journal.size() == 2 && boîtes.journal[0].texte.startsWith(Message(TMessage::ReprisePartieImpossible)) && QFile::exists(dossier.filePath("vieux.CAS")));
 }

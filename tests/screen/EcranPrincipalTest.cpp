@@ -1,37 +1,9 @@
-// The main window after its load, its keys, and the file dialog's Enter.
+// The main window's keys, and the file dialog.
 #include "Fixtures.h"
 
-#include "results/AffichageScores.h"
-#include "results/NouvellePartie.h"
-#include "screen/Pompe.h"
 #include "screen/Aide.h"
-#include "results/PartieEnCours.h"
 
-using Chargement = JeuTest;
-
-TEST_F(Chargement, IdleWithTheBareMapAndDotsOverEveryBorderOnceTheLoadingFormIsGone)
-{
-    QApplication::processEvents();
-    for (QWidget *w : QApplication::topLevelWidgets())
-        EXPECT_NE(w->objectName(), "Patience") << "visible: " << w->isVisible();
-    auto &E = Principal();
-    EXPECT_TRUE(Jeu().Etape == TEtape::Aucune && E.ImageRégion[0]->Visible() && !E.QueFaire->Visible() && !E.BoîteScore->Visible());
-    // Stacked from the bottom: the map, each border then its inverse in order, the dots over all.
-    const QObjectList enfants = E.Carte->children();
-    std::vector<qsizetype> rangs{enfants.indexOf(E.ImageRégion[0])};
-    for (int i = 1; i <= 26; ++i) {
-        EXPECT_FALSE(E.Pays[i]->Visible() || E.inv[i]->Visible() || E.rond[i]->Visible());
-        EXPECT_TRUE(E.Pays[i]->pos() == QPoint(Jeu().Cantons[i].PaysGauche, Jeu().Cantons[i].PaysHaut) && E.inv[i]->pos() == E.Pays[i]->pos());
-        rangs.insert(rangs.end(), {enfants.indexOf(E.Pays[i]), enfants.indexOf(E.inv[i])});
-    }
-    for (int i = 1; i <= 26; ++i)
-        EXPECT_GT(enfants.indexOf(E.rond[i]), rangs.back()) << "dot " << i;
-    EXPECT_EQ(std::adjacent_find(rangs.begin(), rangs.end(), std::greater_equal<>()), rangs.end());
-    // A dot stays clickable where borders overlap.
-    NouvellePartieAuNiveau(3);
-    const TCanton &c = Jeu().Cantons[6];
-    EXPECT_EQ(E.Carte->childAt(c.VilleGauche + 3, c.VilleHaut + 4), E.rond[6]);
-}
+using Fenêtre = JeuTest;
 
 // Keys reach the program as a player types them: through the active window, to its focus.
 void Tape(QWidget &forme, QWidget *focus, Qt::Key touche)
@@ -44,44 +16,45 @@ void Tape(QWidget &forme, QWidget *focus, Qt::Key touche)
     QTest::keyClick(forme.windowHandle(), touche);
 }
 
-TEST_F(Chargement, F1OpensTheContextOfTheFormOrControlWithTheFocus)
+// F1 on a box of the panel gives the context the panel's command set; the help menu takes the general one back.
+TEST_F(Fenêtre, F1OpensTheContextOfTheControlWithTheFocusAndItsPageInTheLanguageInUse)
 {
     std::vector<int> ouverts;
     InstalleAide([&](int c) { ouverts.push_back(c); });
-    auto &E = Principal();
-    Tape(E, nullptr, Qt::Key_F1);
-    E.setHelpContextID(65); // as after a parameterisation command
-    for (int b : {3, 11})
-        E.Bouton[b]->show(), Tape(E, E.Bouton[b], Qt::Key_F1);
-    E.MenuAide->trigger();
-    Tape(E, E.Bouton[3], Qt::Key_F1);
-    ScoresAffichés().NiveauAffiché = TNiveau::Facile;
-    Jeu().CantonFiche = 6;
-    DemandeDossier().ModeRépertoires = TModeRépertoires::DossierJeu;
-    for (const std::function<QDialog *()> &crée : std::initializer_list<std::function<QDialog *()>>{
-             [] { return new NouvellePartie; }, [] { return new AffichageScores; }, [] { return new Pompe; }, [] { return new ParamétrageRépertoires; },
-             [] { DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde; return new SélectionPartie; }})
-        Tape(*std::unique_ptr<QDialog>(crée()), nullptr, Qt::Key_F1);
-    InstalleAide(nullptr);
-    // F1 on the window, on two boxes of the panel, the help menu, F1 after it, then F1 on each form.
-    EXPECT_EQ(ouverts, (std::vector<int>{10, 65, 65, 10, 10, 20, 90, 160, 180, 10}));
-    EXPECT_TRUE(PageAide(20).endsWith("/aide/fr/aide_20.html"));
-    ChangeLangue(2);
-    EXPECT_TRUE(PageAide(160).endsWith("/aide/de/aide_160.html"));
+    Principal().setHelpContextID(65), Principal().Bouton[3]->show(); // as after a parameterisation command
+    Tape(Principal(), Principal().Bouton[3], Qt::Key_F1);
+    Principal().MenuAide->trigger();
+    Tape(Principal(), Principal().Bouton[3], Qt::Key_F1);
+    InstalleAide(nullptr), ChangeLangue(2);
+    EXPECT_TRUE(ouverts == std::vector<int>({65, 10, 10}) && PageAide(160).endsWith("/aide/de/aide_160.html"));
 }
 
-TEST_F(Chargement, EnterInTheFileDialogDoesOneThingOnly)
+TEST_F(Fenêtre, TheFileDialogRefusesTakenEmptyAndUnselectedNamesOffersAnotherFolderOnceAndEnterDoesOneThingOnly)
 {
+    const QString autre = dossier.filePath("autre");
     QDir(dossier.path()).mkdir("autre");
     ASSERT_TRUE(EcritFichierEntier(dossier.filePath("pris.CAS"), {}));
-    DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde;
-    DemandeDossier().TypeFichier = TTypeFichier::Partie;
+    Réglages().RépertoireSauvegarde = dossier.path(), DemandeDossier().ModeRépertoires = TModeRépertoires::Sauvegarde, DemandeDossier().TypeFichier = TTypeFichier::Partie;
     SélectionPartie s;
     s.NomFichier->setText("pris");
     Tape(s, s.NomFichier, Qt::Key_Return);
     EXPECT_TRUE(boîtes.journal.size() == 1 && boîtes.journal[0].texte == Message(TMessage::FichierExisteDéjà)) << "the name taken refused, once";
-    s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
+    s.NomFichier->setText("   ");
+    s.BoutonOK->click();
+    EXPECT_TRUE(boîtes.journal.back().texte == Message(TMessage::NomFichierObligatoire) && s.NomFichier->text() == "   .CAS");
+    s.Fichier->setCurrentRow(0);
+    s.Fichier_DblClick();
+    EXPECT_TRUE(s.NomFichier->text() == "pris.CAS" && s.result() == 0) << "a double click names the file and saves nothing";
+    boîtes.journal.clear(), s.Répertoire->setCurrentRow(s.Répertoire->count() - 1);
     Tape(s, s.Répertoire, Qt::Key_Return);
-    EXPECT_EQ(s.Chemin(), dossier.filePath("autre")) << "Enter opens the folder";
-    EXPECT_TRUE(boîtes.journal.size() == 1 && s.isVisible()) << "and presses nothing else";
+    EXPECT_TRUE(s.Chemin() == autre && boîtes.journal.empty() && s.isVisible()) << "Enter opens the folder and presses nothing else";
+    s.ProposeRépertoire(); // and Yes
+    EXPECT_TRUE(boîtes.ADit(Message(TMessage::RépertoireParDéfaut) + autre) && Réglages().RépertoireSauvegarde == autre && QDir::currentPath() == autre);
+    boîtes.journal.clear(), s.ChangeRépertoire(autre + "/"), s.ProposeRépertoire();
+    EXPECT_TRUE(boîtes.journal.empty()) << "the same folder, with a final separator, is not offered again";
+    DemandeDossier().ModeRépertoires = TModeRépertoires::Chargement;
+    SélectionPartie l;
+    l.Fichier->setCurrentRow(-1);
+    l.BoutonOK->click();
+    EXPECT_TRUE(l.NomFichier->isHidden() && boîtes.journal.back().texte == Message(TMessage::ChoisirFichierPartie));
 }

@@ -4,6 +4,7 @@
 #include "screen/Edition.h"
 #include "screen/Pompe.h"
 #include "services/Fiches.h"
+#include "results/PartieEnCours.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 // The settings read at the start: first run, upgrade, ordinary run, the reminder, the language, the folders.
 #include "Services.h"
+#include "results/PartieEnCours.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 #include "Services.h"
 
 #include "services/Sons.h"
+#include "results/PartieEnCours.h"
 
 namespace {
 
