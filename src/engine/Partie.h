@@ -3,6 +3,7 @@
 // of, from the step and the level to the score and the clock.
 #include <QString>
 #include <cstdint>
+#include <vector>
 
 class VueJeu;
 
@@ -70,6 +71,16 @@ struct TLigneScore {
     i32 Durée = 0;   // whole seconds
 };
 
+// A question of a game step answered, lost or passed, as the player's history keeps it.
+struct TQuestionJouée {
+    i16 Canton = 0;
+    TEtape Etape = TEtape::Aucune;
+    i16 Erreurs = 0;  // wrong clicks before the right one; 9 when the question was lost
+    bool Passée = false;
+    bool Assistée = false;
+    i32 Secondes = 0;
+};
+
 struct Partie {
     TCanton Cantons[NombrePlaces + 1]; // element 0 stays empty
     QString Plaques[NombrePlaces + 1]; // the plate letters, 1..26
@@ -106,6 +117,11 @@ struct Partie {
     // What a step kind and a canton weigh in the score of a game left before its end.
     i16 PoidsEtapes[5] = {0, 1, 2, 4, 1};
     i32 PointsParCanton = 0;
+
+    // The questions settled since the history last took them, and when the one asked began.
+    std::vector<TQuestionJouée> QuestionsJouées;
+    i32 DébutQuestion = 0;
+    qint64 NuméroHistorique = 0; // this game's record in the history, 0 without one
 
     // Who is told what the rules did: the screen, a test, or nobody (nullptr).
     VueJeu *Ecouteur = nullptr;

@@ -77,6 +77,15 @@ void CliqueCarte(Partie &P, int Région, int x, int y)
 
 // ---------------------------------------------------------------- the turn cycle
 
+namespace {
+// The question asked is settled: the history keeps how it went.
+void NoteQuestion(Partie &P, i16 erreurs, bool passée)
+{
+    if (EtapeDeJeu(P.Etape))
+        P.QuestionsJouées.push_back({P.CantonRecherché, P.Etape, erreurs, passée, P.AssistanceUtilisée, DuréeDepuis(P.DébutQuestion)});
+}
+} // namespace
+
 void DébutEtape(Partie &P)
 {
     P.RestantsEtape = 0;
@@ -125,6 +134,7 @@ void QuestionSuivante(Partie &P)
         c = rangParmiRestants(r);
     }
     P.CantonRecherché = c;
+    P.DébutQuestion = SecondesDepuisMinuit();
     Vue(P).QuestionPosée();
 }
 
@@ -224,6 +234,7 @@ void TraiteClic(Partie &P, i16 c, i16 x, i16 y)
 void BonneRéponse(Partie &P)
 {
     const i16 c = P.CantonRecherché;
+    NoteQuestion(P, P.ErreursQuestion, false);
     if (P.Niveau == TNiveau::Facile) {
         Vue(P).MontreBoutonPasse(false);
         if (!P.AssistanceUtilisée)
@@ -283,6 +294,7 @@ void MauvaiseRéponse(Partie &P)
         return;
     }
     Vue(P).Son(TSon::Perdu);
+    NoteQuestion(P, P.ErreursQuestion, false);
     if (P.AssistanceUtilisée) {
         Vue(P).Annonce(TAnnonce::QuestionPerdueAssistée);
         P.AssistanceUtilisée = false;
@@ -359,6 +371,7 @@ i32 DuréeDepuis(i32 heureDépart)
 
 void BoutonPasse_Click(Partie &P)
 {
+    NoteQuestion(P, P.ErreursQuestion, true);
     for (i16 k = P.ErreursQuestion; k <= 8; ++k)
         P.Score = Pénalité(P, P.Score, k);
     if (P.Score <= 0) {

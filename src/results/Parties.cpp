@@ -11,6 +11,7 @@
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "results/PartieEnCours.h"
+#include "results/HistoriqueJoueur.h"
 
 #include <QDir>
 #include <QFile>
@@ -171,6 +172,7 @@ bool ConfirmeArrêt()
         return false;
     if (enCours) {
         ScoreAbandon(Jeu());
+        NoteHistorique(TIssuePartie::Abandonnée);
         if (Jeu().Score != 0) {
             AfficheScore();
             EnregistreScore();

@@ -15,6 +15,7 @@
 #include "services/Parametres.h"
 #include "services/Registre.h"
 #include "results/PartieEnCours.h"
+#include "results/HistoriqueJoueur.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -177,6 +178,7 @@ void SélectionPartie::BoutonOK_Click()
                 Boîte(Message(TMessage::FichierNonInterprétable), StyleExclamation, Message(TMessage::TitreErreurDeFormat));
                 return;
             }
+            CommenceHistorique(QFileInfo(cheminFichier).absoluteFilePath());
             QFile::remove(cheminFichier);
             ProposeRépertoire();
             Jeu().ModeRévision = false;
@@ -226,6 +228,7 @@ void SélectionPartie::BoutonOK_Click()
     if (DemandeDossier().TypeFichier == TTypeFichier::Partie) {
         if (!EcritPartie(cheminFichier))
             return;
+        NoteHistorique(TIssuePartie::Enregistrée, QFileInfo(cheminFichier).absoluteFilePath());
         ProposeRépertoire();
     } else {
         Réglages().FichierLancement = cheminFichier;

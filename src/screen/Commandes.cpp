@@ -23,6 +23,7 @@
 #include "screen/Patience.h"
 #include "services/Donnees.h"
 #include "results/PartieEnCours.h"
+#include "results/HistoriqueJoueur.h"
 
 #include <QAction>
 
@@ -130,4 +131,5 @@ void LanceNouvellePartie()
     AfficheScore();
     AfficheRestants(Jeu().RestantsEtape);
     QuestionSuivante(Jeu());
+    CommenceHistorique();
 }

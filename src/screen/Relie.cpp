@@ -22,6 +22,7 @@
 #include "screen/Patience.h"
 #include "services/Sons.h"
 #include "results/PartieEnCours.h"
+#include "results/HistoriqueJoueur.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -48,11 +49,12 @@ public:
         case TAnnonce::ConseilFiche: Boîte(Message(TMessage::ConseilFiche), StyleInformation, Message(TMessage::TitreAPropos)); break;
         case TAnnonce::QuestionPerdue: Boîte(Message(TMessage::QuestionPerdue), StyleExclamation, Message(TMessage::TitreResaisissezVous)); break;
         case TAnnonce::QuestionPerdueAssistée: Boîte(Message(TMessage::QuestionPerdueAssistée), StyleExclamation, Message(TMessage::TitreResaisissezVous)); break;
-        case TAnnonce::PartiePerdue: Boîte(Message(TMessage::PartieTerminée), StyleCritique, Message(TMessage::TitreTourGratuit)); break;
+        case TAnnonce::PartiePerdue: perdue = true, Boîte(Message(TMessage::PartieTerminée), StyleCritique, Message(TMessage::TitreTourGratuit)); break;
         }
     }
     void AnnonceEtape(TEtape finie, TEtape suivante) override
     {
+        NoteHistorique(TIssuePartie::EnCours);
         Boîte(MessageTransition(finie, suivante), StyleInformation, Message(TMessage::TitreEtapeSuivante));
     }
     void EtapeCommencée() override { PrépareEtape(); }
@@ -84,7 +86,14 @@ public:
         // The card's target goes with it.
         ::PlaceRond(c);
     }
-    void EnregistreScore() override { ::EnregistreScore(); }
+    void EnregistreScore() override
+    {
+        NoteHistorique(std::exchange(perdue, false) ? TIssuePartie::Perdue : TIssuePartie::Gagnée);
+        ::EnregistreScore();
+    }
+
+private:
+    bool perdue = false; // the game now ending ran out of points
 };
 } // namespace
 
@@ -137,6 +146,7 @@ bool Main()
     Réglages().SonActif = true;
     if (!ChargeCarteZones(Jeu().Carte))
         return false;
+    OuvreHistoriqueDuJoueur();
     AffichePatience();
     PointeurEcran(PointeurSablier);
     auto *forme = new EcranPrincipal();

@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "175"},
+    {1, "177"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -204,6 +204,8 @@ constexpr Ligne Table[] = {
     {1173, "Erreur à l'enregistrement de cette fiche ; la longueur de l'enregistrement est de %1 pour un maximum autorisé de 650"},
     {1174, "Erreur..."},
     {1175, "Les paramètres du jeu ne peuvent pas être enregistrés dans le fichier\n%1\nVérifiez que ce dossier existe et qu'il est accessible en écriture ; le jeu ne peut pas démarrer sans lui."},
+    {1176, "L'historique de vos parties était abîmé : il a été mis de côté sous le nom\n%1\net un nouvel historique commence."},
+    {1177, "L'historique de vos parties ne peut pas être ouvert (%1) ; le jeu continue sans le tenir à jour."},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -382,6 +384,8 @@ constexpr Ligne Table[] = {
     {1423, "Fehler beim Speichern dieses Steckbriefs; der Eintrag ist %1 Zeichen lang, erlaubt sind höchstens 650"},
     {1424, "Fehler..."},
     {1425, "Die Einstellungen des Spiels können nicht in der Datei\n%1\ngespeichert werden. Prüfen Sie, ob dieser Ordner existiert und beschreibbar ist; ohne ihn kann das Spiel nicht starten."},
+    {1426, "Der Verlauf Ihrer Spiele war beschädigt: er wurde unter dem Namen\n%1\nbeiseitegelegt, und ein neuer Verlauf beginnt."},
+    {1427, "Der Verlauf Ihrer Spiele kann nicht geöffnet werden (%1); das Spiel läuft ohne ihn weiter."},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

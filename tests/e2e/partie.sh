@@ -133,7 +133,7 @@ attend_fin
 
 etape "checking where the files went"
 donnees=$XDG_DATA_HOME/kelmor
-for f in KELMOR.SCS essai.CAS KELM_STA.TXT KELMOR.INF DRAVELN.INF; do
+for f in KELMOR.SCS essai.CAS KELM_STA.TXT KELMOR.INF DRAVELN.INF historique.sqlite; do
   [ -s "$donnees/$f" ] || echec "no $f in the player's data folder: $(ls "$donnees" 2>&1 | tr '\n' ' ')"
 done
 [ -w "$donnees/KELMOR.INF" ] || echec "the player's copy of the cards is read-only"

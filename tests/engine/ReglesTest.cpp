@@ -231,3 +231,32 @@ TEST_F(Regles, TheEndOfAStepLeadsToTheNextRankOfTheOrderOrEndsTheGame)
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(Regles, EachQuestionSettledIsNotedForTheHistoryWithItsErrorsHelpAndTime)
+{
+    // The clicks as above (a canton, 0 the pass, −1 the bulb); noted: canton, errors, passed, helped, seconds.
+    const struct Cas { bool appr; std::vector<int> clics; std::vector<std::array<int, 5>> notées; } cas[] = {
+        {false, {3, 2, 1}, {{1, 2, 0, 0, 4}}},
+        {false, {3, 0}, {{1, 1, 1, 0, 4}}},
+        {false, std::vector<int>(9, 2), {{1, 9, 0, 0, 4}}},
+        {true, {3, 3, 3, -1, 1}, {{1, 3, 0, 1, 4}}},
+        {false, {1, 2}, {{1, 0, 0, 0, 4}, {2, 0, 0, 0, 0}}}, // the next question timed from when it was asked
+    };
+    for (const Cas &c : cas) {
+        horloge = 100;
+        Commence(TNiveau::Facile, c.appr);
+        horloge = 104;
+        for (int clic : c.clics)
+            clic > 0 ? TraiteClic(P, i16(clic), 0, 0) : clic == 0 ? BoutonPasse_Click(P) : void(P.AssistanceUtilisée = true);
+        std::vector<std::array<int, 5>> notées;
+        for (const TQuestionJouée &q : P.QuestionsJouées) {
+            notées.push_back({q.Canton, q.Erreurs, q.Passée, q.Assistée, q.Secondes});
+            EXPECT_EQ(q.Etape, TEtape::Cantons);
+        }
+        EXPECT_EQ(notées, c.notées) << c.clics.size() << " clicks";
+    }
+}
+
+} // namespace

@@ -1,0 +1,41 @@
+#include "results/HistoriqueJoueur.h"
+
+#include "engine/communs.h"
+#include "platform/Boites.h"
+#include "results/PartieEnCours.h"
+#include "services/Chemins.h"
+#include "services/Langues.h"
+#include "services/Reglages.h"
+
+void OuvreHistoriqueDuJoueur()
+{
+    QString détail;
+    switch (OuvreHistorique(ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("historique.sqlite")), &détail)) {
+    case TOuvertureHistorique::Ouvert: break;
+    case TOuvertureHistorique::MisDeCôté:
+        Boîte(Message(TMessage::HistoriqueMisDeCôté).arg(détail), StyleInformation, Message(TMessage::TitreErreur));
+        break;
+    case TOuvertureHistorique::Inaccessible:
+        Boîte(Message(TMessage::HistoriqueInaccessible).arg(détail), StyleExclamation, Message(TMessage::TitreErreur));
+        break;
+    }
+}
+
+void CommenceHistorique(const QString &fichierRepris)
+{
+    Partie &P = Jeu();
+    P.QuestionsJouées.clear();
+    P.NuméroHistorique = PartieEnregistréeDans(fichierRepris);
+    if (P.NuméroHistorique == 0)
+        P.NuméroHistorique = CommencePartieHistorique(
+            {P.NomJoueur, P.Niveau, P.ModeApprentissage, Réglages().FichierLancement, Maintenant()});
+}
+
+void NoteHistorique(TIssuePartie issue, const QString &fichierPartie)
+{
+    Partie &P = Jeu();
+    EnregistreHistorique(P.NuméroHistorique, P.QuestionsJouées, issue, P.Score, DuréeDepuis(P.HeureDépart), fichierPartie);
+    P.QuestionsJouées.clear();
+    if (issue != TIssuePartie::EnCours)
+        P.NuméroHistorique = 0;
+}

@@ -1,0 +1,161 @@
+#include "services/Historique.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+namespace {
+const QString Connexion = QStringLiteral("historique");
+
+// Each step brings the tables from the version before it to its own.
+const char *const Migrations[VersionHistorique] = {
+    "CREATE TABLE parties (id INTEGER PRIMARY KEY, joueur TEXT NOT NULL, niveau INTEGER NOT NULL,"
+    " apprentissage INTEGER NOT NULL, parametrage TEXT NOT NULL, debut TEXT NOT NULL, duree INTEGER NOT NULL DEFAULT 0,"
+    " score INTEGER NOT NULL DEFAULT 0, issue INTEGER NOT NULL DEFAULT 0, fichier TEXT NOT NULL DEFAULT '');"
+    "CREATE TABLE questions (id INTEGER PRIMARY KEY, partie INTEGER NOT NULL REFERENCES parties(id), canton INTEGER NOT NULL,"
+    " etape INTEGER NOT NULL, erreurs INTEGER NOT NULL, passee INTEGER NOT NULL, assistee INTEGER NOT NULL,"
+    " secondes INTEGER NOT NULL);"
+    "CREATE INDEX questions_partie ON questions(partie);",
+};
+
+QSqlDatabase Base() { return QSqlDatabase::database(Connexion, false); }
+
+// A text as the tables keep it: never NULL, an absent one is empty.
+QVariant Texte(const QString &s) { return s.isNull() ? QVariant(QStringLiteral("")) : QVariant(s); }
+
+// SQLite's own codes: a file that isn't a database, or a damaged one.
+bool Abîmé(const QSqlError &e)
+{
+    const QString code = e.nativeErrorCode();
+    return code == QLatin1String("26") || code == QLatin1String("11");
+}
+
+// Opens the file and brings its tables up to date; the error that stopped it, if any.
+QSqlError Prépare(const QString &chemin)
+{
+    QSqlDatabase base = QSqlDatabase::contains(Connexion) ? QSqlDatabase::database(Connexion, false)
+                                                           : QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), Connexion);
+    base.setDatabaseName(chemin);
+    base.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000"));
+    if (!base.open())
+        return base.lastError();
+    QSqlQuery q(base);
+    if (!q.exec(QStringLiteral("PRAGMA user_version")) || !q.next())
+        return q.lastError();
+    const int version = q.value(0).toInt();
+    if (version > VersionHistorique)
+        return QSqlError(QStringLiteral("version %1").arg(version), QString(), QSqlError::UnknownError);
+    if (!q.exec(QStringLiteral("PRAGMA journal_mode=WAL")))
+        return q.lastError();
+    for (int v = version; v < VersionHistorique; ++v) {
+        if (!base.transaction())
+            return base.lastError();
+        for (const QString &ordre : QString::fromUtf8(Migrations[v]).split(QLatin1Char(';'), Qt::SkipEmptyParts))
+            if (!q.exec(ordre)) {
+                const QSqlError e = q.lastError();
+                base.rollback();
+                return e;
+            }
+        if (!q.exec(QStringLiteral("PRAGMA user_version = %1").arg(v + 1)) || !base.commit()) {
+            const QSqlError e = q.lastError().isValid() ? q.lastError() : base.lastError();
+            base.rollback();
+            return e;
+        }
+    }
+    return {};
+}
+} // namespace
+
+TOuvertureHistorique OuvreHistorique(const QString &chemin, QString *détail)
+{
+    FermeHistorique();
+    QSqlError e = Prépare(chemin);
+    if (!e.isValid())
+        return TOuvertureHistorique::Ouvert;
+    if (Abîmé(e) && QFileInfo(chemin).isFile()) {
+        FermeHistorique();
+        const QString àCôté = chemin + QStringLiteral(".abime-") +
+                              QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+        // The journal and the shared memory go with the file they belong to.
+        for (const QString &suffixe : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+            if (QFile::exists(chemin + suffixe))
+                QFile::rename(chemin + suffixe, àCôté + suffixe);
+        if (!QFile::exists(chemin) && !(e = Prépare(chemin)).isValid()) {
+            if (détail)
+                *détail = àCôté;
+            return TOuvertureHistorique::MisDeCôté;
+        }
+    }
+    FermeHistorique();
+    if (détail)
+        *détail = e.text();
+    return TOuvertureHistorique::Inaccessible;
+}
+
+void FermeHistorique()
+{
+    if (!QSqlDatabase::contains(Connexion))
+        return;
+    Base().close();
+    QSqlDatabase::removeDatabase(Connexion);
+}
+
+bool HistoriqueOuvert() { return QSqlDatabase::contains(Connexion) && Base().isOpen(); }
+
+qint64 CommencePartieHistorique(const TPartieJouée &partie)
+{
+    if (!HistoriqueOuvert())
+        return 0;
+    QSqlQuery q(Base());
+    q.prepare(QStringLiteral("INSERT INTO parties (joueur, niveau, apprentissage, parametrage, debut) VALUES (?, ?, ?, ?, ?)"));
+    q.addBindValue(Texte(partie.Joueur));
+    q.addBindValue(Numéro(partie.Niveau));
+    q.addBindValue(partie.Apprentissage);
+    q.addBindValue(Texte(partie.Paramétrage));
+    q.addBindValue(Texte(partie.Début.toString(Qt::ISODate)));
+    return q.exec() ? q.lastInsertId().toLongLong() : 0;
+}
+
+bool EnregistreHistorique(qint64 partie, const std::vector<TQuestionJouée> &questions, TIssuePartie issue, i32 score,
+                          i32 durée, const QString &fichierPartie)
+{
+    if (partie == 0 || !HistoriqueOuvert())
+        return false;
+    QSqlDatabase base = Base();
+    if (!base.transaction())
+        return false;
+    QSqlQuery q(base);
+    q.prepare(QStringLiteral("INSERT INTO questions (partie, canton, etape, erreurs, passee, assistee, secondes)"
+                             " VALUES (?, ?, ?, ?, ?, ?, ?)"));
+    bool fait = true;
+    for (const TQuestionJouée &j : questions) {
+        int i = 0;
+        for (const QVariant &v : {QVariant(partie), QVariant(j.Canton), QVariant(Numéro(j.Etape)), QVariant(j.Erreurs),
+                                  QVariant(j.Passée), QVariant(j.Assistée), QVariant(j.Secondes)})
+            q.bindValue(i++, v);
+        fait = fait && q.exec();
+    }
+    QSqlQuery p(base);
+    p.prepare(QStringLiteral("UPDATE parties SET issue = ?, score = ?, duree = ?, fichier = ? WHERE id = ?"));
+    for (const QVariant &v : {QVariant(int(issue)), QVariant(score), QVariant(durée), Texte(fichierPartie), QVariant(partie)})
+        p.addBindValue(v);
+    fait = fait && p.exec() && p.numRowsAffected() == 1;
+    if (fait && base.commit())
+        return true;
+    base.rollback();
+    return false;
+}
+
+qint64 PartieEnregistréeDans(const QString &fichierPartie)
+{
+    if (!HistoriqueOuvert() || fichierPartie.isEmpty())
+        return 0;
+    QSqlQuery q(Base());
+    q.prepare(QStringLiteral("SELECT id FROM parties WHERE fichier = ? AND issue = ? ORDER BY id DESC LIMIT 1"));
+    q.addBindValue(fichierPartie);
+    q.addBindValue(int(TIssuePartie::Enregistrée));
+    return q.exec() && q.next() ? q.value(0).toLongLong() : 0;
+}

@@ -1,0 +1,44 @@
+#pragma once
+// The player's history: every game and every question answered, kept in an SQLite
+// database in the player's data folder, so that a player can look back at what they get
+// wrong. A game's record is written in one transaction when one of its steps or the game
+// ends. A damaged database is moved aside and a new one begun; one that can't be opened
+// (locked, unreadable) is left alone; either way the game plays on, and without history
+// in the second case.
+#include "engine/Partie.h"
+
+#include <QDateTime>
+#include <QString>
+#include <vector>
+
+// How a game's record stands: still played, or how it ended.
+enum class TIssuePartie : i16 { EnCours = 0, Gagnée = 1, Perdue = 2, Abandonnée = 3, Enregistrée = 4 };
+
+struct TPartieJouée {
+    QString Joueur;
+    TNiveau Niveau = TNiveau::Aucun;
+    bool Apprentissage = false;
+    QString Paramétrage; // the parameter set's file
+    QDateTime Début;
+};
+
+// The version of the tables this program writes; an older file is brought up to it.
+constexpr int VersionHistorique = 1;
+
+// What opening the history came to.
+enum class TOuvertureHistorique { Ouvert, MisDeCôté, Inaccessible };
+// Opens, makes or brings up to date the database at chemin. MisDeCôté: the file was no
+// database of ours and is now chemin + ".abime-<date>", a new one is open; Inaccessible:
+// the file is left as it was and the history stays closed. `détail` names the file set
+// aside or the reason.
+TOuvertureHistorique OuvreHistorique(const QString &chemin, QString *détail = nullptr);
+void FermeHistorique();
+bool HistoriqueOuvert();
+
+// A new game's record; 0 without history.
+qint64 CommencePartieHistorique(const TPartieJouée &partie);
+// Adds the questions to the game's record and sets where it stands, in one transaction.
+bool EnregistreHistorique(qint64 partie, const std::vector<TQuestionJouée> &questions, TIssuePartie issue, i32 score,
+                          i32 durée, const QString &fichierPartie = QString());
+// The record of the game last saved in that file, 0 if none: a game taken up goes on in it.
+qint64 PartieEnregistréeDans(const QString &fichierPartie);

@@ -1,0 +1,99 @@
+// The player's history: a game's record written and taken up again, and the files it
+// must not trust: damaged (set aside, a new one begun), too new or locked (left alone).
+#include "services/Historique.h"
+
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+// What a separate connection reads in the file: one line per row of the query.
+QStringList Lignes(const QString &chemin, const QString &requête)
+{
+    QStringList lignes;
+    {
+        QSqlDatabase base = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("lecture"));
+        base.setDatabaseName(chemin);
+        QSqlQuery q(base);
+        if (base.open() && q.exec(requête))
+            while (q.next()) {
+                QStringList champs;
+                for (int i = 0; i < q.record().count(); ++i)
+                    champs << q.value(i).toString();
+                lignes << champs.join(QLatin1Char(' '));
+            }
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("lecture"));
+    return lignes;
+}
+
+TEST(Historique, AGameIsRecordedStepByStepAndASavedGameIsTakenUpInItsRecord)
+{
+    QTemporaryDir dossier;
+    const QString chemin = dossier.filePath(QStringLiteral("historique.sqlite"));
+    ASSERT_EQ(OuvreHistorique(chemin), TOuvertureHistorique::Ouvert);
+    const qint64 id = CommencePartieHistorique({"Zoé", TNiveau::Moyen, false, "KELMOR.SCS", QDateTime(QDate(2026, 11, 23), QTime(10, 0))});
+    ASSERT_GT(id, 0);
+    EXPECT_TRUE(EnregistreHistorique(id, {{4, TEtape::Cantons, 2, false, false, 7}, {9, TEtape::Cantons, 9, false, true, 30}},
+                                     TIssuePartie::EnCours, 900000, 37));
+    EXPECT_TRUE(EnregistreHistorique(id, {{3, TEtape::ChefsLieux, 0, true, false, 5}}, TIssuePartie::Enregistrée, 800000, 42,
+                                     "/parties/essai.CAS"));
+    EXPECT_EQ(PartieEnregistréeDans("/parties/essai.CAS"), id);
+    EXPECT_EQ(PartieEnregistréeDans("/parties/autre.CAS"), 0);
+    EXPECT_FALSE(EnregistreHistorique(id + 1, {{1, TEtape::Cantons, 0, false, false, 1}}, TIssuePartie::Gagnée, 1, 1))
+        << "no record of that game: nothing is written";
+    FermeHistorique();
+    EXPECT_EQ(Lignes(chemin, "SELECT joueur, niveau, parametrage, debut, duree, score, issue, fichier FROM parties"),
+              QStringList({"Zoé 2 KELMOR.SCS 2026-11-23T10:00:00 42 800000 4 /parties/essai.CAS"}));
+    EXPECT_EQ(Lignes(chemin, "SELECT canton, etape, erreurs, passee, assistee, secondes FROM questions ORDER BY id"),
+              QStringList({"4 1 2 0 0 7", "9 1 9 0 1 30", "3 2 0 1 0 5"}));
+    EXPECT_EQ(Lignes(chemin, "PRAGMA user_version"), QStringList({QString::number(VersionHistorique)}));
+    EXPECT_EQ(Lignes(chemin, "PRAGMA journal_mode"), QStringList({"wal"}));
+    EXPECT_EQ(CommencePartieHistorique({}), 0) << "a closed history records nothing";
+}
+
+TEST(Historique, ADamagedFileIsSetAsideATooNewOrLockedOneIsLeftAlone)
+{
+    QTemporaryDir dossier;
+    const QString chemin = dossier.filePath(QStringLiteral("historique.sqlite"));
+    const QByteArray abîmé = QByteArray("SQLite format 3").append(QByteArray(4000, '\x5A'));
+    QFile f(chemin);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(abîmé) == abîmé.size());
+    f.close();
+    QString détail;
+    ASSERT_EQ(OuvreHistorique(chemin, &détail), TOuvertureHistorique::MisDeCôté);
+    QFile àCôté(détail);
+    EXPECT_TRUE(détail.startsWith(chemin + ".abime-") && àCôté.open(QIODevice::ReadOnly) && àCôté.readAll() == abîmé);
+    EXPECT_GT(CommencePartieHistorique({"Ana", TNiveau::Facile, true, "KELMOR.SCS", QDateTime::currentDateTime()}), 0);
+    FermeHistorique();
+
+    // Written by a later version of the game: neither read nor changed.
+    Lignes(chemin, "PRAGMA user_version = 99");
+    const QByteArray avant = [&] { QFile g(chemin); return g.open(QIODevice::ReadOnly) ? g.readAll() : QByteArray(); }();
+    EXPECT_EQ(OuvreHistorique(chemin, &détail), TOuvertureHistorique::Inaccessible);
+    EXPECT_FALSE(HistoriqueOuvert());
+    QFile g(chemin);
+    EXPECT_TRUE(g.open(QIODevice::ReadOnly) && g.readAll() == avant && !QFile::exists(détail)) << détail.toStdString();
+    Lignes(chemin, "PRAGMA user_version = 1");
+
+    // Another program holds the file: after a wait, the game goes on without history.
+    QSqlDatabase autre = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("autre"));
+    autre.setDatabaseName(chemin);
+    ASSERT_TRUE(autre.open());
+    QSqlQuery(autre).exec(QStringLiteral("PRAGMA journal_mode=DELETE"));
+    ASSERT_TRUE(QSqlQuery(autre).exec(QStringLiteral("BEGIN EXCLUSIVE")));
+    EXPECT_EQ(OuvreHistorique(chemin), TOuvertureHistorique::Inaccessible);
+    EXPECT_TRUE(QFile::exists(chemin));
+    QSqlQuery(autre).exec(QStringLiteral("ROLLBACK"));
+    autre.close();
+    autre = QSqlDatabase();
+    QSqlDatabase::removeDatabase(QStringLiteral("autre"));
+    EXPECT_EQ(OuvreHistorique(chemin), TOuvertureHistorique::Ouvert);
+    FermeHistorique();
+}
+
+} // namespace
