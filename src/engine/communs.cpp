@@ -280,6 +280,7 @@ void MauvaiseRéponse(Partie &P)
 {
     P.Score = Pénalité(P, P.Score, P.ErreursQuestion);
     if (P.Score <= 0) {
+        NoteQuestion(P, static_cast<i16>(P.ErreursQuestion + 1), false);
         PartiePerdue(P);
         return;
     }

@@ -13,11 +13,8 @@
 namespace {
 
 // The tables the raster is read into: as large as the game holds them.
-TCarteZones &Tables()
-{
-    static TCarteZones carte;
-    return carte;
-}
+TCarteZones tables;
+TCarteZones &Tables() { return tables; }
 
 const QByteArray Tête = Enregistrement(0, 0, 4), Ligne = Enregistrement(0, 0, 0);
 // A whole map: the rows given (each opened by its mark) make its top, row 455 holds every canton.

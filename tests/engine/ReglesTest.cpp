@@ -143,26 +143,27 @@ TEST_F(Regles, EachAnswerIsToldScoredChargedToTheCantonAskedAndFollowedByTheNext
     const struct Cas {
         N niveau; bool appr; i32 score; int trouvés; std::vector<int> clics;
         QString dit; i32 après; TEtape étape; i16 restants, demandé; i32 pertes;
+        const char *noté; // for the history: how many noted, and the last: canton, errors, passed, helped, seconds
     } cas[] = {
-        {N::Difficile, false, T, 0, x9, e(8) + perdue, Q, C, 26, 2, 87381},
-        {N::Moyen, false, T, 0, x9, e(8) + perdue, Q, C, 26, 2, 87381},
-        {N::Facile, false, T, 0, x9, "e, passe, " + e(7) + perdue, Q, C, 26, 2, 87381},
-        {N::Facile, true, T, 0, x9, e(3) + "gruge, " + e(5) + perdue, T, C, 26, 2, 87381},
-        {N::Facile, false, T, 0, {2, 0}, "e, passe, perdu, -passe", Q, C, 26, 2, 87381},
-        {N::Difficile, false, T, 0, {3, 1}, "e, bravo, -gruge", T - 1, C, 25, 2, 1},
-        {N::Difficile, false, T, 25, {1}, "son étape, étape 1>2", T, TEtape::ChefsLieux, 26, 1, 0}, // no bravo
+        {N::Difficile, false, T, 0, x9, e(8) + perdue, Q, C, 26, 2, 87381, "1: 1 9 0 0 5"},
+        {N::Moyen, false, T, 0, x9, e(8) + perdue, Q, C, 26, 2, 87381, "1: 1 9 0 0 5"},
+        {N::Facile, false, T, 0, x9, "e, passe, " + e(7) + perdue, Q, C, 26, 2, 87381, "1: 1 9 0 0 5"},
+        {N::Facile, true, T, 0, x9, e(3) + "gruge, " + e(5) + perdue, T, C, 26, 2, 87381, "1: 1 9 0 0 5"},
+        {N::Facile, false, T, 0, {2, 0}, "e, passe, perdu, -passe", Q, C, 26, 2, 87381, "1: 1 1 1 0 5"},
+        {N::Difficile, false, T, 0, {3, 1}, "e, bravo, -gruge", T - 1, C, 25, 2, 1, "1: 1 1 0 0 5"},
+        {N::Difficile, false, T, 25, {1}, "son étape, étape 1>2", T, TEtape::ChefsLieux, 26, 1, 0, "1: 1 0 0 0 5"}, // no bravo
         {N::Facile, true, T, 0, deuxEtapes, "-passe, bravo, conseil, -gruge, " + QString("-passe, bravo, -gruge, ").repeated(24) +
-         "-passe, son étape, étape 1>2, -passe, bravo, -gruge", T, TEtape::ChefsLieux, 25, 2, 0}, // the hint once in a game
+         "-passe, son étape, étape 1>2, -passe, bravo, -gruge", T, TEtape::ChefsLieux, 25, 2, 0, "27: 1 0 0 0 0"}, // the hint once
         // The answer given away: the canton stays to find, the question is paid in full.
-        {N::Facile, true, T, 0, {3, 3, 3, -1, 1}, e(3) + "gruge, -passe, bravo, -gruge", T, C, 26, 2, 87381},
+        {N::Facile, true, T, 0, {3, 3, 3, -1, 1}, e(3) + "gruge, -passe, bravo, -gruge", T, C, 26, 2, 87381, "1: 1 3 0 1 5"},
         {N::Facile, true, T, 0, {3, 3, 3, -1, 3, 3, 3, 3, 3, 3}, e(3) + "gruge, " + e(5) + "perdu, perdue assistée, -gruge, -passe",
-         T, C, 26, 2, 87381},
+         T, C, 26, 2, 87381, "1: 1 9 0 1 5"},
         // The score runs out: the ninth error costs 65536, a pass at the first error 87381.
-        {N::Difficile, false, 60000, 0, x9, e(8) + "perdu, partie perdue, enregistre", -999999, A, 26, 0, 87381},
-        {N::Difficile, false, 60000, 0, {0}, "perdu, partie perdue, enregistre", -999999, A, 26, 0, 87381},
+        {N::Difficile, false, 60000, 0, x9, e(8) + "perdu, partie perdue, enregistre", -999999, A, 26, 0, 87381, "1: 1 9 0 0 5"},
+        {N::Difficile, false, 60000, 0, {0}, "perdu, partie perdue, enregistre", -999999, A, 26, 0, 87381, "1: 1 0 1 0 5"},
     };
     for (const Cas &c : cas) {
-        Commence(c.niveau, c.appr, c.trouvés);
+        horloge = 0, Commence(c.niveau, c.appr, c.trouvés), horloge = 5;
         P.Score = c.score;
         for (int clic : c.clics)
             clic > 0 ? TraiteClic(P, i16(clic), 0, 0) : clic == 0 ? BoutonPasse_Click(P) : void(P.AssistanceUtilisée = true);
@@ -173,6 +174,10 @@ TEST_F(Regles, EachAnswerIsToldScoredChargedToTheCantonAskedAndFollowedByTheNext
         const i32 autres = std::accumulate(P.Cantons + 2, P.Cantons + 27, 0, [](i32 s, auto &k) { return s + k.Pertes[0]; });
         EXPECT_TRUE(P.Cantons[1].Pertes[1] == c.pertes && autres == 0) << quoi << ": only the canton asked is charged";
         EXPECT_FALSE(P.AssistanceUtilisée || P.ErreursQuestion) << quoi;
+        ASSERT_FALSE(P.QuestionsJouées.empty()) << quoi;
+        const TQuestionJouée &d = P.QuestionsJouées.back();
+        EXPECT_EQ(QString::asprintf("%zu: %d %d %d %d %d", P.QuestionsJouées.size(), d.Canton, d.Erreurs, d.Passée, d.Assistée,
+                                    d.Secondes), c.noté) << quoi;
         EXPECT_EQ(P.PartieVierge, c.étape == A) << quoi;
         for (int i = 1; i <= 26 && c.trouvés == 0 && c.étape == C; ++i)
             EXPECT_EQ(P.Cantons[i].Réussi[1], P.Cantons[i].Trouvé) << quoi << ": canton " << i;
@@ -227,35 +232,6 @@ TEST_F(Regles, TheEndOfAStepLeadsToTheNextRankOfTheOrderOrEndsTheGame)
         else
             EXPECT_TRUE(P.RangEtape == c.rangAprès && P.RestantsEtape == 26 && P.CantonRecherché == 1 &&
                         !P.ErreursQuestion) << quoi;
-    }
-}
-
-} // namespace
-
-namespace {
-
-TEST_F(Regles, EachQuestionSettledIsNotedForTheHistoryWithItsErrorsHelpAndTime)
-{
-    // The clicks as above (a canton, 0 the pass, −1 the bulb); noted: canton, errors, passed, helped, seconds.
-    const struct Cas { bool appr; std::vector<int> clics; std::vector<std::array<int, 5>> notées; } cas[] = {
-        {false, {3, 2, 1}, {{1, 2, 0, 0, 4}}},
-        {false, {3, 0}, {{1, 1, 1, 0, 4}}},
-        {false, std::vector<int>(9, 2), {{1, 9, 0, 0, 4}}},
-        {true, {3, 3, 3, -1, 1}, {{1, 3, 0, 1, 4}}},
-        {false, {1, 2}, {{1, 0, 0, 0, 4}, {2, 0, 0, 0, 0}}}, // the next question timed from when it was asked
-    };
-    for (const Cas &c : cas) {
-        horloge = 100;
-        Commence(TNiveau::Facile, c.appr);
-        horloge = 104;
-        for (int clic : c.clics)
-            clic > 0 ? TraiteClic(P, i16(clic), 0, 0) : clic == 0 ? BoutonPasse_Click(P) : void(P.AssistanceUtilisée = true);
-        std::vector<std::array<int, 5>> notées;
-        for (const TQuestionJouée &q : P.QuestionsJouées) {
-            notées.push_back({q.Canton, q.Erreurs, q.Passée, q.Assistée, q.Secondes});
-            EXPECT_EQ(q.Etape, TEtape::Cantons);
-        }
-        EXPECT_EQ(notées, c.notées) << c.clics.size() << " clicks";
     }
 }
 
