@@ -38,10 +38,11 @@ SonsEnregistrés sons;
 
 void Prépare()
 {
-    // The settings go to a store of the run's own, never to the player's.
+    // The settings and whatever the game writes go to a folder of the run's own, never to
+    // the player's nor to the sources' data.
     static QTemporaryDir magasin;
     InstalleFichierRegistre(magasin.filePath(QStringLiteral("registre.ini")));
-    InstalleDossierProgramme(QStringLiteral(DOSSIER_DONNEES));
+    InstalleDossierProgramme(magasin.path(), QStringLiteral(DOSSIER_DONNEES));
     InstalleBoîtes(&boîtes);
     InstalleSons(&sons);
 }

@@ -15,7 +15,7 @@ TRéglages &Réglages()
 }
 
 namespace {
-QString dossierInstallé;
+QString dossierInstallé, donnéesInstallées;
 std::function<QDateTime()> maintenantScripté;
 } // namespace
 
@@ -36,7 +36,7 @@ QString SansSéparateurFinal(QString d)
 QString DossierDonnées()
 {
     if (!dossierInstallé.isEmpty())
-        return SansSéparateurFinal(dossierInstallé);
+        return SansSéparateurFinal(donnéesInstallées.isEmpty() ? dossierInstallé : donnéesInstallées);
     const QDir programme(QCoreApplication::applicationDirPath());
     const QString installé = QDir::cleanPath(programme.filePath(QStringLiteral(KELMOR_DONNEES_RELATIF)));
     if (QFileInfo::exists(ComposeChemin(installé, QStringLiteral("KELMOR.pts"))))
@@ -56,7 +56,11 @@ QString DossierProgramme()
     return joueur;
 }
 
-void InstalleDossierProgramme(const QString &dossier) { dossierInstallé = dossier; }
+void InstalleDossierProgramme(const QString &dossier, const QString &données)
+{
+    dossierInstallé = dossier;
+    donnéesInstallées = données;
+}
 
 QString VersionDuProgramme() { return ChaîneTable(1000); }
 

@@ -42,8 +42,9 @@ QString DossierDonnées();
 // folder when the game runs from a folder it can write in with its files beside it
 // (a build), else the player's data folder (~/.local/share/kelmor), made if missing.
 QString DossierProgramme();
-// One folder in place of both, for tests.
-void InstalleDossierProgramme(const QString &dossier);
+// Folders in place of both, for tests and benchmarks: the shipped files read from
+// `données` (by default the same folder).
+void InstalleDossierProgramme(const QString &dossier, const QString &données = QString());
 
 // Today's date and time; a script in tests, an empty function for the system's.
 QDateTime Maintenant();
