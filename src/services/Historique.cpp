@@ -18,7 +18,8 @@ const char *const Migrations[VersionHistorique] = {
     "CREATE TABLE questions (id INTEGER PRIMARY KEY, partie INTEGER NOT NULL REFERENCES parties(id), canton INTEGER NOT NULL,"
     " etape INTEGER NOT NULL, erreurs INTEGER NOT NULL, passee INTEGER NOT NULL, assistee INTEGER NOT NULL,"
     " secondes INTEGER NOT NULL);"
-    "CREATE INDEX questions_partie ON questions(partie);",
+    "CREATE INDEX questions_partie ON questions(partie);"
+    "CREATE INDEX parties_joueur ON parties(joueur, id);",
 };
 
 QSqlDatabase Base() { return QSqlDatabase::database(Connexion, false); }
@@ -147,6 +148,28 @@ bool EnregistreHistorique(qint64 partie, const std::vector<TQuestionJouée> &que
         return true;
     base.rollback();
     return false;
+}
+
+TBilan BilanErreurs(const QString &joueur, int parties)
+{
+    TBilan bilan{};
+    if (!HistoriqueOuvert())
+        return bilan;
+    QSqlQuery q(Base());
+    q.prepare(QStringLiteral("SELECT etape, canton, count(*), sum(erreurs), sum(erreurs > 0 OR passee) FROM questions"
+                             " WHERE partie IN (SELECT id FROM parties WHERE joueur = ? ORDER BY id DESC LIMIT ?)"
+                             " GROUP BY etape, canton"));
+    q.addBindValue(Texte(joueur));
+    q.addBindValue(parties > 0 ? parties : -1);
+    if (!q.exec())
+        return bilan;
+    while (q.next()) {
+        const int étape = q.value(0).toInt(), canton = q.value(1).toInt();
+        // A damaged or hand-made row outside the tables is passed over.
+        if (étape >= 1 && étape <= 4 && canton >= 1 && canton <= NombrePlaces)
+            bilan[étape][canton] = {q.value(2).toInt(), q.value(3).toInt(), q.value(4).toInt()};
+    }
+    return bilan;
 }
 
 qint64 PartieEnregistréeDans(const QString &fichierPartie)

@@ -8,6 +8,7 @@
 #include "engine/Partie.h"
 
 #include <QDateTime>
+#include <array>
 #include <QString>
 #include <vector>
 
@@ -42,3 +43,14 @@ bool EnregistreHistorique(qint64 partie, const std::vector<TQuestionJouée> &que
                           i32 durée, const QString &fichierPartie = QString());
 // The record of the game last saved in that file, 0 if none: a game taken up goes on in it.
 qint64 PartieEnregistréeDans(const QString &fichierPartie);
+
+// What a canton cost a player in one kind of question: how often it was asked, the wrong
+// clicks made on it, and how often it was missed (not found at the first click, or passed).
+struct TBilanCanton {
+    int Questions = 0;
+    int Erreurs = 0;
+    int Manquées = 0;
+};
+// By step kind 1..4 and canton 1..26, over the player's last `parties` games (0: all).
+using TBilan = std::array<std::array<TBilanCanton, NombrePlaces + 1>, 5>;
+TBilan BilanErreurs(const QString &joueur, int parties);

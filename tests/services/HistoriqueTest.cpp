@@ -46,10 +46,19 @@ TEST(Historique, AGameIsRecordedStepByStepAndASavedGameIsTakenUpInItsRecord)
     EXPECT_EQ(PartieEnregistréeDans("/parties/autre.CAS"), 0);
     EXPECT_FALSE(EnregistreHistorique(id + 1, {{1, TEtape::Cantons, 0, false, false, 1}}, TIssuePartie::Gagnée, 1, 1))
         << "no record of that game: nothing is written";
+    // What each canton cost: over Zoé's games only, all of them or the last one.
+    const qint64 autre = CommencePartieHistorique({"Ana", TNiveau::Moyen, false, "KELMOR.SCS", {}});
+    const qint64 suivante = CommencePartieHistorique({"Zoé", TNiveau::Moyen, false, "KELMOR.SCS", {}});
+    EnregistreHistorique(autre, {{4, TEtape::Cantons, 5, false, false, 1}}, TIssuePartie::Perdue, 1, 1);
+    EnregistreHistorique(suivante, {{4, TEtape::Cantons, 0, false, false, 2}}, TIssuePartie::Gagnée, 1, 1);
+    const auto bilan = [](const TBilanCanton &b) { return std::array{b.Questions, b.Erreurs, b.Manquées}; };
+    const TBilan tout = BilanErreurs("Zoé", 0), dernière = BilanErreurs("Zoé", 1);
+    EXPECT_TRUE(bilan(tout[1][4]) == (std::array{2, 2, 1}) && bilan(tout[1][9]) == (std::array{1, 9, 1}) &&
+                bilan(tout[2][3]) == (std::array{1, 0, 1}) && bilan(dernière[1][4]) == (std::array{1, 0, 0}) && dernière[1][9].Questions == 0);
     FermeHistorique();
-    EXPECT_EQ(Lignes(chemin, "SELECT joueur, niveau, parametrage, debut, duree, score, issue, fichier FROM parties"),
+    EXPECT_EQ(Lignes(chemin, "SELECT joueur, niveau, parametrage, debut, duree, score, issue, fichier FROM parties WHERE id = 1"),
               QStringList({"Zoé 2 KELMOR.SCS 2026-11-23T10:00:00 42 800000 4 /parties/essai.CAS"}));
-    EXPECT_EQ(Lignes(chemin, "SELECT canton, etape, erreurs, passee, assistee, secondes FROM questions ORDER BY id"),
+    EXPECT_EQ(Lignes(chemin, "SELECT canton, etape, erreurs, passee, assistee, secondes FROM questions WHERE partie = 1 ORDER BY id"),
               QStringList({"4 1 2 0 0 7", "9 1 9 0 1 30", "3 2 0 1 0 5"}));
     EXPECT_EQ(Lignes(chemin, "PRAGMA user_version"), QStringList({QString::number(VersionHistorique)}));
     EXPECT_EQ(Lignes(chemin, "PRAGMA journal_mode"), QStringList({"wal"}));
