@@ -20,6 +20,11 @@ const char *const Migrations[VersionHistorique] = {
     " secondes INTEGER NOT NULL);"
     "CREATE INDEX questions_partie ON questions(partie);"
     "CREATE INDEX parties_joueur ON parties(joueur, id);",
+    // 2: each player's figures over all their games, kept as questions are written.
+    "CREATE TABLE bilans (joueur TEXT NOT NULL, etape INTEGER NOT NULL, canton INTEGER NOT NULL, questions INTEGER NOT NULL,"
+    " erreurs INTEGER NOT NULL, manquees INTEGER NOT NULL, PRIMARY KEY (joueur, etape, canton));"
+    "INSERT INTO bilans SELECT p.joueur, q.etape, q.canton, count(*), sum(q.erreurs), sum(q.erreurs > 0 OR q.passee)"
+    " FROM questions q JOIN parties p ON p.id = q.partie GROUP BY p.joueur, q.etape, q.canton;",
 };
 
 QSqlDatabase Base() { return QSqlDatabase::database(Connexion, false); }
@@ -131,13 +136,21 @@ bool EnregistreHistorique(qint64 partie, const std::vector<TQuestionJouée> &que
     QSqlQuery q(base);
     q.prepare(QStringLiteral("INSERT INTO questions (partie, canton, etape, erreurs, passee, assistee, secondes)"
                              " VALUES (?, ?, ?, ?, ?, ?, ?)"));
+    QSqlQuery b(base);
+    b.prepare(QStringLiteral("INSERT INTO bilans SELECT joueur, ?, ?, 1, ?, ? FROM parties WHERE id = ?"
+                             " ON CONFLICT (joueur, etape, canton) DO UPDATE SET questions = questions + 1,"
+                             " erreurs = erreurs + excluded.erreurs, manquees = manquees + excluded.manquees"));
     bool fait = true;
     for (const TQuestionJouée &j : questions) {
         int i = 0;
         for (const QVariant &v : {QVariant(partie), QVariant(j.Canton), QVariant(Numéro(j.Etape)), QVariant(j.Erreurs),
                                   QVariant(j.Passée), QVariant(j.Assistée), QVariant(j.Secondes)})
             q.bindValue(i++, v);
-        fait = fait && q.exec();
+        i = 0;
+        for (const QVariant &v : {QVariant(Numéro(j.Etape)), QVariant(j.Canton), QVariant(j.Erreurs),
+                                  QVariant(j.Erreurs > 0 || j.Passée), QVariant(partie)})
+            b.bindValue(i++, v);
+        fait = fait && q.exec() && b.exec();
     }
     QSqlQuery p(base);
     p.prepare(QStringLiteral("UPDATE parties SET issue = ?, score = ?, duree = ?, fichier = ? WHERE id = ?"));
@@ -156,11 +169,16 @@ TBilan BilanErreurs(const QString &joueur, int parties)
     if (!HistoriqueOuvert())
         return bilan;
     QSqlQuery q(Base());
-    q.prepare(QStringLiteral("SELECT etape, canton, count(*), sum(erreurs), sum(erreurs > 0 OR passee) FROM questions"
-                             " WHERE partie IN (SELECT id FROM parties WHERE joueur = ? ORDER BY id DESC LIMIT ?)"
-                             " GROUP BY etape, canton"));
-    q.addBindValue(Texte(joueur));
-    q.addBindValue(parties > 0 ? parties : -1);
+    if (parties > 0) {
+        q.prepare(QStringLiteral("SELECT etape, canton, count(*), sum(erreurs), sum(erreurs > 0 OR passee) FROM questions"
+                                 " WHERE partie IN (SELECT id FROM parties WHERE joueur = ? ORDER BY id DESC LIMIT ?)"
+                                 " GROUP BY etape, canton"));
+        q.addBindValue(Texte(joueur));
+        q.addBindValue(parties);
+    } else {
+        q.prepare(QStringLiteral("SELECT etape, canton, questions, erreurs, manquees FROM bilans WHERE joueur = ?"));
+        q.addBindValue(Texte(joueur));
+    }
     if (!q.exec())
         return bilan;
     while (q.next()) {

@@ -24,7 +24,7 @@ struct TPartieJouée {
 };
 
 // The version of the tables this program writes; an older file is brought up to it.
-constexpr int VersionHistorique = 1;
+constexpr int VersionHistorique = 2;
 
 // What opening the history came to.
 enum class TOuvertureHistorique { Ouvert, MisDeCôté, Inaccessible };
@@ -51,6 +51,7 @@ struct TBilanCanton {
     int Erreurs = 0;
     int Manquées = 0;
 };
-// By step kind 1..4 and canton 1..26, over the player's last `parties` games (0: all).
+// By step kind 1..4 and canton 1..26, over the player's last `parties` games (0: all, kept
+// up to date as questions are written, so that years of games read at once).
 using TBilan = std::array<std::array<TBilanCanton, NombrePlaces + 1>, 5>;
 TBilan BilanErreurs(const QString &joueur, int parties);

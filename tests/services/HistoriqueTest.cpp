@@ -84,7 +84,7 @@ TEST(Historique, ADamagedFileIsSetAsideATooNewOrLockedOneIsLeftAlone)
     const QStringList avant = Lignes(chemin, "SELECT count(*) FROM parties");
     EXPECT_EQ(OuvreHistorique(chemin, &détail), TOuvertureHistorique::Inaccessible);
     EXPECT_TRUE(!HistoriqueOuvert() && Lignes(chemin, "SELECT count(*) FROM parties") == avant && !QFile::exists(détail));
-    Lignes(chemin, "PRAGMA user_version = 1");
+    Lignes(chemin, QStringLiteral("PRAGMA user_version = %1").arg(VersionHistorique));
 
     // Another program holds the file: after a wait, the game goes on without history.
     QSqlDatabase autre = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("autre"));
