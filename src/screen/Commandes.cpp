@@ -21,6 +21,7 @@
 #include "results/Resultats.h"
 #include "platform/Ecran.h"
 #include "screen/Patience.h"
+#include "screen/PointsFaibles.h"
 #include "services/Donnees.h"
 #include "results/PartieEnCours.h"
 #include "results/HistoriqueJoueur.h"
@@ -41,6 +42,7 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.ScoreDifficile, [] { AfficheMeilleursScores(TNiveau::Difficile); });
     relie(E.ScoreExpert, [] { AfficheMeilleursScores(TNiveau::Expert); });
     relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
+    relie(E.MenuPointsFaibles, [] { MontrePointsFaibles(); });
     relie(E.MenuAfficheParamètres, [] { RevoitParamétrage(); });
     relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });
     relie(E.MenuRecharger, [] { RechargeParamétrage(); });

@@ -258,6 +258,8 @@ void EcranPrincipal::ConstruitMenus()
     ScoreDifficile = MenuScores->addAction(QString());
     ScoreExpert = MenuScores->addAction(QString());
     MenuRazScores = MenuScores->addAction(QString());
+    MenuScores->addSeparator();
+    MenuPointsFaibles = MenuScores->addAction(QString());
     MenuRévision = barre->addAction(QString());
     MenuLangue = barre->addMenu(QStringLiteral("Langue / Sprache"));
     MenuFrançais = MenuLangue->addAction(QStringLiteral("Jouer en français"));

@@ -45,6 +45,7 @@ void EtiquetteEcran()
     E.ScoreMoyen->setText(Message(TMessage::NiveauMoyen));
     E.ScoreExpert->setText(Message(TMessage::NiveauExpert));
     E.ScoreDifficile->setText(Message(TMessage::NiveauDifficile));
+    E.MenuPointsFaibles->setText(Message(TMessage::PointsFaibles) + QStringLiteral("..."));
     E.MenuFichier->setTitle(Message(TMessage::MenuFichier));
     E.FichierNouveau->setText(Message(TMessage::NouvellePartie));
     E.FichierEnregistrer->setText(Message(TMessage::EnregistrerPartie));

@@ -169,6 +169,13 @@ enum class TMessage : short {
     RéglagesNonEnregistrables = 175, // Les paramètres du jeu ne peuvent pas être enregistrés dans le fichier\n%1...
     HistoriqueMisDeCôté = 176, // the history was damaged, set aside as %1
     HistoriqueInaccessible = 177, // the history can't be opened (%1)
+    PointsFaibles = 178, // Mes points faibles
+    DixDernières = 179, // Les 10 dernières parties
+    CinquanteDernières = 180, // Les 50 dernières parties
+    ToutesParties = 181, // Toutes les parties
+    BilanCanton = 182, // %1 : demandé %2 fois, manqué %3 fois, %4 erreurs
+    JamaisDemandé = 183, // %1 : jamais demandé
+    LégendeBilan = 184, // Part des questions manquées :
 };
 
 struct TLangues {

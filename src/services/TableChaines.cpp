@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "177"},
+    {1, "184"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -206,6 +206,13 @@ constexpr Ligne Table[] = {
     {1175, "Les paramètres du jeu ne peuvent pas être enregistrés dans le fichier\n%1\nVérifiez que ce dossier existe et qu'il est accessible en écriture ; le jeu ne peut pas démarrer sans lui."},
     {1176, "L'historique de vos parties était abîmé : il a été mis de côté sous le nom\n%1\net un nouvel historique commence."},
     {1177, "L'historique de vos parties ne peut pas être ouvert (%1) ; le jeu continue sans le tenir à jour."},
+    {1178, "Mes points faibles"},
+    {1179, "Les 10 dernières parties"},
+    {1180, "Les 50 dernières parties"},
+    {1181, "Toutes les parties"},
+    {1182, "%1 : demandé %2 fois, manqué %3 fois, %4 erreurs"},
+    {1183, "%1 : jamais demandé"},
+    {1184, "Part des questions manquées :"},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -386,6 +393,13 @@ constexpr Ligne Table[] = {
     {1425, "Die Einstellungen des Spiels können nicht in der Datei\n%1\ngespeichert werden. Prüfen Sie, ob dieser Ordner existiert und beschreibbar ist; ohne ihn kann das Spiel nicht starten."},
     {1426, "Der Verlauf Ihrer Spiele war beschädigt: er wurde unter dem Namen\n%1\nbeiseitegelegt, und ein neuer Verlauf beginnt."},
     {1427, "Der Verlauf Ihrer Spiele kann nicht geöffnet werden (%1); das Spiel läuft ohne ihn weiter."},
+    {1428, "Meine Schwachstellen"},
+    {1429, "Die letzten 10 Spiele"},
+    {1430, "Die letzten 50 Spiele"},
+    {1431, "Alle Spiele"},
+    {1432, "%1: %2-mal gefragt, %3-mal verfehlt, %4 Fehler"},
+    {1433, "%1: nie gefragt"},
+    {1434, "Anteil der verfehlten Fragen:"},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

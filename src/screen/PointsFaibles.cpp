@@ -1,0 +1,136 @@
+#include "screen/PointsFaibles.h"
+
+#include "engine/communs.h"
+#include "platform/Formes.h"
+#include "platform/Images.h"
+#include "results/PartieEnCours.h"
+#include "screen/Pompe.h"
+#include "services/Langues.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTabBar>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+namespace {
+// Five steps of the viridis scale, from never missed to always missed.
+const QColor Echelle[] = {QColor(0xfd, 0xe7, 0x25), QColor(0x5e, 0xc9, 0x62), QColor(0x21, 0x91, 0x8c),
+                          QColor(0x3b, 0x52, 0x8b), QColor(0x44, 0x01, 0x54)};
+const int PartiesChoisies[] = {10, 50, 0};
+} // namespace
+
+QColor TeinteManquées(const TBilanCanton &bilan)
+{
+    if (bilan.Questions <= 0)
+        return Qt::transparent;
+    const int classe = std::clamp(bilan.Manquées * 5 / bilan.Questions, 0, 4);
+    QColor c = Echelle[classe];
+    c.setAlpha(190);
+    return c;
+}
+
+QString TexteBilan(const QString &nom, const TBilanCanton &bilan)
+{
+    if (bilan.Questions <= 0)
+        return Message(TMessage::JamaisDemandé).arg(nom);
+    return Message(TMessage::BilanCanton).arg(nom).arg(bilan.Questions).arg(bilan.Manquées).arg(bilan.Erreurs);
+}
+
+// The map with each canton's tint laid over it along the raster's runs.
+class CartePointsFaibles : public QWidget {
+public:
+    explicit CartePointsFaibles(PointsFaibles *forme) : QWidget(forme), forme(forme)
+    {
+        setFixedSize(LargeurCarte, HauteurCarte);
+        setMouseTracking(true);
+        fond = ImageJeu(QStringLiteral("carte"), size());
+    }
+    i16 CantonEn(QPoint p) const { return ZoneEn(Jeu().Carte, 0, p.x(), p.y()); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter peintre(this);
+        peintre.drawPixmap(0, 0, fond);
+        const int étape = forme->Etapes->currentIndex() + 1;
+        const TCarteZones &carte = Jeu().Carte;
+        for (int y = 0; y < HauteurCarte; ++y) {
+            const int premier = std::max<int>(carte.DébutsLignes[0][y], 0);
+            const int dernier = std::min<int>(carte.DébutsLignes[0][y + 1], MaxSegments) - 1;
+            for (int s = premier; s <= dernier; ++s) {
+                const TPointSegment &r = carte.PointsSegments[0][s];
+                const int fin = s < dernier ? carte.PointsSegments[0][s + 1].X : LargeurCarte - 1;
+                if (r.Zone >= 1 && r.Zone <= NombrePlaces && fin > r.X)
+                    peintre.fillRect(r.X + 1, y, fin - r.X, 1, TeinteManquées(forme->Bilan[étape][r.Zone]));
+            }
+        }
+    }
+    void mouseMoveEvent(QMouseEvent *e) override
+    {
+        const i16 c = CantonEn(e->position().toPoint());
+        const int étape = forme->Etapes->currentIndex() + 1;
+        QToolTip::showText(e->globalPosition().toPoint(), c ? TexteBilan(Jeu().Cantons[c].Nom, forme->Bilan[étape][c]) : QString(), this);
+    }
+    void mousePressEvent(QMouseEvent *e) override
+    {
+        if (const i16 c = CantonEn(e->position().toPoint())) {
+            Jeu().CantonFiche = c;
+            MontrePompe();
+        }
+    }
+
+private:
+    PointsFaibles *forme;
+    QPixmap fond;
+};
+
+PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
+{
+    setObjectName(QStringLiteral("PointsFaibles"));
+    setWindowTitle(Message(TMessage::PointsFaibles));
+    Etapes = new QTabBar(this);
+    for (TMessage m : {TMessage::Cantons, TMessage::ChefsLieux, TMessage::Drapeaux, TMessage::Plaques})
+        Etapes->addTab(Message(m));
+    Parties = new QComboBox(this);
+    for (TMessage m : {TMessage::DixDernières, TMessage::CinquanteDernières, TMessage::ToutesParties})
+        Parties->addItem(Message(m));
+    Légende = new QLabel(Message(TMessage::LégendeBilan), this);
+    auto *légende = new QHBoxLayout;
+    légende->addWidget(Légende);
+    for (int k = 0; k < 5; ++k) {
+        auto *case_ = new QLabel(QStringLiteral("%1–%2 %").arg(20 * k).arg(20 * (k + 1)), this);
+        case_->setStyleSheet(QStringLiteral("background:%1; color:%2; padding:2px 6px")
+                                 .arg(Echelle[k].name(), k < 2 ? QStringLiteral("black") : QStringLiteral("white")));
+        légende->addWidget(case_);
+    }
+    légende->addStretch();
+    Carte = new CartePointsFaibles(this);
+    auto *haut = new QHBoxLayout;
+    haut->addWidget(Etapes);
+    haut->addStretch();
+    haut->addWidget(Parties);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->addLayout(haut);
+    colonne->addWidget(Carte);
+    colonne->addLayout(légende);
+    colonne->setSizeConstraint(QLayout::SetFixedSize);
+    connect(Etapes, &QTabBar::currentChanged, this, [this] { Carte->update(); });
+    connect(Parties, &QComboBox::currentIndexChanged, this, [this] { Actualise(); });
+    Actualise();
+}
+
+void PointsFaibles::Actualise()
+{
+    Bilan = BilanErreurs(Jeu().NomJoueur, PartiesChoisies[std::max(Parties->currentIndex(), 0)]);
+    Carte->update();
+}
+
+void MontrePointsFaibles()
+{
+    PointsFaibles forme;
+    ExécuteModal(forme);
+}
