@@ -48,6 +48,15 @@ public:
         setFixedSize(LargeurCarte, HauteurCarte);
         setMouseTracking(true);
         fond = ImageJeu(QStringLiteral("carte"), size());
+        // The cantons' borders, where the raster changes canton to the right or below.
+        bords = QImage(size(), QImage::Format_ARGB32_Premultiplied);
+        bords.fill(Qt::transparent);
+        for (int y = 0; y + 1 < HauteurCarte; ++y)
+            for (int x = 0; x + 1 < LargeurCarte; ++x) {
+                const i16 c = ZoneEn(Jeu().Carte, 0, x, y);
+                if (c != ZoneEn(Jeu().Carte, 0, x + 1, y) || c != ZoneEn(Jeu().Carte, 0, x, y + 1))
+                    bords.setPixelColor(x, y, QColor(70, 40, 40, 200));
+            }
     }
     i16 CantonEn(QPoint p) const { return ZoneEn(Jeu().Carte, 0, p.x(), p.y()); }
 
@@ -68,6 +77,7 @@ protected:
                     peintre.fillRect(r.X + 1, y, fin - r.X, 1, TeinteManquées(forme->Bilan[étape][r.Zone]));
             }
         }
+        peintre.drawImage(0, 0, bords);
     }
     void mouseMoveEvent(QMouseEvent *e) override
     {
@@ -86,6 +96,7 @@ protected:
 private:
     PointsFaibles *forme;
     QPixmap fond;
+    QImage bords;
 };
 
 PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
