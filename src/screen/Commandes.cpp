@@ -1,4 +1,5 @@
 #include "screen/Etiquettes.h"
+#include "files/FichierPartie.h"
 #include "screen/Commandes.h"
 
 #include "screen/VueJeu.h"
@@ -27,6 +28,7 @@
 #include "results/HistoriqueJoueur.h"
 
 #include <QAction>
+#include <QFile>
 
 void RelieCommandes(EcranPrincipal &E)
 {
@@ -42,7 +44,10 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.ScoreDifficile, [] { AfficheMeilleursScores(TNiveau::Difficile); });
     relie(E.ScoreExpert, [] { AfficheMeilleursScores(TNiveau::Expert); });
     relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
-    relie(E.MenuPointsFaibles, [] { MontrePointsFaibles(); });
+    relie(E.MenuPointsFaibles, [] {
+        if (const TRejeu r = MontrePointsFaibles(); !r.Cantons.empty())
+            RejoueErreurs(r.Cantons, r.Etape);
+    });
     relie(E.MenuAfficheParamètres, [] { RevoitParamétrage(); });
     relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });
     relie(E.MenuRecharger, [] { RechargeParamétrage(); });
@@ -134,4 +139,20 @@ void LanceNouvellePartie()
     AfficheRestants(Jeu().RestantsEtape);
     QuestionSuivante(Jeu());
     CommenceHistorique();
+}
+
+void RejoueErreurs(const std::vector<i16> &cantons, TEtape étape)
+{
+    // A game under way is left (or kept) before the set it is played with changes.
+    if (!ConfirmeArrêt())
+        return;
+    QFile::remove(ParamétrageNonSauvé);
+    Réglages().FichierLancement = ParamétrageNonSauvé;
+    for (i16 c = 1; c <= NombrePlaces; ++c)
+        Jeu().Cantons[c].Inhibé = std::find(cantons.begin(), cantons.end(), c) == cantons.end();
+    std::fill(std::begin(Jeu().OrdreEtapes), std::end(Jeu().OrdreEtapes), TEtape::Aucune);
+    Jeu().OrdreEtapes[1] = étape;
+    RazScores();
+    EcritFichierScores(false);
+    LanceNouvellePartie();
 }

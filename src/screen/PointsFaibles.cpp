@@ -4,6 +4,7 @@
 #include "platform/Formes.h"
 #include "platform/Images.h"
 #include "results/PartieEnCours.h"
+#include "platform/Boites.h"
 #include "screen/Pompe.h"
 #include "services/Langues.h"
 
@@ -11,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QPainter>
 #include <QTabBar>
 #include <QToolTip>
@@ -38,6 +40,17 @@ QString TexteBilan(const QString &nom, const TBilanCanton &bilan)
     if (bilan.Questions <= 0)
         return Message(TMessage::JamaisDemandé).arg(nom);
     return Message(TMessage::BilanCanton).arg(nom).arg(bilan.Questions).arg(bilan.Manquées).arg(bilan.Erreurs);
+}
+
+std::vector<i16> CantonsÀRejouer(const TBilan &bilan, int étape)
+{
+    std::vector<i16> cantons;
+    for (i16 c = 1; c <= NombrePlaces; ++c)
+        if (bilan[étape][c].Manquées > 0)
+            cantons.push_back(c);
+    const auto part = [&](i16 c) { return double(bilan[étape][c].Manquées) / bilan[étape][c].Questions; };
+    std::stable_sort(cantons.begin(), cantons.end(), [&](i16 a, i16 b) { return part(a) > part(b); });
+    return cantons;
 }
 
 // The map with each canton's tint laid over it along the raster's runs.
@@ -119,6 +132,15 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
         légende->addWidget(case_);
     }
     légende->addStretch();
+    Rejouer = new QPushButton(Message(TMessage::RejouerErreurs), this);
+    légende->addWidget(Rejouer);
+    connect(Rejouer, &QPushButton::clicked, this, [this] {
+        ARejouer = CantonsÀRejouer(Bilan, Etapes->currentIndex() + 1);
+        if (ARejouer.empty())
+            Boîte(Message(TMessage::RienÀRejouer), StyleInformation, Message(TMessage::RejouerErreurs));
+        else
+            accept();
+    });
     Carte = new CartePointsFaibles(this);
     auto *haut = new QHBoxLayout;
     haut->addWidget(Etapes);
@@ -140,8 +162,9 @@ void PointsFaibles::Actualise()
     Carte->update();
 }
 
-void MontrePointsFaibles()
+TRejeu MontrePointsFaibles()
 {
     PointsFaibles forme;
     ExécuteModal(forme);
+    return {forme.ARejouer, static_cast<TEtape>(forme.Etapes->currentIndex() + 1)};
 }

@@ -9,6 +9,7 @@
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 class QTabBar;
 
 // The tint of a canton's share of missed questions, on a scale that players who don't
@@ -16,6 +17,9 @@ class QTabBar;
 QColor TeinteManquées(const TBilanCanton &bilan);
 // What the pointer over a canton says.
 QString TexteBilan(const QString &nom, const TBilanCanton &bilan);
+// The cantons missed at least once in that kind of question, the most often missed first.
+std::vector<i16> CantonsÀRejouer(const TBilan &bilan, int étape);
+
 
 
 class PointsFaibles : public QDialog {
@@ -24,10 +28,18 @@ public:
     QTabBar *Etapes;
     QComboBox *Parties;
     QLabel *Légende;
+    QPushButton *Rejouer;
+    std::vector<i16> ARejouer; // set by Rejouer: the game to start once the form is closed
     QWidget *Carte; // the tinted map
     // Reads the figures for the kind and the range chosen, and repaints the map.
     void Actualise();
     TBilan Bilan{};
 };
 
-void MontrePointsFaibles();
+// What the player chose to replay from the form: cantons (none: nothing) and a kind of question.
+struct TRejeu {
+    std::vector<i16> Cantons;
+    TEtape Etape = TEtape::Aucune;
+};
+// Shows the form modally.
+TRejeu MontrePointsFaibles();

@@ -176,6 +176,8 @@ enum class TMessage : short {
     BilanCanton = 182, // %1 : demandé %2 fois, manqué %3 fois, %4 erreurs
     JamaisDemandé = 183, // %1 : jamais demandé
     LégendeBilan = 184, // Part des questions manquées :
+    RejouerErreurs = 185, // Rejouer mes erreurs
+    RienÀRejouer = 186, // nothing was missed in those games
 };
 
 struct TLangues {

@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "184"},
+    {1, "186"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -213,6 +213,8 @@ constexpr Ligne Table[] = {
     {1182, "%1 : demandé %2 fois, manqué %3 fois, %4 erreurs"},
     {1183, "%1 : jamais demandé"},
     {1184, "Part des questions manquées :"},
+    {1185, "Rejouer mes erreurs"},
+    {1186, "Vous n'avez manqué aucun canton dans ces parties : il n'y a rien à rejouer."},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -400,6 +402,8 @@ constexpr Ligne Table[] = {
     {1432, "%1: %2-mal gefragt, %3-mal verfehlt, %4 Fehler"},
     {1433, "%1: nie gefragt"},
     {1434, "Anteil der verfehlten Fragen:"},
+    {1435, "Meine Fehler üben"},
+    {1436, "Sie haben in diesen Spielen keinen Kanton verfehlt: es gibt nichts zu üben."},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

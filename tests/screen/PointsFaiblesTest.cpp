@@ -2,8 +2,10 @@
 // player misses drawn darker than one always found, for the kind of question shown.
 #include "Fixtures.h"
 
+#include "files/FichierPartie.h"
 #include "screen/PointsFaibles.h"
 
+#include <QPushButton>
 #include <QTabBar>
 
 TEST_F(JeuTest, WeakSpotsTintEachCantonByItsShareOfMissedQuestions)
@@ -23,4 +25,19 @@ TEST_F(JeuTest, WeakSpotsTintEachCantonByItsShareOfMissedQuestions)
     EXPECT_LT(teinte(1), teinte(2));
     f.Etapes->setCurrentIndex(1);
     EXPECT_EQ(teinte(1), teinte(3)) << "no chief town was asked";
+    f.Rejouer->click();
+    EXPECT_TRUE(f.ARejouer.empty() && boîtes.journal.size() == 1) << "nothing missed in the chief towns";
+    f.Etapes->setCurrentIndex(0), f.Rejouer->click();
+    EXPECT_EQ(f.ARejouer, std::vector<i16>{1});
+}
+
+TEST_F(JeuTest, ReplayingErrorsPlaysThoseCantonsAloneInOneKindUnderASetNeverSaved)
+{
+    TBilan bilan{};
+    bilan[3][7] = {4, 2, 1}, bilan[3][2] = {2, 5, 2}, bilan[3][9] = {3, 0, 0}, bilan[1][4] = {1, 1, 1};
+    EXPECT_EQ(CantonsÀRejouer(bilan, 3), (std::vector<i16>{2, 7})) << "the most often missed first";
+    InstalleDialogueNouvellePartie([] { Jeu().Niveau = TNiveau::Moyen, Jeu().Etape = Jeu().OrdreEtapes[1]; });
+    RejoueErreurs({2, 7}, TEtape::Drapeaux);
+    EXPECT_TRUE(Réglages().FichierLancement == ParamétrageNonSauvé && Jeu().Etape == TEtape::Drapeaux && Jeu().RestantsEtape == 2);
+    EXPECT_TRUE(Jeu().OrdreEtapes[2] == TEtape::Aucune && !Jeu().Cantons[7].Inhibé && Jeu().Cantons[8].Inhibé);
 }
