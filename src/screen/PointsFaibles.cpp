@@ -6,13 +6,16 @@
 #include "results/PartieEnCours.h"
 #include "platform/Boites.h"
 #include "screen/Pompe.h"
+#include "services/Chemins.h"
 #include "services/Langues.h"
+#include "services/Reglages.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QPainter>
 #include <QTabBar>
 #include <QToolTip>
@@ -134,6 +137,18 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
     légende->addStretch();
     Rejouer = new QPushButton(Message(TMessage::RejouerErreurs), this);
     légende->addWidget(Rejouer);
+    Exporter = new QPushButton(Message(TMessage::ExporterCSV), this);
+    légende->addWidget(Exporter);
+    connect(Exporter, &QPushButton::clicked, this, [] {
+        // Written whole beside the game's other files, as its statistics are.
+        const QString chemin = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("historique.csv"));
+        QSaveFile fichier(chemin);
+        const QByteArray octets = HistoriqueCSV(Jeu().NomJoueur);
+        if (fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size() && fichier.commit())
+            Boîte(Message(TMessage::HistoriqueExporté) + chemin, StyleInformation, Message(TMessage::ExporterCSV));
+        else
+            Boîte(Message(TMessage::FichierNonEcrit) + QLatin1Char(' ') + chemin, StyleExclamation, Message(TMessage::ExporterCSV));
+    });
     connect(Rejouer, &QPushButton::clicked, this, [this] {
         ARejouer = CantonsÀRejouer(Bilan, Etapes->currentIndex() + 1);
         if (ARejouer.empty())

@@ -28,7 +28,7 @@ public:
     QTabBar *Etapes;
     QComboBox *Parties;
     QLabel *Légende;
-    QPushButton *Rejouer;
+    QPushButton *Rejouer, *Exporter;
     std::vector<i16> ARejouer; // set by Rejouer: the game to start once the form is closed
     QWidget *Carte; // the tinted map
     // Reads the figures for the kind and the range chosen, and repaints the map.

@@ -190,6 +190,32 @@ TBilan BilanErreurs(const QString &joueur, int parties)
     return bilan;
 }
 
+QByteArray HistoriqueCSV(const QString &joueur)
+{
+    if (!HistoriqueOuvert())
+        return {};
+    QSqlQuery q(Base());
+    q.prepare(QStringLiteral("SELECT p.id, p.debut, p.niveau, p.apprentissage, p.parametrage, p.issue, p.score, p.duree,"
+                             " q.canton, q.etape, q.erreurs, q.passee, q.assistee, q.secondes"
+                             " FROM parties p JOIN questions q ON q.partie = p.id WHERE p.joueur = ? ORDER BY q.id"));
+    q.addBindValue(Texte(joueur));
+    QString texte = QStringLiteral("\uFEFFpartie;debut;niveau;apprentissage;parametrage;issue;score;duree;"
+                                   "canton;etape;erreurs;passee;aide;secondes\r\n");
+    if (q.exec())
+        while (q.next()) {
+            QStringList champs;
+            for (int i = 0; i < 14; ++i) {
+                QString v = q.value(i).toString();
+                // A field that holds the separator or a quote is quoted, its quotes doubled.
+                if (v.contains(QLatin1Char(';')) || v.contains(QLatin1Char('"')))
+                    v = QLatin1Char('"') + v.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QLatin1Char('"');
+                champs << v;
+            }
+            texte += champs.join(QLatin1Char(';')) + QStringLiteral("\r\n");
+        }
+    return texte.toUtf8();
+}
+
 qint64 PartieEnregistréeDans(const QString &fichierPartie)
 {
     if (!HistoriqueOuvert() || fichierPartie.isEmpty())

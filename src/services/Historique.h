@@ -55,3 +55,7 @@ struct TBilanCanton {
 // up to date as questions are written, so that years of games read at once).
 using TBilan = std::array<std::array<TBilanCanton, NombrePlaces + 1>, 5>;
 TBilan BilanErreurs(const QString &joueur, int parties);
+
+// The player's questions, one a line with their game's columns, as a spreadsheet opens it
+// (UTF-8 with its mark, ';' between fields, CR LF): for a teacher. Empty without history.
+QByteArray HistoriqueCSV(const QString &joueur);

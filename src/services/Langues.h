@@ -178,6 +178,8 @@ enum class TMessage : short {
     LégendeBilan = 184, // Part des questions manquées :
     RejouerErreurs = 185, // Rejouer mes erreurs
     RienÀRejouer = 186, // nothing was missed in those games
+    ExporterCSV = 187, // Exporter pour un tableur
+    HistoriqueExporté = 188, // the history was written for a spreadsheet in the file
 };
 
 struct TLangues {

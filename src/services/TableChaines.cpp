@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "186"},
+    {1, "188"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -215,6 +215,8 @@ constexpr Ligne Table[] = {
     {1184, "Part des questions manquées :"},
     {1185, "Rejouer mes erreurs"},
     {1186, "Vous n'avez manqué aucun canton dans ces parties : il n'y a rien à rejouer."},
+    {1187, "Exporter pour un tableur"},
+    {1188, "Votre historique a été enregistré pour un tableur dans le fichier "},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -404,6 +406,8 @@ constexpr Ligne Table[] = {
     {1434, "Anteil der verfehlten Fragen:"},
     {1435, "Meine Fehler üben"},
     {1436, "Sie haben in diesen Spielen keinen Kanton verfehlt: es gibt nichts zu üben."},
+    {1437, "Für eine Tabellenkalkulation exportieren"},
+    {1438, "Ihr Verlauf wurde für eine Tabellenkalkulation in der Datei gespeichert: "},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

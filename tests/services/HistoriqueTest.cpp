@@ -47,7 +47,7 @@ TEST(Historique, AGameIsRecordedStepByStepAndASavedGameIsTakenUpInItsRecord)
     EXPECT_FALSE(EnregistreHistorique(id + 1, {{1, TEtape::Cantons, 0, false, false, 1}}, TIssuePartie::Gagnée, 1, 1))
         << "no record of that game: nothing is written";
     // What each canton cost: over Zoé's games only, all of them or the last one.
-    const qint64 autre = CommencePartieHistorique({"Ana", TNiveau::Moyen, false, "KELMOR.SCS", {}});
+    const qint64 autre = CommencePartieHistorique({"Ana", TNiveau::Moyen, false, "mon;jeu \"A\".SCS", {}});
     const qint64 suivante = CommencePartieHistorique({"Zoé", TNiveau::Moyen, false, "KELMOR.SCS", {}});
     EnregistreHistorique(autre, {{4, TEtape::Cantons, 5, false, false, 1}}, TIssuePartie::Perdue, 1, 1);
     EnregistreHistorique(suivante, {{4, TEtape::Cantons, 0, false, false, 2}}, TIssuePartie::Gagnée, 1, 1);
@@ -55,6 +55,11 @@ TEST(Historique, AGameIsRecordedStepByStepAndASavedGameIsTakenUpInItsRecord)
     const TBilan tout = BilanErreurs("Zoé", 0), dernière = BilanErreurs("Zoé", 1);
     EXPECT_TRUE(bilan(tout[1][4]) == (std::array{2, 2, 1}) && bilan(tout[1][9]) == (std::array{1, 9, 1}) &&
                 bilan(tout[2][3]) == (std::array{1, 0, 1}) && bilan(dernière[1][4]) == (std::array{1, 0, 0}) && dernière[1][9].Questions == 0);
+    // For a spreadsheet: a line per question, a field with the separator or a quote quoted.
+    const QStringList zoé = QString::fromUtf8(HistoriqueCSV("Zoé")).split("\r\n"), ana = QString::fromUtf8(HistoriqueCSV("Ana")).split("\r\n");
+    EXPECT_TRUE(zoé.size() == 6 && HistoriqueCSV("Zoé").startsWith("\xEF\xBB\xBFpartie;debut;")) << zoé.join("/").toStdString();
+    EXPECT_EQ(zoé.value(1), "1;2026-11-23T10:00:00;2;0;KELMOR.SCS;4;800000;42;4;1;2;0;0;7");
+    EXPECT_EQ(ana.value(1), "2;;2;0;\"mon;jeu \"\"A\"\".SCS\";2;1;1;4;1;5;0;0;1");
     FermeHistorique();
     EXPECT_EQ(Lignes(chemin, "SELECT joueur, niveau, parametrage, debut, duree, score, issue, fichier FROM parties WHERE id = 1"),
               QStringList({"Zoé 2 KELMOR.SCS 2026-11-23T10:00:00 42 800000 4 /parties/essai.CAS"}));
