@@ -7,6 +7,10 @@
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTemporaryDir>
+#include <QThread>
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -105,6 +109,38 @@ TEST(Historique, ADamagedFileIsSetAsideATooNewOrLockedOneIsLeftAlone)
     QSqlDatabase::removeDatabase(QStringLiteral("autre"));
     EXPECT_EQ(OuvreHistorique(chemin), TOuvertureHistorique::Ouvert);
     FermeHistorique();
+}
+
+} // namespace
+
+namespace {
+
+// A writer killed at any moment leaves whole steps only: each transaction holds a step's 26 questions.
+TEST(Historique, AWriterKilledAtAnyMomentLeavesNoHalfWrittenStep)
+{
+    QTemporaryDir dossier;
+    const QString chemin = dossier.filePath(QStringLiteral("historique.sqlite"));
+    std::vector<TQuestionJouée> étape;
+    for (i16 c = 1; c <= NombrePlaces; ++c)
+        étape.push_back({c, TEtape::Cantons, 1, false, false, 3});
+    for (int délai : {250, 40, 410}) { // the first long enough for a step to be written
+        FermeHistorique();
+        const pid_t écrivain = fork();
+        ASSERT_GE(écrivain, 0);
+        if (écrivain == 0) { // the child writes game after game until it is killed
+            OuvreHistorique(chemin);
+            for (;;)
+                EnregistreHistorique(CommencePartieHistorique({"Zoé", TNiveau::Moyen, false, "KELMOR.SCS", {}}), étape,
+                                     TIssuePartie::EnCours, 1, 1);
+        }
+        QThread::msleep(délai);
+        kill(écrivain, SIGKILL);
+        waitpid(écrivain, nullptr, 0);
+        ASSERT_EQ(OuvreHistorique(chemin), TOuvertureHistorique::Ouvert) << délai;
+        FermeHistorique();
+        EXPECT_EQ(Lignes(chemin, "PRAGMA integrity_check"), QStringList({"ok"}));
+        EXPECT_EQ(Lignes(chemin, "SELECT DISTINCT count(*) FROM questions GROUP BY partie"), QStringList({"26"})) << délai << " ms";
+    }
 }
 
 } // namespace
