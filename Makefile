@@ -27,7 +27,7 @@ bench: build
 	./bench/demarrage.sh $(BUILD)
 
 # libFuzzer on each file reader: the raster, score files, saved games, the settings store,
-# the information cards, the site's page of games. FUZZ_TEMPS seconds each; what each
+# the information cards, the site's page of games, the player's history. FUZZ_TEMPS seconds each; what each
 # finds stays in build-fuzz/corpus for the next run.
 FUZZ_TEMPS ?= 50
 , := ,
@@ -37,7 +37,7 @@ FUZZ = cd build-fuzz && mkdir -p corpus/$(1) && $(3) ./$(1) $(CURDIR)/build-fuzz
 fuzz:
 	./scripts/install-deps clang libclang-rt-14-dev
 	CC=clang CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELMOR_FUZZ=ON
-	cmake --build build-fuzz -j $(JOBS) --target FuzzCarteZones FuzzScores FuzzPartie FuzzRegistre FuzzFiches FuzzPage
+	cmake --build build-fuzz -j $(JOBS) --target FuzzCarteZones FuzzScores FuzzPartie FuzzRegistre FuzzFiches FuzzPage FuzzHistorique
 	$(call FUZZ,FuzzCarteZones,-max_len=20000 -seed_inputs=$(CURDIR)/data/KELMOR.pts)
 	$(call FUZZ,FuzzScores,-max_len=12000)
 	# The main window lives to the end of that run: Qt's own allocations at exit aren't leaks of ours.
@@ -45,6 +45,7 @@ fuzz:
 	$(call FUZZ,FuzzRegistre,-max_len=4000 -dict=$(CURDIR)/tests/fuzz/registre.dict)
 	$(call FUZZ,FuzzFiches,-max_len=17550 -seed_inputs=$(CURDIR)/data/KELMOR.INF$(,)$(CURDIR)/data/DRAVELN.INF)
 	$(call FUZZ,FuzzPage,-max_len=40000 -dict=$(CURDIR)/tests/fuzz/page.dict)
+	$(call FUZZ,FuzzHistorique,-max_len=40000 -dict=$(CURDIR)/tests/fuzz/historique.dict)
 
 clean:
 	rm -rf $(BUILD)
