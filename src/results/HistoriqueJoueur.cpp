@@ -9,8 +9,13 @@
 
 void OuvreHistoriqueDuJoueur()
 {
+    static QString essayé;
+    const QString chemin = ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("historique.sqlite"));
+    if (chemin == essayé)
+        return;
+    essayé = chemin;
     QString détail;
-    switch (OuvreHistorique(ComposeChemin(Réglages().RépertoireApplication, QStringLiteral("historique.sqlite")), &détail)) {
+    switch (OuvreHistorique(chemin, &détail)) {
     case TOuvertureHistorique::Ouvert: break;
     case TOuvertureHistorique::MisDeCôté:
         Boîte(Message(TMessage::HistoriqueMisDeCôté).arg(détail), StyleInformation, Message(TMessage::TitreErreur));
@@ -23,6 +28,7 @@ void OuvreHistoriqueDuJoueur()
 
 void CommenceHistorique(const QString &fichierRepris)
 {
+    OuvreHistoriqueDuJoueur();
     Partie &P = Jeu();
     P.QuestionsJouées.clear();
     P.NuméroHistorique = PartieEnregistréeDans(fichierRepris);

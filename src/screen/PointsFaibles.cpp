@@ -3,6 +3,7 @@
 #include "engine/communs.h"
 #include "platform/Formes.h"
 #include "platform/Images.h"
+#include "results/HistoriqueJoueur.h"
 #include "results/PartieEnCours.h"
 #include "platform/Boites.h"
 #include "screen/Pompe.h"
@@ -179,6 +180,7 @@ void PointsFaibles::Actualise()
 
 TRejeu MontrePointsFaibles()
 {
+    OuvreHistoriqueDuJoueur();
     PointsFaibles forme;
     ExécuteModal(forme);
     return {forme.ARejouer, static_cast<TEtape>(forme.Etapes->currentIndex() + 1)};

@@ -146,7 +146,6 @@ bool Main()
     Réglages().SonActif = true;
     if (!ChargeCarteZones(Jeu().Carte))
         return false;
-    OuvreHistoriqueDuJoueur();
     AffichePatience();
     PointeurEcran(PointeurSablier);
     auto *forme = new EcranPrincipal();

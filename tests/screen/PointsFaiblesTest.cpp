@@ -3,6 +3,7 @@
 #include "Fixtures.h"
 
 #include "files/FichierPartie.h"
+#include "results/HistoriqueJoueur.h"
 #include "screen/PointsFaibles.h"
 
 #include <QPushButton>
@@ -16,7 +17,7 @@ TEST_F(JeuTest, WeakSpotsTintEachCantonByItsShareOfMissedQuestions)
                   e.classe < 0 ? 0u : TeinteManquées({5, 0, e.classe}).rgb()) << e.b.Questions << " " << e.b.Manquées;
     EXPECT_EQ(TexteBilan("Uri", {4, 9, 2}), "Uri : demandé 4 fois, manqué 2 fois, 9 erreurs");
     // Canton 1 missed in the cantons' step, canton 2 always found; the chief towns' tab shows neither.
-    Jeu().NomJoueur = "Zoé";
+    Jeu().NomJoueur = "Zoé", OuvreHistoriqueDuJoueur();
     const qint64 partie = CommencePartieHistorique({"Zoé", TNiveau::Moyen, false, "KELMOR.SCS", {}});
     ASSERT_TRUE(EnregistreHistorique(partie, {{1, TEtape::Cantons, 3, false, false, 9}, {2, TEtape::Cantons, 0, false, false, 2}},
                                      TIssuePartie::Gagnée, 1, 1));
