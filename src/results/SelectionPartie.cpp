@@ -32,13 +32,6 @@
 namespace {
 const QString Parent = QStringLiteral("..");
 
-QString SansSéparateurFinal(QString d)
-{
-    d = d.trimmed();
-    while (d.size() > 1 && d.endsWith(SéparateurChemin))
-        d.chop(1);
-    return d;
-}
 } // namespace
 
 SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
@@ -85,7 +78,7 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
     for (const QStorageInfo &v : QStorageInfo::mountedVolumes())
         if (v.isValid() && v.isReady())
             Lecteur->addItem(v.rootPath());
-    chemin = SansSéparateurFinal(QDir::currentPath());
+    chemin = SansSéparateurFinal(QDir::currentPath().trimmed());
     RemplitListes();
 
     connect(Lecteur, &QComboBox::activated, this, [this](int i) { ChangeRépertoire(Lecteur->itemText(i)); });
@@ -123,7 +116,7 @@ void SélectionPartie::keyPressEvent(QKeyEvent *e)
 
 void SélectionPartie::ChangeRépertoire(const QString &dossier)
 {
-    chemin = SansSéparateurFinal(QDir::cleanPath(dossier));
+    chemin = SansSéparateurFinal(QDir::cleanPath(dossier).trimmed());
     RemplitListes();
 }
 
@@ -154,8 +147,8 @@ void SélectionPartie::Fichier_DblClick()
 
 void SélectionPartie::ProposeRépertoire()
 {
-    const QString a = SansSéparateurFinal(chemin);
-    const QString b = SansSéparateurFinal(Réglages().RépertoireSauvegarde);
+    const QString a = SansSéparateurFinal(chemin.trimmed());
+    const QString b = SansSéparateurFinal(Réglages().RépertoireSauvegarde.trimmed());
     if (a.compare(b, Qt::CaseInsensitive) == 0)
         return;
     if (Boîte(Message(TMessage::RépertoireParDéfaut) + chemin, StyleQuestion, Message(TMessage::TitreChoixRépertoire)) != RéponseOui)

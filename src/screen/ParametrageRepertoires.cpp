@@ -24,13 +24,6 @@ namespace {
 const QString Parent = QStringLiteral("..");
 const QString FichierScoresParDéfaut = QStringLiteral("KELMOR.SCS");
 
-QString SansSéparateurFinal(QString d)
-{
-    while (d.size() > 1 && d.endsWith(SéparateurChemin))
-        d.chop(1);
-    return d;
-}
-
 QString AvecSéparateurFinal(const QString &d) { return d.endsWith(SéparateurChemin) ? d : d + SéparateurChemin; }
 
 // A folder the lists can show: it exists and can be read and gone through.

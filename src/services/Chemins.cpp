@@ -9,6 +9,13 @@ QString ComposeChemin(const QString &dossier, const QString &nom)
     return dossier + SéparateurChemin + nom;
 }
 
+QString SansSéparateurFinal(QString d)
+{
+    while (d.size() > 1 && d.endsWith(SéparateurChemin))
+        d.chop(1);
+    return d;
+}
+
 bool RépertoireAccessible(QString &dossier)
 {
     bool erreur = false;

@@ -8,6 +8,8 @@ constexpr QChar SéparateurChemin = QLatin1Char('/');
 
 // dossier and nom joined by exactly one separator.
 QString ComposeChemin(const QString &dossier, const QString &nom);
+// The folder without its trailing separators (the root keeps its own).
+QString SansSéparateurFinal(QString dossier);
 
 // True when a file can really be made and deleted in the folder. Adds the
 // missing trailing separator to the caller's string, whatever the result.

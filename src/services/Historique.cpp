@@ -42,8 +42,8 @@ bool Abîmé(const QSqlError &e)
 // Opens the file and brings its tables up to date; the error that stopped it, if any.
 QSqlError Prépare(const QString &chemin)
 {
-    QSqlDatabase base = QSqlDatabase::contains(Connexion) ? QSqlDatabase::database(Connexion, false)
-                                                           : QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), Connexion);
+    // Every opening begins from a closed history (OuvreHistorique closes it first).
+    QSqlDatabase base = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), Connexion);
     base.setDatabaseName(chemin);
     base.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000"));
     if (!base.open())

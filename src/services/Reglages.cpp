@@ -19,14 +19,6 @@ QString dossierInstallé, donnéesInstallées;
 std::function<QDateTime()> maintenantScripté;
 } // namespace
 
-namespace {
-QString SansSéparateurFinal(QString d)
-{
-    while (d.size() > 1 && d.endsWith(SéparateurChemin))
-        d.chop(1);
-    return d;
-}
-} // namespace
 
 // share/kelmor as the install lays it out, relative to bin/.
 #ifndef KELMOR_DONNEES_RELATIF
