@@ -40,6 +40,11 @@ void ChargeMessages()
     for (int i = 0; i <= Langues().NombreMessages; ++i)
         Langues().Messages[i] = ChaîneTable(1000 + i + 250 * (Langues().Langue - 1));
     TraductionsQt();
+    // Open windows that keep their own words (the weak-spot map, the progress chart, what a
+    // screen reader is told) hear of the change as Qt's own widgets do, even when Qt's
+    // translations are missing.
+    if (QCoreApplication::instance())
+        QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::LanguageChange));
 }
 
 void ChargeChaînes()
