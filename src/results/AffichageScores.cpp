@@ -132,7 +132,11 @@ AffichageScores::AffichageScores() : QDialog(FenêtrePrincipale(), CadreDialogue
 
 void AffichageScores::Command1_Click() { accept(); }
 
-void AffichageScores::BoutonStatistiques_Click() { MontreStats(); }
+void AffichageScores::BoutonStatistiques_Click()
+{
+    if (MontreStats())
+        accept();
+}
 
 void AffichageScores::keyPressEvent(QKeyEvent *e)
 {

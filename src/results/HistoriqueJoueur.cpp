@@ -7,6 +7,32 @@
 #include "services/Langues.h"
 #include "services/Reglages.h"
 
+#include <QApplication>
+#include <QTimer>
+
+namespace {
+std::function<void(const TRejeu &)> commandeRejeu;
+
+void LanceQuandLibre(const TRejeu &rejeu)
+{
+    // A form still open (the best scores closing behind the statistics) is waited for.
+    QTimer::singleShot(QApplication::activeModalWidget() ? 50 : 0, qApp, [rejeu] {
+        if (QApplication::activeModalWidget())
+            LanceQuandLibre(rejeu);
+        else if (commandeRejeu)
+            commandeRejeu(rejeu);
+    });
+}
+} // namespace
+
+void InstalleRejeu(std::function<void(const TRejeu &)> commande) { commandeRejeu = std::move(commande); }
+
+void DemandeRejeu(TRejeu rejeu)
+{
+    if (!rejeu.Cantons.empty() && !rejeu.Etapes.empty())
+        LanceQuandLibre(rejeu);
+}
+
 void OuvreHistoriqueDuJoueur()
 {
     static QString essayé;

@@ -11,7 +11,10 @@
 #include "services/Parametres.h"
 #include "results/PartieEnCours.h"
 
+#include "results/HistoriqueJoueur.h"
+
 #include <QApplication>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QWheelEvent>
 
@@ -154,6 +157,16 @@ Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     Command1 = BoutonImage(this, QStringLiteral("StatsCommand1"), QRect(320, 432, 41, 41));
     Command1->setToolTip(Message(TMessage::Quitter));
 
+    // Beside the form's own buttons: the same game again, on what it missed alone.
+    BoutonRejouer = new QPushButton(Message(TMessage::RejouerErreurs), this);
+    BoutonRejouer->setObjectName(QStringLiteral("StatsRejouer"));
+    BoutonRejouer->setGeometry(384, 440, 128, 26);
+    BoutonRejouer->setEnabled(!ErreursDeLaPartie(Jeu()).Cantons.empty());
+    connect(BoutonRejouer, &QPushButton::clicked, this, [this] {
+        DemandeRejeu(ErreursDeLaPartie(Jeu()));
+        done(2);
+    });
+
     connect(BarreVerticale, &QScrollBar::valueChanged, this, [this](int v) { RemplitStats(static_cast<i16>(v)); });
     connect(BoutonSauvegarde, &QToolButton::clicked, this, [this] { BoutonSauvegarde_Click(); });
     connect(Command1, &QToolButton::clicked, this, [this] { Command1_Click(); });
@@ -230,8 +243,30 @@ void Stats::wheelEvent(QWheelEvent *e)
         QDialog::wheelEvent(e);
 }
 
-void MontreStats()
+TRejeu ErreursDeLaPartie(const Partie &P)
+{
+    TRejeu rejeu;
+    for (int i = 1; i <= 4; ++i) {
+        const TEtape étape = P.OrdreEtapes[i];
+        const int k = Numéro(étape);
+        if (k < 1 || k > 4 || std::find(rejeu.Etapes.begin(), rejeu.Etapes.end(), étape) != rejeu.Etapes.end())
+            continue;
+        bool manquée = false;
+        for (i16 c = 1; c <= NombrePlaces; ++c)
+            if (P.Cantons[c].Pertes[k] > 0) {
+                manquée = true;
+                if (std::find(rejeu.Cantons.begin(), rejeu.Cantons.end(), c) == rejeu.Cantons.end())
+                    rejeu.Cantons.push_back(c);
+            }
+        if (manquée)
+            rejeu.Etapes.push_back(étape);
+    }
+    std::sort(rejeu.Cantons.begin(), rejeu.Cantons.end());
+    return rejeu;
+}
+
+bool MontreStats()
 {
     Stats forme;
-    ExécuteModal(forme);
+    return ExécuteModal(forme) == 2;
 }

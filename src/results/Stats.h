@@ -3,11 +3,14 @@
 #include "engine/communs.h"
 #include "platform/Controles.h"
 #include "results/Scores.h"
+#include "services/Historique.h"
 
 #include <QByteArray>
 #include <QColor>
 #include <QDialog>
 #include <array>
+
+class QPushButton;
 
 
 class Stats : public QDialog {
@@ -25,6 +28,7 @@ public:
     BarreDéfilement *BarreVerticale;
     BoutonGraphique *BoutonSauvegarde;
     BoutonGraphique *Command1;
+    QPushButton *BoutonRejouer; // replays this game's errors
 
     // Fills the rows from rank Décalage + 1 on.
     void RemplitStats(i16 Décalage);
@@ -50,5 +54,10 @@ constexpr QColor CouleurAbsent(255, 0, 0);
 // The bytes of KELM_STA.TXT for the game in memory, in the order of TriPertes.
 QByteArray ContenuStats();
 
-// Shows the form Stats modally.
-void MontreStats();
+// What the game in memory missed: the cantons that cost points in a kind of question, and
+// those kinds in the order the game played them.
+TRejeu ErreursDeLaPartie(const Partie &P);
+
+// Shows the form Stats modally; true when the player asked to replay the errors (the forms
+// behind then close too, and the replay starts).
+bool MontreStats();

@@ -44,10 +44,8 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.ScoreDifficile, [] { AfficheMeilleursScores(TNiveau::Difficile); });
     relie(E.ScoreExpert, [] { AfficheMeilleursScores(TNiveau::Expert); });
     relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
-    relie(E.MenuPointsFaibles, [] {
-        if (const TRejeu r = MontrePointsFaibles(); !r.Cantons.empty())
-            RejoueErreurs(r.Cantons, r.Etape);
-    });
+    relie(E.MenuPointsFaibles, [] { MontrePointsFaibles(); });
+    InstalleRejeu(RejoueErreurs);
     relie(E.MenuAfficheParamètres, [] { RevoitParamétrage(); });
     relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });
     relie(E.MenuRecharger, [] { RechargeParamétrage(); });
@@ -141,7 +139,7 @@ void LanceNouvellePartie()
     CommenceHistorique();
 }
 
-void RejoueErreurs(const std::vector<i16> &cantons, TEtape étape)
+void RejoueErreurs(const TRejeu &rejeu)
 {
     // A game under way is left (or kept) before the set it is played with changes.
     if (!ConfirmeArrêt())
@@ -149,9 +147,10 @@ void RejoueErreurs(const std::vector<i16> &cantons, TEtape étape)
     QFile::remove(ParamétrageNonSauvé);
     Réglages().FichierLancement = ParamétrageNonSauvé;
     for (i16 c = 1; c <= NombrePlaces; ++c)
-        Jeu().Cantons[c].Inhibé = std::find(cantons.begin(), cantons.end(), c) == cantons.end();
+        Jeu().Cantons[c].Inhibé = std::find(rejeu.Cantons.begin(), rejeu.Cantons.end(), c) == rejeu.Cantons.end();
     std::fill(std::begin(Jeu().OrdreEtapes), std::end(Jeu().OrdreEtapes), TEtape::Aucune);
-    Jeu().OrdreEtapes[1] = étape;
+    for (std::size_t i = 0; i < rejeu.Etapes.size() && i < 4; ++i)
+        Jeu().OrdreEtapes[i + 1] = rejeu.Etapes[i];
     RazScores();
     EcritFichierScores(false);
     LanceNouvellePartie();

@@ -1,6 +1,6 @@
 #pragma once
 // The commands of the menus and the three small ones that belong nowhere else.
-#include "engine/Partie.h"
+#include "services/Historique.h"
 
 #include <vector>
 
@@ -13,6 +13,6 @@ void AfficheAPropos();
 void Menuson_Click();
 
 void LanceNouvellePartie();
-// A game of that kind of question on those cantons alone, as a parameter set never saved,
+// A game of those kinds of question on those cantons alone, as a parameter set never saved,
 // so that its scores stay apart from the full game's.
-void RejoueErreurs(const std::vector<i16> &cantons, TEtape étape);
+void RejoueErreurs(const TRejeu &rejeu);

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QPainter>
+#include <QPointer>
 #include <QTabBar>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -121,24 +122,27 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
     setObjectName(QStringLiteral("PointsFaibles"));
     setWindowTitle(Message(TMessage::PointsFaibles));
     Etapes = new QTabBar(this);
-    for (TMessage m : {TMessage::Cantons, TMessage::ChefsLieux, TMessage::Drapeaux, TMessage::Plaques})
-        Etapes->addTab(Message(m));
+    Etapes->setObjectName(QStringLiteral("PointsFaiblesEtapes"));
+    for (int k = 0; k < 4; ++k)
+        Etapes->addTab(QString());
     Parties = new QComboBox(this);
-    for (TMessage m : {TMessage::DixDernières, TMessage::CinquanteDernières, TMessage::ToutesParties})
-        Parties->addItem(Message(m));
-    Légende = new QLabel(Message(TMessage::LégendeBilan), this);
+    Parties->setObjectName(QStringLiteral("PointsFaiblesParties"));
+    Parties->addItems({QString(), QString(), QString()});
+    Légende = new QLabel(this);
     auto *légende = new QHBoxLayout;
     légende->addWidget(Légende);
     for (int k = 0; k < 5; ++k) {
-        auto *case_ = new QLabel(QStringLiteral("%1–%2 %").arg(20 * k).arg(20 * (k + 1)), this);
+        auto *case_ = Cases.emplace_back(new QLabel(QStringLiteral("%1–%2 %").arg(20 * k).arg(20 * (k + 1)), this));
         case_->setStyleSheet(QStringLiteral("background:%1; color:%2; padding:2px 6px")
                                  .arg(Echelle[k].name(), k < 2 ? QStringLiteral("black") : QStringLiteral("white")));
         légende->addWidget(case_);
     }
     légende->addStretch();
-    Rejouer = new QPushButton(Message(TMessage::RejouerErreurs), this);
+    Rejouer = new QPushButton(this);
+    Rejouer->setObjectName(QStringLiteral("PointsFaiblesRejouer"));
     légende->addWidget(Rejouer);
-    Exporter = new QPushButton(Message(TMessage::ExporterCSV), this);
+    Exporter = new QPushButton(this);
+    Exporter->setObjectName(QStringLiteral("PointsFaiblesExporter"));
     légende->addWidget(Exporter);
     connect(Exporter, &QPushButton::clicked, this, [] {
         // Written whole beside the game's other files, as its statistics are.
@@ -151,13 +155,16 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
             Boîte(Message(TMessage::FichierNonEcrit) + QLatin1Char(' ') + chemin, StyleExclamation, Message(TMessage::ExporterCSV));
     });
     connect(Rejouer, &QPushButton::clicked, this, [this] {
-        ARejouer = CantonsÀRejouer(Bilan, Etapes->currentIndex() + 1);
-        if (ARejouer.empty())
+        const std::vector<i16> cantons = CantonsÀRejouer(Bilan, Etapes->currentIndex() + 1);
+        if (cantons.empty()) {
             Boîte(Message(TMessage::RienÀRejouer), StyleInformation, Message(TMessage::RejouerErreurs));
-        else
-            accept();
+            return;
+        }
+        DemandeRejeu({cantons, {static_cast<TEtape>(Etapes->currentIndex() + 1)}});
+        close();
     });
     Carte = new CartePointsFaibles(this);
+    Carte->setObjectName(QStringLiteral("PointsFaiblesCarte"));
     auto *haut = new QHBoxLayout;
     haut->addWidget(Etapes);
     haut->addStretch();
@@ -169,7 +176,31 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
     colonne->setSizeConstraint(QLayout::SetFixedSize);
     connect(Etapes, &QTabBar::currentChanged, this, [this] { Carte->update(); });
     connect(Parties, &QComboBox::currentIndexChanged, this, [this] { Actualise(); });
+    Libellés();
     Actualise();
+}
+
+void PointsFaibles::Libellés()
+{
+    setWindowTitle(Message(TMessage::PointsFaibles));
+    const TMessage étapes[] = {TMessage::Cantons, TMessage::ChefsLieux, TMessage::Drapeaux, TMessage::Plaques};
+    for (int k = 0; k < 4; ++k)
+        Etapes->setTabText(k, Message(étapes[k]));
+    const TMessage parties[] = {TMessage::DixDernières, TMessage::CinquanteDernières, TMessage::ToutesParties};
+    for (int i = 0; i < 3; ++i)
+        Parties->setItemText(i, Message(parties[i]));
+    Légende->setText(Message(TMessage::LégendeBilan));
+    Rejouer->setText(Message(TMessage::RejouerErreurs));
+    Exporter->setText(Message(TMessage::ExporterCSV));
+}
+
+void PointsFaibles::changeEvent(QEvent *e)
+{
+    if (e->type() == QEvent::LanguageChange)
+        Libellés();
+    else if (e->type() == QEvent::ActivationChange && isActiveWindow())
+        Actualise();
+    QDialog::changeEvent(e);
 }
 
 void PointsFaibles::Actualise()
@@ -178,10 +209,16 @@ void PointsFaibles::Actualise()
     Carte->update();
 }
 
-TRejeu MontrePointsFaibles()
+void MontrePointsFaibles()
 {
     OuvreHistoriqueDuJoueur();
-    PointsFaibles forme;
-    ExécuteModal(forme);
-    return {forme.ARejouer, static_cast<TEtape>(forme.Etapes->currentIndex() + 1)};
+    static QPointer<PointsFaibles> forme;
+    if (!forme) {
+        forme = new PointsFaibles;
+        forme->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    FormesMontrées().push_back(forme->objectName());
+    forme->show();
+    forme->raise();
+    forme->activateWindow();
 }

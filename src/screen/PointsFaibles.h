@@ -29,17 +29,18 @@ public:
     QComboBox *Parties;
     QLabel *Légende;
     QPushButton *Rejouer, *Exporter;
-    std::vector<i16> ARejouer; // set by Rejouer: the game to start once the form is closed
+    std::vector<QLabel *> Cases; // the legend's five steps
     QWidget *Carte; // the tinted map
     // Reads the figures for the kind and the range chosen, and repaints the map.
     void Actualise();
+    // The form's words in the language in use.
+    void Libellés();
     TBilan Bilan{};
+
+protected:
+    // Open beside the game: the figures follow the games played meanwhile, the words the language.
+    void changeEvent(QEvent *e) override;
 };
 
-// What the player chose to replay from the form: cantons (none: nothing) and a kind of question.
-struct TRejeu {
-    std::vector<i16> Cantons;
-    TEtape Etape = TEtape::Aucune;
-};
-// Shows the form modally.
-TRejeu MontrePointsFaibles();
+// Shows the form beside the main window (brought to the front when it is already open).
+void MontrePointsFaibles();

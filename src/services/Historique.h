@@ -56,6 +56,13 @@ struct TBilanCanton {
 using TBilan = std::array<std::array<TBilanCanton, NombrePlaces + 1>, 5>;
 TBilan BilanErreurs(const QString &joueur, int parties);
 
+// A game on some cantons alone, in some kinds of question in that order: what a player
+// replays of their errors.
+struct TRejeu {
+    std::vector<i16> Cantons;
+    std::vector<TEtape> Etapes;
+};
+
 // The player's questions, one a line with their game's columns, as a spreadsheet opens it
 // (UTF-8 with its mark, ';' between fields, CR LF): for a teacher. Empty without history.
 QByteArray HistoriqueCSV(const QString &joueur);

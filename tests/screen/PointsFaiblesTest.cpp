@@ -4,6 +4,7 @@
 
 #include "files/FichierPartie.h"
 #include "results/HistoriqueJoueur.h"
+#include "results/Stats.h"
 #include "screen/PointsFaibles.h"
 
 #include <QPushButton>
@@ -27,18 +28,46 @@ TEST_F(JeuTest, WeakSpotsTintEachCantonByItsShareOfMissedQuestions)
     f.Etapes->setCurrentIndex(1);
     EXPECT_EQ(teinte(1), teinte(3)) << "no chief town was asked";
     f.Rejouer->click();
-    EXPECT_TRUE(f.ARejouer.empty() && boîtes.journal.size() == 1) << "nothing missed in the chief towns";
+    EXPECT_EQ(boîtes.journal.size(), 1u) << "nothing missed in the chief towns";
+    // The replay starts once the form is gone, from the main window.
+    InstalleDialogueNouvellePartie([] { Jeu().Niveau = TNiveau::Moyen, Jeu().Etape = Jeu().OrdreEtapes[1]; });
     f.Etapes->setCurrentIndex(0), f.Rejouer->click();
-    EXPECT_EQ(f.ARejouer, std::vector<i16>{1});
+    EXPECT_TRUE(QTest::qWaitFor([] { return Jeu().Etape == TEtape::Cantons; }, 2000));
+    EXPECT_TRUE(Jeu().RestantsEtape == 1 && !Jeu().Cantons[1].Inhibé && Réglages().FichierLancement == ParamétrageNonSauvé);
 }
 
-TEST_F(JeuTest, ReplayingErrorsPlaysThoseCantonsAloneInOneKindUnderASetNeverSaved)
+TEST_F(JeuTest, ReplayingErrorsPlaysThoseCantonsAloneInTheirKindsUnderASetNeverSaved)
 {
     TBilan bilan{};
     bilan[3][7] = {4, 2, 1}, bilan[3][2] = {2, 5, 2}, bilan[3][9] = {3, 0, 0}, bilan[1][4] = {1, 1, 1};
     EXPECT_EQ(CantonsÀRejouer(bilan, 3), (std::vector<i16>{2, 7})) << "the most often missed first";
+    // What the last game missed: kinds in the game's order, a kind without loss left out.
+    const struct { std::vector<std::pair<int, int>> pertes; std::vector<i16> cantons; std::vector<TEtape> étapes; } parties[] = {
+        {{}, {}, {}},
+        {{{5, 4}, {2, 4}, {5, 1}, {9, 3}}, {2, 5}, {TEtape::Plaques, TEtape::Cantons}},
+        {{{26, 2}}, {26}, {TEtape::ChefsLieux}},
+    };
+    for (const auto &p : parties) {
+        Partie P;
+        const TEtape ordre[] = {TEtape::Aucune, TEtape::Plaques, TEtape::ChefsLieux, TEtape::Cantons, TEtape::Aucune};
+        std::copy(std::begin(ordre), std::end(ordre), P.OrdreEtapes);
+        for (auto [c, k] : p.pertes)
+            P.Cantons[c].Pertes[k] = 3;
+        const TRejeu r = ErreursDeLaPartie(P);
+        EXPECT_TRUE(r.Cantons == p.cantons && r.Etapes == p.étapes) << p.pertes.size();
+    }
     InstalleDialogueNouvellePartie([] { Jeu().Niveau = TNiveau::Moyen, Jeu().Etape = Jeu().OrdreEtapes[1]; });
-    RejoueErreurs({2, 7}, TEtape::Drapeaux);
+    RejoueErreurs({{2, 7}, {TEtape::Drapeaux, TEtape::Cantons}});
     EXPECT_TRUE(Réglages().FichierLancement == ParamétrageNonSauvé && Jeu().Etape == TEtape::Drapeaux && Jeu().RestantsEtape == 2);
-    EXPECT_TRUE(Jeu().OrdreEtapes[2] == TEtape::Aucune && !Jeu().Cantons[7].Inhibé && Jeu().Cantons[8].Inhibé);
+    EXPECT_TRUE(Jeu().OrdreEtapes[2] == TEtape::Cantons && Jeu().OrdreEtapes[3] == TEtape::Aucune && !Jeu().Cantons[7].Inhibé && Jeu().Cantons[8].Inhibé);
+    // From the statistics of that game: a wrong click on 7, then the button, and the forms behind close.
+    Jeu().Cantons[7].Pertes[3] = 2;
+    InstalleFormesModales([](QDialog &d) {
+        if (auto *s = dynamic_cast<Stats *>(&d))
+            return s->BoutonRejouer->click(), s->result();
+        return 0;
+    });
+    EXPECT_TRUE(MontreStats());
+    EXPECT_TRUE(QTest::qWaitFor([] { return Jeu().RestantsEtape == 1; }, 2000));
+    EXPECT_TRUE(Jeu().OrdreEtapes[2] == TEtape::Aucune && !Jeu().Cantons[7].Inhibé && Jeu().Cantons[2].Inhibé);
 }
