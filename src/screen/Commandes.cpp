@@ -23,6 +23,7 @@
 #include "platform/Ecran.h"
 #include "screen/Patience.h"
 #include "screen/PointsFaibles.h"
+#include "screen/Progression.h"
 #include "services/Donnees.h"
 #include "results/PartieEnCours.h"
 #include "results/HistoriqueJoueur.h"
@@ -45,6 +46,7 @@ void RelieCommandes(EcranPrincipal &E)
     relie(E.ScoreExpert, [] { AfficheMeilleursScores(TNiveau::Expert); });
     relie(E.MenuRazScores, [] { ConfirmeRazScores(); });
     relie(E.MenuPointsFaibles, [] { MontrePointsFaibles(); });
+    relie(E.MenuProgression, [] { MontreProgression(); });
     InstalleRejeu(RejoueErreurs);
     relie(E.MenuAfficheParamètres, [] { RevoitParamétrage(); });
     relie(E.MenuDéfaut, [] { ParamétrageDéfaut(); });

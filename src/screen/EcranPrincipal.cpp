@@ -260,6 +260,7 @@ void EcranPrincipal::ConstruitMenus()
     MenuRazScores = MenuScores->addAction(QString());
     MenuScores->addSeparator();
     MenuPointsFaibles = MenuScores->addAction(QString());
+    MenuProgression = MenuScores->addAction(QString());
     MenuRévision = barre->addAction(QString());
     MenuLangue = barre->addMenu(QStringLiteral("Langue / Sprache"));
     MenuFrançais = MenuLangue->addAction(QStringLiteral("Jouer en français"));

@@ -70,7 +70,7 @@ public:
     QAction *FichierNouveau, *FichierEnregistrer, *FichierLire, *FichierVersion, *FichierQuitter;
     QAction *MenuAfficheParamètres, *MenuDéfaut, *MenuRecharger, *MenuDéfinir, *Menuson;
     QAction *MenuCouleurCapitalesATrouver, *MenuCouleurCapitalesTrouvées, *MenuInf, *MenuFichInfo;
-    QAction *ScoreEnCours, *ScoreFacile, *ScoreMoyen, *ScoreDifficile, *ScoreExpert, *MenuRazScores, *MenuPointsFaibles;
+    QAction *ScoreEnCours, *ScoreFacile, *ScoreMoyen, *ScoreDifficile, *ScoreExpert, *MenuRazScores, *MenuPointsFaibles, *MenuProgression;
     QAction *MenuRévision;
     QAction *MenuFrançais, *MenuAllemand, *MenuAutreLangue;
     QAction *MenuAide, *MenuAPropos;

@@ -46,6 +46,7 @@ void EtiquetteEcran()
     E.ScoreExpert->setText(Message(TMessage::NiveauExpert));
     E.ScoreDifficile->setText(Message(TMessage::NiveauDifficile));
     E.MenuPointsFaibles->setText(Message(TMessage::PointsFaibles) + QStringLiteral("..."));
+    E.MenuProgression->setText(Message(TMessage::Progression) + QStringLiteral("..."));
     E.MenuFichier->setTitle(Message(TMessage::MenuFichier));
     E.FichierNouveau->setText(Message(TMessage::NouvellePartie));
     E.FichierEnregistrer->setText(Message(TMessage::EnregistrerPartie));

@@ -216,6 +216,50 @@ QByteArray HistoriqueCSV(const QString &joueur)
     return texte.toUtf8();
 }
 
+std::vector<TPartieFinie> PartiesFinies(const QString &joueur, TNiveau niveau, const QString &paramétrage)
+{
+    std::vector<TPartieFinie> parties;
+    if (!HistoriqueOuvert())
+        return parties;
+    QSqlQuery q(Base());
+    q.prepare(QStringLiteral("SELECT debut, duree, score, issue FROM parties WHERE joueur = ? AND niveau = ?"
+                             " AND parametrage = ? AND apprentissage = 0 AND issue IN (?, ?, ?) ORDER BY id"));
+    q.addBindValue(Texte(joueur));
+    q.addBindValue(Numéro(niveau));
+    q.addBindValue(Texte(paramétrage));
+    for (TIssuePartie i : {TIssuePartie::Gagnée, TIssuePartie::Perdue, TIssuePartie::Abandonnée})
+        q.addBindValue(int(i));
+    if (q.exec())
+        while (q.next()) {
+            // A date that doesn't read (a hand-edited row) can't be placed in time: passed over.
+            const QDateTime début = QDateTime::fromString(q.value(0).toString(), Qt::ISODate);
+            if (début.isValid())
+                parties.push_back({début, q.value(1).toInt(), q.value(2).toInt(), static_cast<TIssuePartie>(q.value(3).toInt())});
+        }
+    return parties;
+}
+
+TSéries Séries(const std::vector<TPartieFinie> &parties, QDate aujourdhui)
+{
+    TSéries s;
+    std::vector<QDate> jours;
+    for (const TPartieFinie &p : parties) {
+        s.Gagnées = p.Issue == TIssuePartie::Gagnée ? s.Gagnées + 1 : 0;
+        s.GagnéesRecord = std::max(s.GagnéesRecord, s.Gagnées);
+        jours.push_back(p.Début.date());
+    }
+    std::sort(jours.begin(), jours.end());
+    jours.erase(std::unique(jours.begin(), jours.end()), jours.end());
+    int suite = 0;
+    for (std::size_t i = 0; i < jours.size(); ++i) {
+        suite = i > 0 && jours[i - 1].addDays(1) == jours[i] ? suite + 1 : 1;
+        s.JoursRecord = std::max(s.JoursRecord, suite);
+    }
+    // The days in a row still go on when the last of them is today or yesterday.
+    s.Jours = !jours.empty() && jours.back().daysTo(aujourdhui) <= 1 ? suite : 0;
+    return s;
+}
+
 qint64 PartieEnregistréeDans(const QString &fichierPartie)
 {
     if (!HistoriqueOuvert() || fichierPartie.isEmpty())

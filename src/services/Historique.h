@@ -56,6 +56,25 @@ struct TBilanCanton {
 using TBilan = std::array<std::array<TBilanCanton, NombrePlaces + 1>, 5>;
 TBilan BilanErreurs(const QString &joueur, int parties);
 
+// A game that ended, as its progress is drawn: when it began, how long it took, its score.
+struct TPartieFinie {
+    QDateTime Début;
+    i32 Durée = 0;
+    i32 Score = 0;
+    TIssuePartie Issue = TIssuePartie::Gagnée;
+};
+// The player's games that ended (won, lost or abandoned) at that level with that parameter
+// set, oldest first; games of the learning mode, whose scores are never kept, are left out.
+std::vector<TPartieFinie> PartiesFinies(const QString &joueur, TNiveau niveau, const QString &paramétrage);
+
+// Streaks: games won in a row (the last ones, and the longest), and days played in a row
+// (the ones up to today or yesterday, and the longest).
+struct TSéries {
+    int Gagnées = 0, GagnéesRecord = 0;
+    int Jours = 0, JoursRecord = 0;
+};
+TSéries Séries(const std::vector<TPartieFinie> &parties, QDate aujourdhui);
+
 // A game on some cantons alone, in some kinds of question in that order: what a player
 // replays of their errors.
 struct TRejeu {

@@ -180,6 +180,14 @@ enum class TMessage : short {
     RienÀRejouer = 186, // nothing was missed in those games
     ExporterCSV = 187, // Exporter pour un tableur
     HistoriqueExporté = 188, // the history was written for a spreadsheet in the file
+    Progression = 189, // Ma progression
+    DuréeMinutes = 190, // Durée (minutes)
+    DixièmeScore = 191, // 10e meilleur score
+    SériesJoueur = 192, // games won in a row and days played in a row, each with its record
+    AucunePartieFinie = 193, // no game ended at that level with this set
+    EnregistrerImage = 194, // Enregistrer l'image
+    ImageEnregistrée = 195, // the chart was written in the file
+    DatePartie = 196, // Date
 };
 
 struct TLangues {

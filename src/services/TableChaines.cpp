@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "188"},
+    {1, "196"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -217,6 +217,14 @@ constexpr Ligne Table[] = {
     {1186, "Vous n'avez manqué aucun canton dans ces parties : il n'y a rien à rejouer."},
     {1187, "Exporter pour un tableur"},
     {1188, "Votre historique a été enregistré pour un tableur dans le fichier "},
+    {1189, "Ma progression"},
+    {1190, "Durée (minutes)"},
+    {1191, "10e meilleur score"},
+    {1192, "Parties gagnées d'affilée : %1 (record : %2) — jours de jeu d'affilée : %3 (record : %4)"},
+    {1193, "Aucune partie terminée à ce niveau avec ce paramétrage."},
+    {1194, "Enregistrer l'image"},
+    {1195, "Le graphique a été enregistré dans le fichier "},
+    {1196, "Date"},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -408,6 +416,14 @@ constexpr Ligne Table[] = {
     {1436, "Sie haben in diesen Spielen keinen Kanton verfehlt: es gibt nichts zu üben."},
     {1437, "Für eine Tabellenkalkulation exportieren"},
     {1438, "Ihr Verlauf wurde für eine Tabellenkalkulation in der Datei gespeichert: "},
+    {1439, "Mein Fortschritt"},
+    {1440, "Dauer (Minuten)"},
+    {1441, "Zehntbester Punktestand"},
+    {1442, "Gewonnene Spiele in Folge: %1 (Rekord: %2) — Spieltage in Folge: %3 (Rekord: %4)"},
+    {1443, "Noch kein beendetes Spiel auf dieser Stufe mit dieser Einstellung."},
+    {1444, "Bild speichern"},
+    {1445, "Die Grafik wurde in der Datei gespeichert: "},
+    {1446, "Datum"},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

@@ -6,6 +6,11 @@
 #include "results/HistoriqueJoueur.h"
 #include "results/Stats.h"
 #include "screen/PointsFaibles.h"
+#include "screen/Progression.h"
+#include "services/Reglages.h"
+
+#include <QLabel>
+#include <QLineSeries>
 
 #include <QPushButton>
 #include <QTabBar>
@@ -70,4 +75,26 @@ TEST_F(JeuTest, ReplayingErrorsPlaysThoseCantonsAloneInTheirKindsUnderASetNeverS
     EXPECT_TRUE(MontreStats());
     EXPECT_TRUE(QTest::qWaitFor([] { return Jeu().RestantsEtape == 1; }, 2000));
     EXPECT_TRUE(Jeu().OrdreEtapes[2] == TEtape::Aucune && !Jeu().Cantons[7].Inhibé && Jeu().Cantons[2].Inhibé);
+}
+
+TEST_F(JeuTest, ProgressDrawsTheLevelsScoresAgainstTheTenthBestAndFollowsTheLanguage)
+{
+    Jeu().NomJoueur = "Zoé", OuvreHistoriqueDuJoueur();
+    for (int score : {300, 900}) {
+        const qint64 id = CommencePartieHistorique({"Zoé", TNiveau::Difficile, false, Réglages().FichierLancement, Maintenant()});
+        EnregistreHistorique(id, {}, TIssuePartie::Gagnée, score, 150);
+    }
+    Jeu().NombreScores[3] = 10, Jeu().MeilleursScores[3][10].Points = 500;
+    Progression f;
+    EXPECT_TRUE(f.Scores->points().isEmpty() && f.Dixième->points().isEmpty()) << "nothing at the easy level, no best ten";
+    f.Niveaux->setCurrentIndex(2);
+    ASSERT_EQ(f.Scores->points().size(), 2);
+    EXPECT_TRUE(f.Scores->at(1).y() == 900 && f.Durées->at(0).y() == 2.5 && f.Dixième->at(1).y() == 500);
+    EXPECT_EQ(f.SériesTexte->text(), "Parties gagnées d'affilée : 2 (record : 2) — jours de jeu d'affilée : 1 (record : 1)");
+    const QImage image(f.EnregistreImage());
+    EXPECT_TRUE(!image.isNull() && image.width() >= 640) << "written as a PNG that reads back";
+    ChangeLangue(2);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(f.windowTitle() == "Mein Fortschritt" && f.Niveaux->tabText(2) == Message(TMessage::Difficile) && f.Scores->name() == Message(TMessage::Score));
+    ChangeLangue(1);
 }

@@ -144,3 +144,43 @@ TEST(Historique, AWriterKilledAtAnyMomentLeavesNoHalfWrittenStep)
 }
 
 } // namespace
+
+TEST(Historique, ProgressShowsTheEndedGamesOfOneLevelAndSetAndTheirStreaks)
+{
+    QTemporaryDir dossier;
+    ASSERT_EQ(OuvreHistorique(dossier.filePath(QStringLiteral("historique.sqlite"))), TOuvertureHistorique::Ouvert);
+    using I = TIssuePartie;
+    const QDate j0(2026, 11, 20);
+    const struct { TNiveau niveau; bool apprentissage; const char *set; I issue; int jour; } parties[] = {
+        {TNiveau::Moyen, false, "K.SCS", I::Gagnée, 0},   {TNiveau::Moyen, false, "K.SCS", I::Perdue, 1},
+        {TNiveau::Moyen, true, "K.SCS", I::Gagnée, 1},    {TNiveau::Facile, false, "K.SCS", I::Gagnée, 2},
+        {TNiveau::Moyen, false, "~tmp.~cf", I::Gagnée, 2}, {TNiveau::Moyen, false, "K.SCS", I::EnCours, 2},
+        {TNiveau::Moyen, false, "K.SCS", I::Abandonnée, 3}, {TNiveau::Moyen, false, "K.SCS", I::Gagnée, 3}};
+    for (int i = 0; i < 8; ++i) {
+        const auto &p = parties[i];
+        const qint64 id = CommencePartieHistorique({"Zoé", p.niveau, p.apprentissage, p.set, QDateTime(j0.addDays(p.jour), QTime(9, i))});
+        EnregistreHistorique(id, {}, p.issue, 100 * i, 60 * i);
+    }
+    const std::vector<TPartieFinie> fins = PartiesFinies("Zoé", TNiveau::Moyen, "K.SCS");
+    ASSERT_EQ(fins.size(), 4u) << "learning, another level, another set and a game under way left out";
+    const int scores[] = {0, 100, 600, 700};
+    for (int i = 0; i < 4; ++i)
+        EXPECT_TRUE(fins[i].Score == scores[i] && fins[i].Durée == 60 * scores[i] / 100 && fins[i].Début.date() == j0.addDays(i < 2 ? i : 3)) << i;
+    EXPECT_TRUE(fins[2].Issue == I::Abandonnée && PartiesFinies("Ana", TNiveau::Moyen, "K.SCS").empty());
+    FermeHistorique();
+
+    // Streaks: games won in a row, days played in a row up to today or yesterday; each with its record.
+    const struct { std::vector<std::pair<I, int>> jeu; int aujourdhui; std::array<int, 4> attendu; } cas[] = {
+        {{}, 0, {0, 0, 0, 0}},
+        {{{I::Gagnée, 0}, {I::Gagnée, 0}, {I::Perdue, 1}, {I::Gagnée, 3}, {I::Gagnée, 3}, {I::Gagnée, 4}}, 4, {3, 3, 2, 2}},
+        {{{I::Gagnée, 0}, {I::Gagnée, 1}, {I::Gagnée, 2}, {I::Abandonnée, 2}, {I::Gagnée, 5}}, 6, {1, 3, 1, 3}},
+        {{{I::Gagnée, 0}, {I::Perdue, 1}}, 9, {0, 1, 0, 2}},
+    };
+    for (const auto &c : cas) {
+        std::vector<TPartieFinie> jeu;
+        for (auto [issue, jour] : c.jeu)
+            jeu.push_back({QDateTime(j0.addDays(jour), QTime(20, 0)), 0, 0, issue});
+        const TSéries s = Séries(jeu, j0.addDays(c.aujourdhui));
+        EXPECT_EQ((std::array{s.Gagnées, s.GagnéesRecord, s.Jours, s.JoursRecord}), c.attendu) << c.jeu.size();
+    }
+}
