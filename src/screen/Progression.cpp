@@ -44,7 +44,14 @@ Progression::Progression() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     Niveaux->setObjectName(QStringLiteral("ProgressionNiveaux"));
     for (int n = 0; n < 4; ++n)
         Niveaux->addTab(QString());
-    Niveaux->setCurrentIndex(std::clamp(Numéro(Jeu().Niveau), 1, 4) - 1);
+    // The level under way, else the one the player last finished a game at.
+    int niveau = Numéro(Jeu().Niveau);
+    QDateTime dernière;
+    for (int n = 1; n <= 4 && Jeu().Niveau == TNiveau::Aucun; ++n)
+        for (const TPartieFinie &p : PartiesFinies(Jeu().NomJoueur, static_cast<TNiveau>(n), Réglages().FichierLancement))
+            if (!dernière.isValid() || p.Début > dernière)
+                dernière = p.Début, niveau = n;
+    Niveaux->setCurrentIndex(std::clamp(niveau, 1, 4) - 1);
 
     auto *graphique = new QChart;
     graphique->legend()->setAlignment(Qt::AlignBottom);
@@ -136,8 +143,12 @@ void Progression::Actualise()
     Dixième->replace(dixième);
     QChart *graphique = Vue->chart();
     graphique->axes(Qt::Horizontal).front()->setRange(début, fin);
-    graphique->axes(Qt::Vertical).front()->setRange(bas, haut * 1.05);
-    graphique->axes(Qt::Vertical).back()->setRange(0, longue * 1.1);
+    for (auto [axe, min, max] : {std::tuple{0, bas, haut * 1.05}, std::tuple{1, 0.0, longue * 1.1}}) {
+        auto *valeurs = static_cast<QValueAxis *>(graphique->axes(Qt::Vertical).at(axe));
+        valeurs->setRange(min, max);
+        valeurs->applyNiceNumbers();
+        valeurs->setLabelFormat(QStringLiteral("%.0f"));
+    }
     Libellés();
 }
 
