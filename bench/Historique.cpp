@@ -1,6 +1,18 @@
 // The player's history at the size of years of play: the figures the weak-spot map is
-// drawn from, over 10,000 games, and a step's questions written at its end.
+// drawn from, over 10,000 games, a step's questions written at its end, and the weak-spot
+// map and the progress chart opened over those games.
+#include "Commun.h"
+#include "engine/communs.h"
+#include "results/PartieEnCours.h"
+#include "screen/EcranPrincipal.h"
+#include "screen/PointsFaibles.h"
+#include "screen/Progression.h"
+#include "screen/Relie.h"
 #include "services/Historique.h"
+#include "services/Reglages.h"
+
+#include <QApplication>
+#include <QPixmap>
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -30,11 +42,17 @@ QString Historique10000()
             QSqlQuery(base).exec(QStringLiteral("PRAGMA user_version = 1"));
             base.transaction();
             QSqlQuery p(base), q(base);
-            p.prepare(QStringLiteral("INSERT INTO parties (id, joueur, niveau, apprentissage, parametrage, debut) VALUES (?, 'Zoé', 2, 0, 'KELMOR.SCS', '2026-01-01T10:00:00')"));
+            p.prepare(QStringLiteral("INSERT INTO parties (id, joueur, niveau, apprentissage, parametrage, debut, duree, score, issue)"
+                                     " VALUES (?, 'Zoé', 2, 0, 'KELMOR.SCS', ?, ?, ?, ?)"));
             q.prepare(QStringLiteral("INSERT INTO questions (partie, canton, etape, erreurs, passee, assistee, secondes) VALUES (?, ?, ?, ?, ?, 0, ?)"));
             std::mt19937 hasard(7);
             for (int partie = 1; partie <= 10000; ++partie) {
-                p.bindValue(0, partie);
+                // A game a day or so, won or lost, in about ten minutes.
+                const QDateTime début(QDate(2000, 1, 1), QTime(10, 0));
+                const QVariant valeurs[] = {partie, début.addSecs(partie * 80000).toString(Qt::ISODate), 500 + int(hasard() % 200),
+                                            int(hasard() % 900000), 1 + int(hasard() % 2)};
+                for (int i = 0; i < 5; ++i)
+                    p.bindValue(i, valeurs[i]);
                 p.exec();
                 for (int étape = 1; étape <= 4; ++étape)
                     for (int canton = 1; canton <= NombrePlaces; ++canton) {
@@ -79,5 +97,32 @@ void BM_EtapeEnregistrée(benchmark::State &state)
     FermeHistorique();
 }
 BENCHMARK(BM_EtapeEnregistrée)->Unit(benchmark::kMillisecond);
+
+// A form over the 10,000 games, from nothing to its first picture; with the file's opening
+// too (Arg 1), as when it is the first thing the player asks for after the start.
+template <class Forme>
+void FormeOuverte(benchmark::State &state)
+{
+    Prépare();
+    if (!Main() || OuvreHistorique(Historique10000()) != TOuvertureHistorique::Ouvert) {
+        state.SkipWithError("the start failed, or the history could not be opened");
+        return;
+    }
+    Jeu().NomJoueur = QStringLiteral("Zoé"), Réglages().FichierLancement = QStringLiteral("KELMOR.SCS");
+    for (auto _ : state) {
+        if (state.range(0))
+            FermeHistorique(), OuvreHistorique(Historique10000());
+        Forme forme;
+        benchmark::DoNotOptimize(forme.grab());
+    }
+    FermeHistorique();
+    Jeu().PartieVierge = true;
+    delete FormePrincipale();
+    QApplication::processEvents();
+}
+void BM_PointsFaiblesOuvert(benchmark::State &state) { FormeOuverte<PointsFaibles>(state); }
+void BM_ProgressionOuverte(benchmark::State &state) { FormeOuverte<Progression>(state); }
+BENCHMARK(BM_PointsFaiblesOuvert)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ProgressionOuverte)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 } // namespace

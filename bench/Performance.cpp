@@ -1,5 +1,6 @@
 // Figures behind the game's speed: the hit test, the start-up to the idle window,
 // a click judged with the map repainted.
+#include "Commun.h"
 #include "Doublures.h"
 #include "engine/communs.h"
 #include "screen/Etiquettes.h"
@@ -32,9 +33,9 @@
 #include <random>
 
 namespace {
-
 BoîtesScriptées boîtes;
 SonsEnregistrés sons;
+} // namespace
 
 void Prépare()
 {
@@ -46,6 +47,8 @@ void Prépare()
     InstalleBoîtes(&boîtes);
     InstalleSons(&sons);
 }
+
+namespace {
 
 void BM_TestDeZone(benchmark::State &state)
 {

@@ -37,6 +37,22 @@ QLineSeries *Série(QChart *graphique, const QColor &couleur, Qt::PenStyle trait
 }
 } // namespace
 
+QList<QPointF> Moyennes(const QList<QPointF> &points, int nombre)
+{
+    if (points.size() <= nombre)
+        return points;
+    QList<QPointF> moyennes;
+    // Group g holds the points from g·n/nombre up to the next group's first.
+    for (qsizetype g = 0; g < nombre; ++g) {
+        const qsizetype début = g * points.size() / nombre, fin = (g + 1) * points.size() / nombre;
+        QPointF somme;
+        for (qsizetype i = début; i < fin; ++i)
+            somme += points[i];
+        moyennes << somme / double(fin - début);
+    }
+    return moyennes;
+}
+
 Progression::Progression() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("Progression"));
@@ -45,13 +61,8 @@ Progression::Progression() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     for (int n = 0; n < 4; ++n)
         Niveaux->addTab(QString());
     // The level under way, else the one the player last finished a game at.
-    int niveau = Numéro(Jeu().Niveau);
-    QDateTime dernière;
-    for (int n = 1; n <= 4 && Jeu().Niveau == TNiveau::Aucun; ++n)
-        for (const TPartieFinie &p : PartiesFinies(Jeu().NomJoueur, static_cast<TNiveau>(n), Réglages().FichierLancement))
-            if (!dernière.isValid() || p.Début > dernière)
-                dernière = p.Début, niveau = n;
-    Niveaux->setCurrentIndex(std::clamp(niveau, 1, 4) - 1);
+    const TNiveau niveau = Jeu().Niveau != TNiveau::Aucun ? Jeu().Niveau : DernierNiveauFini(Jeu().NomJoueur, Réglages().FichierLancement);
+    Niveaux->setCurrentIndex(std::clamp(Numéro(niveau), 1, 4) - 1);
 
     auto *graphique = new QChart;
     graphique->legend()->setAlignment(Qt::AlignBottom);
@@ -127,8 +138,9 @@ void Progression::Actualise()
         durées << QPointF(t, p.Durée / 60.0);
         longue = std::max(longue, p.Durée / 60.0);
     }
-    Scores->replace(scores);
-    Durées->replace(durées);
+    // Years of games make a line of averages; a few games, dots on it.
+    for (auto [série, points] : {std::pair{Scores, &scores}, std::pair{Durées, &durées}})
+        série->setPointsVisible(points->size() <= 200), série->replace(Moyennes(*points, 400));
     // The line to pass: the tenth of the best ten, once ten scores are kept.
     const int n = Numéro(Niveau());
     QDateTime début = Parties.empty() ? Maintenant() : Parties.front().Début, fin = Parties.empty() ? début : Parties.back().Début;

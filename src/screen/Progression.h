@@ -5,6 +5,8 @@
 #include "services/Historique.h"
 
 #include <QDialog>
+#include <QList>
+#include <QPointF>
 
 class QChart;
 class QChartView;
@@ -12,6 +14,10 @@ class QLabel;
 class QLineSeries;
 class QPushButton;
 class QTabBar;
+
+// At most `nombre` points: beyond, the points in a row averaged by groups of the same size
+// (within one), so that years of games draw at once and still show the trend.
+QList<QPointF> Moyennes(const QList<QPointF> &points, int nombre);
 
 class Progression : public QDialog {
 public:

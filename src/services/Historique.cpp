@@ -239,6 +239,21 @@ std::vector<TPartieFinie> PartiesFinies(const QString &joueur, TNiveau niveau, c
     return parties;
 }
 
+TNiveau DernierNiveauFini(const QString &joueur, const QString &paramétrage)
+{
+    if (!HistoriqueOuvert())
+        return TNiveau::Aucun;
+    QSqlQuery q(Base());
+    q.prepare(QStringLiteral("SELECT niveau FROM parties WHERE joueur = ? AND parametrage = ? AND apprentissage = 0"
+                             " AND issue IN (?, ?, ?) ORDER BY id DESC LIMIT 1"));
+    q.addBindValue(Texte(joueur));
+    q.addBindValue(Texte(paramétrage));
+    for (TIssuePartie i : {TIssuePartie::Gagnée, TIssuePartie::Perdue, TIssuePartie::Abandonnée})
+        q.addBindValue(int(i));
+    const int niveau = q.exec() && q.next() ? q.value(0).toInt() : 0;
+    return niveau >= 1 && niveau <= 4 ? static_cast<TNiveau>(niveau) : TNiveau::Aucun;
+}
+
 TSéries Séries(const std::vector<TPartieFinie> &parties, QDate aujourdhui)
 {
     TSéries s;

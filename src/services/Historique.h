@@ -67,6 +67,9 @@ struct TPartieFinie {
 // set, oldest first; games of the learning mode, whose scores are never kept, are left out.
 std::vector<TPartieFinie> PartiesFinies(const QString &joueur, TNiveau niveau, const QString &paramétrage);
 
+// The level of the player's last game ended with that set (Aucun: none).
+TNiveau DernierNiveauFini(const QString &joueur, const QString &paramétrage);
+
 // Streaks: games won in a row (the last ones, and the longest), and days played in a row
 // (the ones up to today or yesterday, and the longest).
 struct TSéries {
