@@ -86,11 +86,13 @@ TEST_F(JeuTest, ProgressDrawsTheLevelsScoresAgainstTheTenthBestAndFollowsTheLang
     }
     Jeu().NombreScores[3] = 10, Jeu().MeilleursScores[3][10].Points = 500;
     Progression f;
-    EXPECT_TRUE(f.Scores->points().isEmpty() && f.Dixième->points().isEmpty()) << "nothing at the easy level, no best ten";
-    f.Niveaux->setCurrentIndex(2);
+    ASSERT_EQ(f.Niveaux->currentIndex(), 2) << "at the level last played, no game under way";
     ASSERT_EQ(f.Scores->points().size(), 2);
     EXPECT_TRUE(f.Scores->at(1).y() == 900 && f.Durées->at(0).y() == 2.5 && f.Dixième->at(1).y() == 500);
     EXPECT_EQ(f.SériesTexte->text(), "Parties gagnées d'affilée : 2 (record : 2) — jours de jeu d'affilée : 1 (record : 1)");
+    f.Niveaux->setCurrentIndex(0);
+    EXPECT_TRUE(f.Scores->points().isEmpty() && f.Dixième->points().isEmpty()) << "nothing at the easy level, no best ten";
+    f.Niveaux->setCurrentIndex(2);
     const QList<QPointF> cinq{{0, 0}, {1, 10}, {2, 20}, {3, 30}, {4, 40}};
     EXPECT_TRUE(Moyennes(cinq, 5) == cinq && Moyennes(cinq, 2) == (QList<QPointF>{{0.5, 5}, {3, 30}})) << "years of games averaged";
     const QImage image(f.EnregistreImage());
