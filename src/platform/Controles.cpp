@@ -139,6 +139,7 @@ void BoutonGraphique::setPicture(const QPixmap &p)
 BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, QRect géométrie, int marge)
 {
     auto *b = new BoutonGraphique(parent);
+    b->setObjectName(image);
     b->setGeometry(géométrie);
     b->setPicture(ImageJeu(image, géométrie.size()));
     b->setIconSize(géométrie.size() - QSize(2 * marge, 2 * marge));

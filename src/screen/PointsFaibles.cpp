@@ -158,6 +158,12 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
             accept();
     });
     Carte = new CartePointsFaibles(this);
+    Etapes->setObjectName(QStringLiteral("Etapes"));
+    Parties->setObjectName(QStringLiteral("Parties"));
+    Légende->setObjectName(QStringLiteral("Légende"));
+    Rejouer->setObjectName(QStringLiteral("Rejouer"));
+    Exporter->setObjectName(QStringLiteral("Exporter"));
+    Carte->setObjectName(QStringLiteral("CartePointsFaibles"));
     auto *haut = new QHBoxLayout;
     haut->addWidget(Etapes);
     haut->addStretch();
