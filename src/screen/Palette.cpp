@@ -56,6 +56,8 @@ Palette::Palette(short repère) : QDialog(FormePrincipale(), Qt::Dialog | Qt::Fr
     BoutonFermeture->setGeometry(112, 0, 19, 19);
     BoutonFermeture->setPicture(ImageJeu(QStringLiteral("FermePalette"), QSize(19, 19)));
     BoutonFermeture->setObjectName(QStringLiteral("FermePalette"));
+    // Tab goes from colour to colour, Space or Enter takes one, Escape closes.
+    BoutonFermeture->setFocusPolicy(Qt::StrongFocus);
     BoutonFermeture->Click = [this] { BoutonFermeture_Click(); };
     for (int k = 1; k <= 40; ++k) {
         const int r = (k - 1) / 8 + 1;
@@ -65,6 +67,7 @@ Palette::Palette(short repère) : QDialog(FormePrincipale(), Qt::Dialog | Qt::Fr
         im->setPicture(RondDeCouleur(k));
         im->setToolTip(NomCouleur(k));
         im->setObjectName(QStringLiteral("Couleur%1").arg(k, 2, 10, QLatin1Char('0')));
+        im->setFocusPolicy(Qt::StrongFocus);
         im->setCursor(Qt::PointingHandCursor);
         im->Click = [this, k] { ChoixCouleur_Click(k); };
         ChoixCouleur[k] = im;
