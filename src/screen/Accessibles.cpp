@@ -11,10 +11,15 @@
 #include <QAction>
 #include <QAbstractButton>
 #include <QApplication>
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLabel>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
+#include <QTimer>
+#include <utility>
 
 namespace {
 // What a family's %1 stands for: a canton's name or town, or a parameter box's step and rank.
@@ -36,9 +41,25 @@ QString Complément(const QString &famille, int k)
     return QString::number(k);
 }
 
+void Habille(QWidget *w);
+
+// The key of a control: its name, or for the parts Qt builds unnamed, what they are.
+QString Clé(QWidget *w)
+{
+    if (!w->objectName().isEmpty())
+        return w->objectName();
+    if (auto *barre = qobject_cast<QScrollBar *>(w))
+        return barre->orientation() == Qt::Horizontal ? QStringLiteral("DéfilementH") : QStringLiteral("DéfilementV");
+    if (w->inherits("QComboBoxListView"))
+        return QStringLiteral("ListeDéroulante");
+    return QString();
+}
+
 void Habille(QWidget *w)
 {
-    const QString clé = w->objectName();
+    if (auto *liste = qobject_cast<QComboBox *>(w))
+        Habille(static_cast<QWidget *>(liste->view())); // made when first asked for: a screen reader asks for it
+    const QString clé = Clé(w);
     const auto texte = TexteAccessible(clé, Langues().Langue);
     if (!texte)
         return;
@@ -70,6 +91,9 @@ QAccessibleInterface *FabriqueAnnonces(const QString &, QObject *o)
 }
 
 QWidget *annonceur = nullptr;
+// The verdict of the click being handled: the question it brings follows it in one announcement,
+// as a second one at once would cut the first short.
+QString verdictEnCours;
 
 class Veilleur : public QObject {
 protected:
@@ -183,17 +207,27 @@ void Annonce(const QString &texte)
     QAccessible::updateAccessibility(&alerte);
 }
 
+void AnnonceVerdict(const QString &texte)
+{
+    verdictEnCours = texte;
+    Annonce(texte);
+    if (annonceur)
+        QTimer::singleShot(0, annonceur, [] { verdictEnCours.clear(); });
+}
+
 void AnnonceQuestion()
 {
     const i16 c = Jeu().CantonRecherché;
     if (!EtapeDeJeu(Jeu().Etape) || Jeu().RestantsEtape < 1 || c < 1 || c > NombrePlaces)
         return;
     const int l = Langues().Langue;
+    QString question;
     switch (Jeu().Etape) {
-    case TEtape::Cantons: Annonce(TexteAnnonce(TAnnonceLue::QuestionCanton, l, Jeu().Cantons[c].Nom)); break;
-    case TEtape::ChefsLieux: Annonce(TexteAnnonce(TAnnonceLue::QuestionChefLieu, l, Jeu().Cantons[c].ChefLieu)); break;
-    case TEtape::Drapeaux: Annonce(TexteAnnonce(TAnnonceLue::QuestionDrapeau, l)); break;
-    case TEtape::Plaques: Annonce(TexteAnnonce(TAnnonceLue::QuestionPlaque, l, Jeu().Plaques[c])); break;
-    default: break;
+    case TEtape::Cantons: question = TexteAnnonce(TAnnonceLue::QuestionCanton, l, Jeu().Cantons[c].Nom); break;
+    case TEtape::ChefsLieux: question = TexteAnnonce(TAnnonceLue::QuestionChefLieu, l, Jeu().Cantons[c].ChefLieu); break;
+    case TEtape::Drapeaux: question = TexteAnnonce(TAnnonceLue::QuestionDrapeau, l); break;
+    default: question = TexteAnnonce(TAnnonceLue::QuestionPlaque, l, Jeu().Plaques[c]); break;
     }
+    const QString verdict = std::exchange(verdictEnCours, QString());
+    Annonce(verdict.isEmpty() ? question : verdict + QStringLiteral(". ") + question);
 }

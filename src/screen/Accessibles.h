@@ -17,5 +17,7 @@ void PlaceMnémoniques(QWidget *menu);
 
 // Tells a screen reader, without showing anything.
 void Annonce(const QString &texte);
+// How the click was judged; the question it brings is announced with it.
+void AnnonceVerdict(const QString &texte);
 // The question just asked, as the panel shows it.
 void AnnonceQuestion();

@@ -54,7 +54,7 @@ Edition::Edition() : QDialog(FenêtrePrincipale())
     BTNRight = BoutonFlèche(this, QStringLiteral("BTNRight"), 216, 344, 33);
     BTNDown = BoutonFlèche(this, QStringLiteral("BTNDown"), 336, 344, 33);
     BTNQuit = BoutonFlèche(this, QStringLiteral("BTNQuit"), 192, 392, 41);
-    LBLPays->setObjectName(QStringLiteral("LBLPays"));
+    LBLPays->setObjectName(QStringLiteral("NomCanton"));
     TXTInfos->setObjectName(QStringLiteral("TXTInfos"));
     setTabOrder(TXTInfos, BTNUp);
     setTabOrder(BTNUp, BTNLeft);

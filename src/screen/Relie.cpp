@@ -68,7 +68,7 @@ public:
     void Verdict(TVerdict v, i16 erreurs) override
     {
         static constexpr TAnnonceLue lue[] = {TAnnonceLue::Juste, TAnnonceLue::Faux, TAnnonceLue::QuestionPerdue, TAnnonceLue::QuestionPassée};
-        ::Annonce(TexteAnnonce(lue[static_cast<int>(v)], Langues().Langue, QString::number(erreurs)));
+        AnnonceVerdict(TexteAnnonce(lue[static_cast<int>(v)], Langues().Langue, QString::number(erreurs)));
     }
     void AfficheScore() override { ::AfficheScore(); }
     void AfficheRestants(i16 n) override { ::AfficheRestants(n); }

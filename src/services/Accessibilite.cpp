@@ -80,6 +80,7 @@ constexpr Ligne Textes[] = {
     {"LBLCapitale", "", "Le chef-lieu du canton", "", "Der Hauptort des Kantons"},
     {"IMGDrapeau", "Drapeau du canton", "Le drapeau du canton de la fiche", "Wappen des Kantons", "Das Wappen des Kantons dieses Blatts"},
     {"TXTInfos", "Renseignements", "Le texte de la fiche", "Informationen", "Der Text des Blatts"},
+    {"NomCanton", "Nom du canton", "Le nom du canton de la fiche", "Name des Kantons", "Der Name des Kantons dieses Blatts"},
     {"Edition", "", "Modification des fiches de renseignements", "", "Bearbeitung der Informationsblätter"},
     {"BTNUp", "Première fiche", "Va à la fiche du premier canton", "Erstes Blatt", "Geht zum Blatt des ersten Kantons"},
     {"BTNLeft", "Fiche précédente", "Va à la fiche du canton précédent", "Vorheriges Blatt", "Geht zum Blatt des vorherigen Kantons"},
@@ -90,6 +91,12 @@ constexpr Ligne Textes[] = {
     {"Palette", "Palette", "Choisissez la couleur des points", "Palette", "Wählen Sie die Farbe der Punkte"},
     {"FermePalette", "Fermer", "Ferme la palette sans changer de couleur", "Schliessen", "Schliesst die Palette, ohne die Farbe zu ändern"},
     {"Couleur", "", "Prend cette couleur pour les points", "", "Nimmt diese Farbe für die Punkte"},
+    // What Qt builds inside lists, texts and tabs.
+    {"DéfilementH", "Défilement horizontal", "Fait défiler le contenu de gauche à droite", "Waagrechter Bildlauf", "Verschiebt den Inhalt nach links und rechts"},
+    {"DéfilementV", "Défilement vertical", "Fait défiler le contenu de haut en bas", "Senkrechter Bildlauf", "Verschiebt den Inhalt nach oben und unten"},
+    {"ListeDéroulante", "Choix", "Les choix offerts ; Entrée prend celui qui est marqué", "Auswahl", "Die angebotenen Möglichkeiten; Eingabe nimmt die markierte"},
+    {"ScrollLeftButton", "Onglets précédents", "Montre les onglets cachés à gauche", "Vorherige Reiter", "Zeigt die links verborgenen Reiter"},
+    {"ScrollRightButton", "Onglets suivants", "Montre les onglets cachés à droite", "Nächste Reiter", "Zeigt die rechts verborgenen Reiter"},
     // Help.
     {"Aide", "Aide", "La page d'aide ; Échap la ferme", "Hilfe", "Die Hilfeseite; Escape schliesst sie"},
     // The weak spots.
