@@ -25,16 +25,17 @@ QWidget *Fenêtre(const char *nom)
     return nullptr;
 }
 
-// Every form, made as the game makes it; a new form is one more line.
-const struct { const char *nom; std::function<QWidget *()> crée; } Formes[] = {
+// Every form, made as the game makes it, and the button that closes it where Escape doesn't;
+// a new form is one more line.
+const struct { const char *nom; std::function<QWidget *()> crée; const char *fermeture = ""; } Formes[] = {
     {"EcranPrincipal", [] { return FormePrincipale(); }},
     {"NouvellePartie", [] { return new NouvellePartie; }},
     {"AffichageScores", [] { return new AffichageScores; }},
     {"Stats", [] { return new Stats; }},
     {"SélectionPartie", [] { return new SélectionPartie; }},
-    {"ParamétrageRépertoires", [] { return new ParamétrageRépertoires; }},
+    {"ParamétrageRépertoires", [] { return new ParamétrageRépertoires; }, "BoutonOK"},
     {"Pompe", [] { return Jeu().CantonFiche = 3, new Pompe; }},
-    {"Edition", [] { return new Edition; }},
+    {"Edition", [] { return new Edition; }, "BTNQuit"},
     {"Palette", [] { return new Palette(1); }},
     {"PointsFaibles", [] { return new PointsFaibles; }},
     {"Aide", [] { return OuvreAide(10), Fenêtre("Aide"); }},
@@ -140,4 +141,30 @@ TEST_F(JeuTest, TheQuestionAndTheVerdictOfEachClickAreAnnouncedInTheLanguageInUs
     EXPECT_EQ(dit(), question("Frage verloren. Finden Sie den Kanton: "));
     EXPECT_EQ(boîtes.journal.back().texte, Message(TMessage::QuestionPerdue)) << "the box is still shown";
     ChangeLangueVue(1);
+}
+
+// Tab reaches every button, the picture buttons and the colours too; Escape closes each dialog,
+// or Tab to its closing button and Space.
+TEST_F(JeuTest, EveryDialogIsWalkedWithTabAndClosedFromTheKeyboard)
+{
+    for (const auto &f : Formes) {
+        auto *d = qobject_cast<QDialog *>(f.crée());
+        if (!d)
+            continue;
+        d->show(), QApplication::setActiveWindow(d);
+        auto touche = [d](Qt::Key k) { QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : d, k); };
+        QSet<QWidget *> atteints;
+        for (int k = 0; k < 60; ++k)
+            touche(Qt::Key_Tab), atteints.insert(QApplication::focusWidget());
+        for (QWidget *w : d->findChildren<QWidget *>()) {
+            auto *b = qobject_cast<QAbstractButton *>(w);
+            if (w->isVisibleTo(d) && w->isEnabled() && ((b && (b->isChecked() || !b->autoExclusive())) || w->objectName().startsWith("Couleur")))
+                EXPECT_TRUE(atteints.contains(w)) << f.nom << " " << w->objectName().toStdString();
+        }
+        for (int k = 0; *f.fermeture && QApplication::focusWidget()->objectName() != f.fermeture && k < 60; ++k)
+            touche(Qt::Key_Tab);
+        touche(*f.fermeture ? Qt::Key_Space : Qt::Key_Escape);
+        EXPECT_FALSE(d->isVisible()) << f.nom;
+        delete d;
+    }
 }
