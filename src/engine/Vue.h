@@ -14,6 +14,9 @@ enum class TAnnonce {
     PartiePerdue,           // the score ran out
 };
 
+// How a click or the pass button was judged, for those who can't see the map answer.
+enum class TVerdict { Juste, Faux, Perdue, Passée };
+
 class VueJeu {
 public:
     virtual ~VueJeu() = default;
@@ -22,6 +25,9 @@ public:
     virtual void Annonce(TAnnonce) {}
     // The step `finie` is over and `suivante` begins.
     virtual void AnnonceEtape(TEtape finie, TEtape suivante) {}
+
+    // The question's answer judged; `erreurs`: the errors on it so far.
+    virtual void Verdict(TVerdict, i16 erreurs) {}
 
     // A step begins: the question's zone and every marker laid out for it.
     virtual void EtapeCommencée() {}

@@ -234,6 +234,7 @@ void TraiteClic(Partie &P, i16 c, i16 x, i16 y)
 void BonneRéponse(Partie &P)
 {
     const i16 c = P.CantonRecherché;
+    Vue(P).Verdict(TVerdict::Juste, P.ErreursQuestion);
     NoteQuestion(P, P.ErreursQuestion, false);
     if (P.Niveau == TNiveau::Facile) {
         Vue(P).MontreBoutonPasse(false);
@@ -280,6 +281,7 @@ void MauvaiseRéponse(Partie &P)
 {
     P.Score = Pénalité(P, P.Score, P.ErreursQuestion);
     if (P.Score <= 0) {
+        Vue(P).Verdict(TVerdict::Faux, static_cast<i16>(P.ErreursQuestion + 1));
         NoteQuestion(P, static_cast<i16>(P.ErreursQuestion + 1), false);
         PartiePerdue(P);
         return;
@@ -287,6 +289,7 @@ void MauvaiseRéponse(Partie &P)
     Vue(P).AfficheScore();
     P.ErreursQuestion = P.ErreursQuestion + 1;
     if (P.ErreursQuestion < 9) {
+        Vue(P).Verdict(TVerdict::Faux, P.ErreursQuestion);
         Vue(P).Son(TSon::Erreur);
         if (P.ErreursQuestion == 1 && P.Niveau == TNiveau::Facile && !P.ModeApprentissage)
             Vue(P).MontreBoutonPasse(true);
@@ -294,6 +297,7 @@ void MauvaiseRéponse(Partie &P)
             Vue(P).MontreBoutonGruge(true);
         return;
     }
+    Vue(P).Verdict(TVerdict::Perdue, P.ErreursQuestion);
     Vue(P).Son(TSon::Perdu);
     NoteQuestion(P, P.ErreursQuestion, false);
     if (P.AssistanceUtilisée) {
@@ -372,6 +376,7 @@ i32 DuréeDepuis(i32 heureDépart)
 
 void BoutonPasse_Click(Partie &P)
 {
+    Vue(P).Verdict(TVerdict::Passée, P.ErreursQuestion);
     NoteQuestion(P, P.ErreursQuestion, true);
     for (i16 k = P.ErreursQuestion; k <= 8; ++k)
         P.Score = Pénalité(P, P.Score, k);

@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -31,6 +32,21 @@ void Image::paintEvent(QPaintEvent *)
         peintre.drawPixmap(rect(), image);
     else
         peintre.drawPixmap(0, 0, image);
+    if (hasFocus()) {
+        peintre.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
+        peintre.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void Image::keyPressEvent(QKeyEvent *e)
+{
+    const int k = e->key();
+    if (Click && (k == Qt::Key_Space || k == Qt::Key_Return || k == Qt::Key_Enter)) {
+        e->accept();
+        Click();
+        return;
+    }
+    Contrôle<QWidget>::keyPressEvent(e);
 }
 
 void Image::mousePressEvent(QMouseEvent *e)
@@ -139,6 +155,7 @@ void BoutonGraphique::setPicture(const QPixmap &p)
 BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, QRect géométrie, int marge)
 {
     auto *b = new BoutonGraphique(parent);
+    b->setObjectName(image);
     b->setGeometry(géométrie);
     b->setPicture(ImageJeu(image, géométrie.size()));
     b->setIconSize(géométrie.size() - QSize(2 * marge, 2 * marge));
@@ -148,4 +165,14 @@ BoutonGraphique *BoutonImage(QWidget *parent, const QString &image, QRect géom�
 BarreDéfilement::BarreDéfilement(Qt::Orientation sens, QWidget *parent) : Contrôle<QScrollBar>(sens, parent)
 {
     setTracking(false);
+}
+
+void BoutonGraphique::keyPressEvent(QKeyEvent *e)
+{
+    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
+        e->accept();
+        click();
+        return;
+    }
+    Contrôle<QToolButton>::keyPressEvent(e);
 }

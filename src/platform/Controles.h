@@ -42,6 +42,8 @@ protected:
     void mousePressEvent(QMouseEvent *e) override;
     void mouseReleaseEvent(QMouseEvent *e) override;
     void mouseDoubleClickEvent(QMouseEvent *e) override;
+    // A picture given the keyboard's focus answers Space and Enter as a click.
+    void keyPressEvent(QKeyEvent *e) override;
 
 private:
     QPixmap image;
@@ -90,6 +92,10 @@ class BoutonGraphique : public Contrôle<QToolButton> {
 public:
     explicit BoutonGraphique(QWidget *parent) : Contrôle<QToolButton>(parent) {}
     void setPicture(const QPixmap &p);
+
+protected:
+    // Enter presses it as it does a command button.
+    void keyPressEvent(QKeyEvent *e) override;
 };
 
 // A square picture button whose picture fills it but for a margin that leaves its frame in view.

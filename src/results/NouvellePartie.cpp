@@ -49,6 +49,15 @@ NouvellePartie::NouvellePartie() : QDialog(FenêtrePrincipale(), CadreDialogueFi
     BoutonSortie->setDefault(true);
     BoutonAnnuler = new QPushButton(Message(TMessage::Annuler), this);
     BoutonAnnuler->setGeometry(184, 264, 66, 31);
+    BoîteNomJoueur->setObjectName(QStringLiteral("BoîteNomJoueur"));
+    Frame1->setObjectName(QStringLiteral("Difficulté"));
+    NiveauApprentissage->setObjectName(QStringLiteral("Niveau0"));
+    NiveauFacile->setObjectName(QStringLiteral("Niveau1"));
+    NiveauMoyen->setObjectName(QStringLiteral("Niveau2"));
+    NiveauDifficile->setObjectName(QStringLiteral("Niveau3"));
+    NiveauExpert->setObjectName(QStringLiteral("Niveau4"));
+    BoutonSortie->setObjectName(QStringLiteral("BoutonSortie"));
+    BoutonAnnuler->setObjectName(QStringLiteral("BoutonAnnuler"));
     setTabOrder(BoîteNomJoueur, NiveauFacile);
 
     // Centred on the screen.

@@ -61,6 +61,13 @@ SélectionPartie::SélectionPartie() : QDialog(FenêtrePrincipale(), CadreDialog
     BoutonOK->setGeometry(24, 264, 50, 36);
     BoutonAnnuler = new QPushButton(Message(TMessage::Annuler), this);
     BoutonAnnuler->setGeometry(216, 264, 74, 34);
+    Entête->setObjectName(QStringLiteral("Entête"));
+    Répertoire->setObjectName(QStringLiteral("Répertoire"));
+    Lecteur->setObjectName(QStringLiteral("Lecteur"));
+    Fichier->setObjectName(QStringLiteral("Fichier"));
+    NomFichier->setObjectName(QStringLiteral("NomFichier"));
+    BoutonOK->setObjectName(QStringLiteral("BoutonOK"));
+    BoutonAnnuler->setObjectName(QStringLiteral("BoutonAnnuler"));
     for (QWidget *w : std::initializer_list<QWidget *>{this, Répertoire, Lecteur, Fichier, NomFichier, BoutonOK, BoutonAnnuler})
         w->setProperty("HelpContextID", 10);
 

@@ -117,6 +117,7 @@ Stats::Stats() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     TriePertes();
 
     BarreVerticale = new BarreDéfilement(Qt::Vertical, this);
+    BarreVerticale->setObjectName(QStringLiteral("BarreVerticale"));
     BarreVerticale->setGeometry(520, 128, 17, 297);
     BarreVerticale->hide();
     BarreVerticale->setMin(0);

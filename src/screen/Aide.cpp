@@ -73,6 +73,7 @@ void OuvreAide(int contexte)
         fenêtre->setParent(propriétaire, Qt::Window);
     if (!fenêtre) {
         fenêtre = new QTextBrowser(propriétaire);
+        fenêtre->setObjectName(QStringLiteral("Aide"));
         fenêtre->setWindowFlag(Qt::Window);
         fenêtre->setAttribute(Qt::WA_DeleteOnClose);
         fenêtre->setOpenExternalLinks(false);

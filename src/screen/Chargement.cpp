@@ -58,6 +58,8 @@ void ChargeEcranPrincipal()
     for (int i = 1; i <= NombrePlaces; ++i) {
         E.rond[i] = E.CréeDepuisModèle(E.rond[0]);
         E.Pays[i] = E.CréeDepuisModèle(E.Pays[0]);
+        E.rond[i]->setObjectName(QStringLiteral("rond%1").arg(i, 2, 10, QLatin1Char('0')));
+        E.Pays[i]->setObjectName(QStringLiteral("Pays%1").arg(i, 2, 10, QLatin1Char('0')));
         E.rond[i]->Click = [i] { rond_Click(Jeu(), static_cast<i16>(i)); };
         E.Pays[i]->Click = [i] { CliqueCarte(Jeu().Cantons[i].Région); };
         E.Pays[i]->hide();

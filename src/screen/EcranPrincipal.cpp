@@ -38,6 +38,7 @@ namespace {
 Image *NouvelleImage(QWidget *parent, const QString &nom, QRect géométrie, bool visible = true)
 {
     auto *im = new Image(parent);
+    im->setObjectName(nom);
     im->setGeometry(géométrie);
     if (!nom.isEmpty())
         im->setPicture(ImageJeu(nom, géométrie.size()));

@@ -20,6 +20,7 @@ constexpr int HauteurEdition = 435;
 BoutonGraphique *BoutonFlèche(QWidget *parent, const QString &image, int gauche, int haut, int côté)
 {
     auto *b = new BoutonGraphique(parent);
+    b->setObjectName(image);
     b->setGeometry(gauche, haut, côté, côté);
     b->setPicture(ImageJeu(image, QSize(côté, côté)));
     // The picture inside the button's frame.
@@ -53,6 +54,8 @@ Edition::Edition() : QDialog(FenêtrePrincipale())
     BTNRight = BoutonFlèche(this, QStringLiteral("BTNRight"), 216, 344, 33);
     BTNDown = BoutonFlèche(this, QStringLiteral("BTNDown"), 336, 344, 33);
     BTNQuit = BoutonFlèche(this, QStringLiteral("BTNQuit"), 192, 392, 41);
+    LBLPays->setObjectName(QStringLiteral("NomCanton"));
+    TXTInfos->setObjectName(QStringLiteral("TXTInfos"));
     setTabOrder(TXTInfos, BTNUp);
     setTabOrder(BTNUp, BTNLeft);
     setTabOrder(BTNLeft, BTNRight);

@@ -6,6 +6,7 @@
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
 #include "platform/Images.h"
+#include "screen/Accessibles.h"
 #include "screen/EcranPrincipal.h"
 #include "screen/VueJeu.h"
 #include "services/Chemins.h"
@@ -18,6 +19,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QMenuBar>
 
 void ChargeImagesPays()
 {
@@ -83,6 +85,7 @@ void EtiquetteEcran()
     E.LBLParam[13]->setText(Message(TMessage::ParamétrageDeLancement));
     E.BTN[2]->setText(Message(TMessage::Annuler));
     LibelléSpécifique();
+    PlaceMnémoniques(E.menuBar());
 }
 
 void ChangeLangue(int n)

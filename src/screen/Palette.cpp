@@ -55,6 +55,9 @@ Palette::Palette(short repère) : QDialog(FormePrincipale(), Qt::Dialog | Qt::Fr
     BoutonFermeture = new Image(this);
     BoutonFermeture->setGeometry(112, 0, 19, 19);
     BoutonFermeture->setPicture(ImageJeu(QStringLiteral("FermePalette"), QSize(19, 19)));
+    BoutonFermeture->setObjectName(QStringLiteral("FermePalette"));
+    // Tab goes from colour to colour, Space or Enter takes one, Escape closes.
+    BoutonFermeture->setFocusPolicy(Qt::StrongFocus);
     BoutonFermeture->Click = [this] { BoutonFermeture_Click(); };
     for (int k = 1; k <= 40; ++k) {
         const int r = (k - 1) / 8 + 1;
@@ -63,6 +66,8 @@ Palette::Palette(short repère) : QDialog(FormePrincipale(), Qt::Dialog | Qt::Fr
         im->setGeometry(8 + 16 * (c - 1), 24 + 16 * (r - 1), 7, 8);
         im->setPicture(RondDeCouleur(k));
         im->setToolTip(NomCouleur(k));
+        im->setObjectName(QStringLiteral("Couleur%1").arg(k, 2, 10, QLatin1Char('0')));
+        im->setFocusPolicy(Qt::StrongFocus);
         im->setCursor(Qt::PointingHandCursor);
         im->Click = [this, k] { ChoixCouleur_Click(k); };
         ChoixCouleur[k] = im;

@@ -67,6 +67,14 @@ ParamétrageRépertoires::ParamétrageRépertoires() : QDialog(FenêtrePrincipal
     BoutonOK->setGeometry(120, 304, 50, 36);
     // No default button: Enter belongs to the control that has the focus, so that in
     // SousRépertoire it makes the folder and in the folder list it goes in.
+    Entête->setObjectName(QStringLiteral("Entête"));
+    Répertoire->setObjectName(QStringLiteral("Répertoire"));
+    Lecteur->setObjectName(QStringLiteral("Lecteur"));
+    Fichier->setObjectName(QStringLiteral("Fichier"));
+    NomFichier->setObjectName(QStringLiteral("NomFichier"));
+    Command1->setObjectName(QStringLiteral("Command1"));
+    SousRépertoire->setObjectName(QStringLiteral("SousRépertoire"));
+    BoutonOK->setObjectName(QStringLiteral("BoutonOK"));
     BoutonOK->setAutoDefault(false);
     Command1->setAutoDefault(false);
     setTabOrder(BoutonOK, Répertoire);

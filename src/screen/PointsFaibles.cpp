@@ -122,11 +122,9 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
     setObjectName(QStringLiteral("PointsFaibles"));
     setWindowTitle(Message(TMessage::PointsFaibles));
     Etapes = new QTabBar(this);
-    Etapes->setObjectName(QStringLiteral("PointsFaiblesEtapes"));
     for (int k = 0; k < 4; ++k)
         Etapes->addTab(QString());
     Parties = new QComboBox(this);
-    Parties->setObjectName(QStringLiteral("PointsFaiblesParties"));
     Parties->addItems({QString(), QString(), QString()});
     Légende = new QLabel(this);
     auto *légende = new QHBoxLayout;
@@ -139,10 +137,8 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
     }
     légende->addStretch();
     Rejouer = new QPushButton(this);
-    Rejouer->setObjectName(QStringLiteral("PointsFaiblesRejouer"));
     légende->addWidget(Rejouer);
     Exporter = new QPushButton(this);
-    Exporter->setObjectName(QStringLiteral("PointsFaiblesExporter"));
     légende->addWidget(Exporter);
     connect(Exporter, &QPushButton::clicked, this, [] {
         // Written whole beside the game's other files, as its statistics are.
@@ -164,7 +160,12 @@ PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe
         close();
     });
     Carte = new CartePointsFaibles(this);
-    Carte->setObjectName(QStringLiteral("PointsFaiblesCarte"));
+    Etapes->setObjectName(QStringLiteral("Etapes"));
+    Parties->setObjectName(QStringLiteral("Parties"));
+    Légende->setObjectName(QStringLiteral("Légende"));
+    Rejouer->setObjectName(QStringLiteral("Rejouer"));
+    Exporter->setObjectName(QStringLiteral("Exporter"));
+    Carte->setObjectName(QStringLiteral("CartePointsFaibles"));
     auto *haut = new QHBoxLayout;
     haut->addWidget(Etapes);
     haut->addStretch();

@@ -113,6 +113,11 @@ Pompe::Pompe() : QDialog(FenêtrePrincipale())
     TXTInfos->Place(8, 136, 369, 233);
     TXTInfos->setReadOnly(true);
     TXTInfos->setFocusPolicy(Qt::ClickFocus);
+    BTNOK->setObjectName(QStringLiteral("BTNOK"));
+    LBLPays->setObjectName(QStringLiteral("LBLPays"));
+    IMGDrapeau->setObjectName(QStringLiteral("IMGDrapeau"));
+    LBLCapitale->setObjectName(QStringLiteral("LBLCapitale"));
+    TXTInfos->setObjectName(QStringLiteral("TXTInfos"));
     connect(BTNOK, &QPushButton::clicked, this, [this] { BTNOK_Click(); });
 
     const int i = Jeu().CantonFiche;

@@ -15,11 +15,13 @@
 #include "screen/Etiquettes.h"
 #include "screen/Parametrage.h"
 #include "screen/ParametrageRepertoires.h"
+#include "screen/Accessibles.h"
 #include "screen/VueJeu.h"
 #include "services/Donnees.h"
 #include "services/Langues.h"
 #include "services/Parametres.h"
 #include "screen/Patience.h"
+#include "services/Accessibilite.h"
 #include "services/Sons.h"
 #include "results/PartieEnCours.h"
 #include "results/HistoriqueJoueur.h"
@@ -58,7 +60,16 @@ public:
         Boîte(MessageTransition(finie, suivante), StyleInformation, Message(TMessage::TitreEtapeSuivante));
     }
     void EtapeCommencée() override { PrépareEtape(); }
-    void QuestionPosée() override { MontreQuestion(); }
+    void QuestionPosée() override
+    {
+        MontreQuestion();
+        AnnonceQuestion();
+    }
+    void Verdict(TVerdict v, i16 erreurs) override
+    {
+        static constexpr TAnnonceLue lue[] = {TAnnonceLue::Juste, TAnnonceLue::Faux, TAnnonceLue::QuestionPerdue, TAnnonceLue::QuestionPassée};
+        AnnonceVerdict(TexteAnnonce(lue[static_cast<int>(v)], Langues().Langue, QString::number(erreurs)));
+    }
     void AfficheScore() override { ::AfficheScore(); }
     void AfficheRestants(i16 n) override { ::AfficheRestants(n); }
     void MontreCanton(i16 i) override { ::MontreCanton(i); }
@@ -130,6 +141,7 @@ void RelieEcranPrincipal(EcranPrincipal &E)
     // Closing by the menu or the close box asks first; showing unloads the loading form.
     E.ÀLaFermeture = Form_Unload;
     InstalleVueEcran(true);
+    InstalleAccessibilité(E);
 }
 
 bool Main()
