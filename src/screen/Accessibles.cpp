@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <QScrollBar>
 #include <QTimer>
 #include <utility>
@@ -95,11 +96,43 @@ QWidget *annonceur = nullptr;
 // as a second one at once would cut the first short.
 QString verdictEnCours;
 
+// The menus' letters are underlined once the player reaches for the keyboard (Alt), until
+// the next click: the window looks as it always did to a player of the mouse.
+bool lettresMontrées = false;
+
+class StyleLettres : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *retour) const override
+    {
+        if (hint == SH_UnderlineShortcut)
+            return lettresMontrées;
+        return QProxyStyle::styleHint(hint, option, widget, retour);
+    }
+};
+
+void MontreLettres(bool montrées)
+{
+    if (montrées == lettresMontrées)
+        return;
+    lettresMontrées = montrées;
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (w->isVisible()) {
+            w->update();
+            for (QMenuBar *barre : w->findChildren<QMenuBar *>())
+                barre->update();
+        }
+}
+
 class Veilleur : public QObject {
 protected:
     bool eventFilter(QObject *o, QEvent *e) override
     {
         const auto type = e->type();
+        if (type == QEvent::KeyPress && static_cast<QKeyEvent *>(e)->key() == Qt::Key_Alt)
+            MontreLettres(true);
+        else if (type == QEvent::MouseButtonPress)
+            MontreLettres(false);
         if (type != QEvent::Show && type != QEvent::LanguageChange && type != QEvent::KeyPress)
             return false;
         auto *w = qobject_cast<QWidget *>(o);
@@ -181,6 +214,7 @@ void InstalleAccessibilité(EcranPrincipal &E)
     if (!veilleur) {
         veilleur = new Veilleur;
         qApp->installEventFilter(veilleur);
+        QApplication::setStyle(new StyleLettres(QApplication::style()->name()));
         QAccessible::installFactory(FabriqueAnnonces);
     }
     NommeEcranPrincipal(E);

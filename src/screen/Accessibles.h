@@ -12,7 +12,8 @@ void HabilleAccessible(QWidget *forme);
 // Once, for the main window: its controls under their names, the announcer, the menus'
 // letters, and every window named and described when it shows or the language changes.
 void InstalleAccessibilité(EcranPrincipal &E);
-// Gives each entry of a menu bar or a menu its keyboard letter (see Mnémoniques).
+// Gives each entry of a menu bar or a menu its keyboard letter (see Mnémoniques); the letters
+// show underlined from a press of Alt to the next click.
 void PlaceMnémoniques(QWidget *menu);
 
 // Tells a screen reader, without showing anything.

@@ -114,6 +114,13 @@ TEST_F(JeuTest, EveryMenuTitleAndEntryHasItsOwnKeyboardLetterInBothLanguagesAndN
         }
         EXPECT_FALSE(Principal().windowTitle().contains('&') || Principal().BoutonPasse->toolTip().contains('&'));
     }
+    // Underlined from Alt to the next click only: the menu bar looks as ever to a player of the mouse.
+    const auto soulignées = [] { return Principal().style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, Principal().menuBar()); };
+    EXPECT_FALSE(soulignées());
+    QTest::keyPress(Principal().menuBar(), Qt::Key_Alt), QTest::keyRelease(Principal().menuBar(), Qt::Key_Alt);
+    EXPECT_TRUE(soulignées());
+    QTest::mouseClick(Principal().Carte, Qt::LeftButton);
+    EXPECT_FALSE(soulignées());
 }
 
 // Qt passes accessibility events on only to an active desktop bridge, which tests have not:
