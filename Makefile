@@ -45,7 +45,7 @@ fuzz:
 	$(call FUZZ,FuzzRegistre,-max_len=4000 -dict=$(CURDIR)/tests/fuzz/registre.dict)
 	$(call FUZZ,FuzzFiches,-max_len=17550 -seed_inputs=$(CURDIR)/data/KELMOR.INF$(,)$(CURDIR)/data/DRAVELN.INF)
 	$(call FUZZ,FuzzPage,-max_len=40000 -dict=$(CURDIR)/tests/fuzz/page.dict)
-	$(call FUZZ,FuzzHistorique,-max_len=40000 -dict=$(CURDIR)/tests/fuzz/historique.dict)
+	$(call FUZZ,FuzzHistorique,-max_len=40000 -dict=$(CURDIR)/tests/fuzz/historique.dict -seed_inputs=$(CURDIR)/data/graines/historique-v1.sqlite)
 
 clean:
 	rm -rf $(BUILD)

@@ -27,6 +27,8 @@ void Essaie(const QByteArray &octets)
     // Whatever the tables hold, reading and writing them ends without a crash: a file of ours
     // with damaged tables gives no figures or records nothing, and the game plays on.
     BilanErreurs(QStringLiteral("Zoé"), 0), BilanErreurs(QStringLiteral("Zoé"), 10), HistoriqueCSV(QStringLiteral("Zoé"));
+    for (TNiveau n : {TNiveau::Moyen, DernierNiveauFini(QStringLiteral("Zoé"), QStringLiteral("KELMOR.SCS"))})
+        Séries(PartiesFinies(QStringLiteral("Zoé"), n, QStringLiteral("KELMOR.SCS")), QDate(2026, 11, 23));
     EnregistreHistorique(CommencePartieHistorique({QStringLiteral("Zoé"), TNiveau::Moyen, false, QStringLiteral("KELMOR.SCS"), {}}),
                          {{1, TEtape::Cantons, 0, false, false, 1}}, TIssuePartie::Gagnée, 1, 1);
 }
