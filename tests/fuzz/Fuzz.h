@@ -33,7 +33,9 @@ inline void Écrit(const QString &chemin, const QByteArray &octets)
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(*argc, *argv);
+    // Never destroyed: at exit Qt's own statics (the SQL connections') may go before it.
+    static auto *application = new QApplication(*argc, *argv);
+    Q_UNUSED(application);
     InstalleBoîtes(&boîtes);
     ChargeChaînes();
     if (Prépare)
