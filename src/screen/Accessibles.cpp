@@ -243,10 +243,13 @@ void Annonce(const QString &texte)
 
 void AnnonceVerdict(const QString &texte)
 {
+    // Said once the click is handled, alone unless the next question took it along.
     verdictEnCours = texte;
-    Annonce(texte);
     if (annonceur)
-        QTimer::singleShot(0, annonceur, [] { verdictEnCours.clear(); });
+        QTimer::singleShot(0, annonceur, [] {
+            if (!verdictEnCours.isEmpty())
+                Annonce(std::exchange(verdictEnCours, QString()));
+        });
 }
 
 void AnnonceQuestion()
