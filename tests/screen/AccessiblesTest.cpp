@@ -127,8 +127,6 @@ TEST_F(JeuTest, EveryMenuTitleAndEntryHasItsOwnKeyboardLetterInBothLanguagesAndN
     EXPECT_FALSE(soulignées());
 }
 
-// Qt passes accessibility events on only to an active desktop bridge, which tests have not:
-// what the announcer says after each click is read from its interface, as a reader would.
 TEST_F(JeuTest, TheQuestionAndTheVerdictOfEachClickAreAnnouncedInTheLanguageInUse)
 {
     QAccessibleInterface *annonceur = QAccessible::queryAccessibleInterface(Principal().findChild<QWidget *>("Annonces"));
