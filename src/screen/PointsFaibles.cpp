@@ -6,6 +6,7 @@
 #include "results/HistoriqueJoueur.h"
 #include "results/PartieEnCours.h"
 #include "platform/Boites.h"
+#include "screen/Accessibles.h"
 #include "screen/Pompe.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
@@ -14,6 +15,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSaveFile>
@@ -65,6 +67,7 @@ public:
     {
         setFixedSize(LargeurCarte, HauteurCarte);
         setMouseTracking(true);
+        setFocusPolicy(Qt::StrongFocus);
         fond = ImageJeu(QStringLiteral("carte"), size());
         // The cantons' borders, where the raster changes canton to the right or below.
         bords = QImage(size(), QImage::Format_ARGB32_Premultiplied);
@@ -74,8 +77,13 @@ public:
                 const i16 c = ZoneEn(Jeu().Carte, 0, x, y);
                 if (c != ZoneEn(Jeu().Carte, 0, x + 1, y) || c != ZoneEn(Jeu().Carte, 0, x, y + 1))
                     bords.setPixelColor(x, y, QColor(70, 40, 40, 200));
+                if (c >= 1 && c <= NombrePlaces)
+                    centres[c] += QPointF(x, y), ++surfaces[c];
             }
+        for (int c = 1; c <= NombrePlaces; ++c)
+            centres[c] /= std::max(surfaces[c], 1);
     }
+    i16 Choisi = 0; // the canton reached by the keyboard
     i16 CantonEn(QPoint p) const { return ZoneEn(Jeu().Carte, 0, p.x(), p.y()); }
 
 protected:
@@ -84,18 +92,33 @@ protected:
         QPainter peintre(this);
         peintre.drawPixmap(0, 0, fond);
         const int étape = forme->Etapes->currentIndex() + 1;
-        const TCarteZones &carte = Jeu().Carte;
-        for (int y = 0; y < HauteurCarte; ++y) {
-            const int premier = std::max<int>(carte.DébutsLignes[0][y], 0);
-            const int dernier = std::min<int>(carte.DébutsLignes[0][y + 1], MaxSegments) - 1;
-            for (int s = premier; s <= dernier; ++s) {
-                const TPointSegment &r = carte.PointsSegments[0][s];
-                const int fin = s < dernier ? carte.PointsSegments[0][s + 1].X : LargeurCarte - 1;
-                if (r.Zone >= 1 && r.Zone <= NombrePlaces && fin > r.X)
-                    peintre.fillRect(r.X + 1, y, fin - r.X, 1, TeinteManquées(forme->Bilan[étape][r.Zone]));
-            }
-        }
+        Parcourt([&](int x, int y, int n, i16 c) { peintre.fillRect(x, y, n, 1, TeinteManquées(forme->Bilan[étape][c])); });
         peintre.drawImage(0, 0, bords);
+        if (Choisi && hasFocus())
+            Parcourt([&](int x, int y, int n, i16 c) {
+                if (c == Choisi)
+                    peintre.fillRect(x, y, n, 1, QBrush(Qt::black, Qt::BDiagPattern));
+            });
+    }
+    // Without a mouse: the arrows go from canton to canton, their figures said and shown;
+    // Enter opens the card.
+    void keyPressEvent(QKeyEvent *e) override
+    {
+        const int k = e->key();
+        if (k == Qt::Key_Right || k == Qt::Key_Down || k == Qt::Key_Left || k == Qt::Key_Up) {
+            const bool suivant = k == Qt::Key_Right || k == Qt::Key_Down;
+            Choisi = static_cast<i16>(suivant ? Choisi % NombrePlaces + 1 : (Choisi <= 1 ? NombrePlaces : Choisi - 1));
+            const int étape = forme->Etapes->currentIndex() + 1;
+            const QString texte = TexteBilan(Jeu().Cantons[Choisi].Nom, forme->Bilan[étape][Choisi]);
+            QToolTip::showText(mapToGlobal(centres[Choisi].toPoint()), texte, this);
+            Annonce(texte);
+            update();
+        } else if ((k == Qt::Key_Return || k == Qt::Key_Enter || k == Qt::Key_Space) && Choisi) {
+            Jeu().CantonFiche = Choisi;
+            MontrePompe();
+        } else {
+            QWidget::keyPressEvent(e);
+        }
     }
     void mouseMoveEvent(QMouseEvent *e) override
     {
@@ -115,6 +138,24 @@ private:
     PointsFaibles *forme;
     QPixmap fond;
     QImage bords;
+    QPointF centres[NombrePlaces + 1];
+    int surfaces[NombrePlaces + 1] = {};
+    // Calls fait(x, y, length, canton) for each run of the raster inside a canton.
+    template <class F>
+    void Parcourt(F fait) const
+    {
+        const TCarteZones &carte = Jeu().Carte;
+        for (int y = 0; y < HauteurCarte; ++y) {
+            const int premier = std::max<int>(carte.DébutsLignes[0][y], 0);
+            const int dernier = std::min<int>(carte.DébutsLignes[0][y + 1], MaxSegments) - 1;
+            for (int s = premier; s <= dernier; ++s) {
+                const TPointSegment &r = carte.PointsSegments[0][s];
+                const int fin = s < dernier ? carte.PointsSegments[0][s + 1].X : LargeurCarte - 1;
+                if (r.Zone >= 1 && r.Zone <= NombrePlaces && fin > r.X)
+                    fait(r.X + 1, y, fin - r.X, r.Zone);
+            }
+        }
+    }
 };
 
 PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)

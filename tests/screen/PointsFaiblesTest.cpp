@@ -34,6 +34,11 @@ TEST_F(JeuTest, WeakSpotsTintEachCantonByItsShareOfMissedQuestions)
     EXPECT_EQ(teinte(1), teinte(3)) << "no chief town was asked";
     f.Rejouer->click();
     EXPECT_EQ(boîtes.journal.size(), 1u) << "nothing missed in the chief towns";
+    // Without a mouse: the arrows go round the cantons, Enter opens the card of the one reached.
+    InstalleFormesModales([](QDialog &) { return 0; });
+    for (auto touche : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return})
+        QTest::keyClick(f.Carte, touche);
+    EXPECT_TRUE(Jeu().CantonFiche == 2 && FormesMontrées().back() == "Pompe");
     // The replay starts once the form is gone, from the main window.
     InstalleDialogueNouvellePartie([] { Jeu().Niveau = TNiveau::Moyen, Jeu().Etape = Jeu().OrdreEtapes[1]; });
     f.Etapes->setCurrentIndex(0), f.Rejouer->click();
