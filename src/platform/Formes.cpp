@@ -29,3 +29,12 @@ QWidget *principale = nullptr;
 QWidget *FenêtrePrincipale() { return principale; }
 
 void InstalleFenêtrePrincipale(QWidget *fenêtre) { principale = fenêtre; }
+
+void MontreÀCôté(QWidget *forme)
+{
+    forme->setAttribute(Qt::WA_DeleteOnClose);
+    FormesMontrées().push_back(forme->objectName());
+    forme->show();
+    forme->raise();
+    forme->activateWindow();
+}

@@ -1,5 +1,6 @@
 #pragma once
 // Modal forms: shown and waited for, or handled by a script in tests.
+#include <QPointer>
 #include <QString>
 #include <qnamespace.h>
 #include <functional>
@@ -23,5 +24,18 @@ int ExécuteModal(QDialog &forme);
 // controls; its return value is the form's result. An empty function puts the real wait back.
 void InstalleFormesModales(std::function<int(QDialog &)> script);
 
-// The object names of the forms shown modally so far, for tests.
+// The object names of the forms shown so far, for tests.
 std::vector<QString> &FormesMontrées();
+
+// Shows beside the main window a form that stays open while the game goes on, and brings it
+// to the front; it is gone once closed.
+void MontreÀCôté(QWidget *forme);
+// The one form of type F beside the main window: made when none is open, else brought forward.
+template <class F>
+void MontreUnique()
+{
+    static QPointer<F> forme;
+    if (!forme)
+        forme = new F;
+    MontreÀCôté(forme);
+}

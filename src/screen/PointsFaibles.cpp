@@ -254,13 +254,5 @@ void PointsFaibles::Actualise()
 void MontrePointsFaibles()
 {
     OuvreHistoriqueDuJoueur();
-    static QPointer<PointsFaibles> forme;
-    if (!forme) {
-        forme = new PointsFaibles;
-        forme->setAttribute(Qt::WA_DeleteOnClose);
-    }
-    FormesMontrées().push_back(forme->objectName());
-    forme->show();
-    forme->raise();
-    forme->activateWindow();
+    MontreUnique<PointsFaibles>();
 }

@@ -192,13 +192,5 @@ void Progression::changeEvent(QEvent *e)
 void MontreProgression()
 {
     OuvreHistoriqueDuJoueur();
-    static QPointer<Progression> forme;
-    if (!forme) {
-        forme = new Progression;
-        forme->setAttribute(Qt::WA_DeleteOnClose);
-    }
-    FormesMontrées().push_back(forme->objectName());
-    forme->show();
-    forme->raise();
-    forme->activateWindow();
+    MontreUnique<Progression>();
 }
