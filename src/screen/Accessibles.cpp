@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QScrollBar>
 #include <QTimer>
@@ -82,12 +83,92 @@ void Habille(QWidget *w)
         w->setAccessibleDescription(texte->Description);
 }
 
-// A screen reader reads the announcer as an alert, not as a plain text.
+// An entry of the menu bar or of a menu as Qt presents it, with its description too (Qt's
+// own entries have none): the words of the entry's object name in the language in use.
+class EntréeMenu : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    EntréeMenu(QWidget *menu, QAction *action) : menu(menu), action(action) {}
+    bool isValid() const override { return menu && action; }
+    QObject *object() const override { return action; }
+    QWindow *window() const override { return menu ? menu->window()->windowHandle() : nullptr; }
+    QAccessibleInterface *parent() const override { return QAccessible::queryAccessibleInterface(menu); }
+    int childCount() const override { return action->menu() ? 1 : 0; }
+    QAccessibleInterface *child(int i) const override
+    {
+        return i == 0 && action->menu() ? QAccessible::queryAccessibleInterface(action->menu()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *c) const override { return c && c->object() == action->menu() ? 0 : -1; }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+    QRect rect() const override
+    {
+        const auto *barre = qobject_cast<QMenuBar *>(menu);
+        const QRect r = barre ? barre->actionGeometry(action) : static_cast<QMenu *>(menu.data())->actionGeometry(action);
+        return QRect(menu->mapToGlobal(r.topLeft()), r.size());
+    }
+    QAccessible::Role role() const override { return action->isSeparator() ? QAccessible::Separator : QAccessible::MenuItem; }
+    QAccessible::State state() const override
+    {
+        QAccessible::State s;
+        s.focusable = true;
+        s.disabled = !action->isEnabled();
+        s.invisible = !action->isVisible();
+        s.hasPopup = action->menu() != nullptr;
+        s.checkable = action->isCheckable();
+        s.checked = action->isChecked();
+        const auto *barre = qobject_cast<QMenuBar *>(menu);
+        s.focused = (barre ? barre->activeAction() : static_cast<QMenu *>(menu.data())->activeAction()) == action;
+        return s;
+    }
+    QString text(QAccessible::Text t) const override
+    {
+        switch (t) {
+        case QAccessible::Name: return SansMnémonique(action->text());
+        case QAccessible::Accelerator: {
+            const QKeySequence lettre = QKeySequence::mnemonic(action->text());
+            return (action->shortcut().isEmpty() ? lettre : action->shortcut()).toString(QKeySequence::NativeText);
+        }
+        case QAccessible::Description: {
+            const auto texte = TexteAccessible(action->objectName(), Langues().Langue);
+            return texte ? texte->Description : QString();
+        }
+        default: return QString();
+        }
+    }
+    void setText(QAccessible::Text, const QString &) override {}
+    void *interface_cast(QAccessible::InterfaceType t) override
+    {
+        return t == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface *>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return {action->menu() ? showMenuAction() : pressAction()}; }
+    void doAction(const QString &) override
+    {
+        if (!action->isEnabled())
+            return;
+        if (auto *barre = qobject_cast<QMenuBar *>(menu))
+            barre->setActiveAction(action);
+        else if (action->menu())
+            static_cast<QMenu *>(menu.data())->setActiveAction(action);
+        else
+            action->trigger();
+    }
+    QStringList keyBindingsForAction(const QString &) const override { return {text(QAccessible::Accelerator)}; }
+
+private:
+    QPointer<QWidget> menu; // the menu bar or menu that holds the entry
+    QPointer<QAction> action;
+};
+
+// A screen reader reads the announcer as an alert, not as a plain text; a menu's entries
+// come with their descriptions.
 QAccessibleInterface *FabriqueAnnonces(const QString &, QObject *o)
 {
     auto *w = qobject_cast<QWidget *>(o);
     if (w && w->objectName() == QLatin1String("Annonces"))
         return new QAccessibleWidget(w, QAccessible::AlertMessage);
+    if (auto *action = qobject_cast<QAction *>(o); action && !action->objectName().isEmpty())
+        for (QObject *porteur : action->associatedObjects())
+            if (qobject_cast<QMenu *>(porteur) || qobject_cast<QMenuBar *>(porteur))
+                return new EntréeMenu(static_cast<QWidget *>(porteur), action);
     return nullptr;
 }
 
@@ -180,6 +261,22 @@ void NommeEcranPrincipal(EcranPrincipal &E)
         nomme(E.Bouton[i], QStringLiteral("Bouton"), i);
     for (int i = 1; i <= 2; ++i)
         nomme(E.BTN[i], QStringLiteral("BTN"), i);
+    // The menus' entries, under the names their descriptions are found by.
+    const std::pair<QAction *, const char *> entrées[] = {
+        {E.MenuFichier->menuAction(), "MenuFichier"}, {E.MenuParamétrer->menuAction(), "MenuParamétrer"},
+        {E.MenuScores->menuAction(), "MenuScores"}, {E.MenuLangue->menuAction(), "MenuLangue"},
+        {E.FichierNouveau, "FichierNouveau"}, {E.FichierEnregistrer, "FichierEnregistrer"}, {E.FichierLire, "FichierLire"},
+        {E.FichierVersion, "FichierVersion"}, {E.FichierQuitter, "FichierQuitter"},
+        {E.MenuAfficheParamètres, "MenuAfficheParamètres"}, {E.MenuDéfaut, "MenuDéfaut"}, {E.MenuRecharger, "MenuRecharger"},
+        {E.MenuDéfinir, "MenuDéfinir"}, {E.Menuson, "Menuson"}, {E.MenuCouleurCapitalesATrouver, "MenuCouleurCapitalesATrouver"},
+        {E.MenuCouleurCapitalesTrouvées, "MenuCouleurCapitalesTrouvées"}, {E.MenuInf, "MenuInf"}, {E.MenuFichInfo, "MenuFichInfo"},
+        {E.ScoreEnCours, "ScoreEnCours"}, {E.ScoreFacile, "ScoreFacile"}, {E.ScoreMoyen, "ScoreMoyen"},
+        {E.ScoreDifficile, "ScoreDifficile"}, {E.ScoreExpert, "ScoreExpert"}, {E.MenuRazScores, "MenuRazScores"},
+        {E.MenuPointsFaibles, "MenuPointsFaibles"}, {E.MenuProgression, "MenuProgression"}, {E.MenuRévision, "MenuRévision"},
+        {E.MenuFrançais, "MenuFrançais"}, {E.MenuAllemand, "MenuAllemand"}, {E.MenuAutreLangue, "MenuAutreLangue"},
+        {E.MenuAide, "MenuAide"}, {E.MenuAPropos, "MenuAPropos"}};
+    for (auto [action, nom] : entrées)
+        action->setObjectName(QString::fromUtf8(nom));
 }
 } // namespace
 

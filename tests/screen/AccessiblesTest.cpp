@@ -113,6 +113,10 @@ TEST_F(JeuTest, EveryMenuTitleAndEntryHasItsOwnKeyboardLetterInBothLanguagesAndN
                     continue;
                 const int touche = QKeySequence::mnemonic(a->text())[0].toCombined();
                 EXPECT_TRUE(touche && !touches.contains(touche)) << a->text().toStdString() << " " << langue;
+                QAccessibleInterface *entrée = QAccessible::queryAccessibleInterface(m)->child(int(m->actions().indexOf(a)));
+                EXPECT_TRUE(entrée && entrée->role() == QAccessible::MenuItem && !entrée->text(QAccessible::Description).isEmpty() &&
+                            entrée->text(QAccessible::Name) == SansMnémonique(a->text()) && entrée->parent()->object() == m)
+                    << a->text().toStdString();
                 touches.insert(touche);
             }
         }

@@ -35,7 +35,6 @@ TEST_F(JeuTest, WeakSpotsTintEachCantonByItsShareOfMissedQuestions)
     f.Rejouer->click();
     EXPECT_EQ(boîtes.journal.size(), 1u) << "nothing missed in the chief towns";
     // Without a mouse: the arrows go round the cantons, Enter opens the card of the one reached.
-    InstalleFormesModales([](QDialog &) { return 0; });
     for (auto touche : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return})
         QTest::keyClick(f.Carte, touche);
     EXPECT_TRUE(Jeu().CantonFiche == 2 && FormesMontrées().back() == "Pompe");
