@@ -9,33 +9,42 @@
 #include "services/Reglages.h"
 
 #include <QBuffer>
-#include <QChart>
-#include <QChartView>
-#include <QDateTimeAxis>
+#include <QCoreApplication>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineSeries>
-#include <QPointer>
+#include <QLibrary>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTabBar>
-#include <QValueAxis>
 #include <QVBoxLayout>
 
-namespace {
-// The weak-spot map's scale, so that the two read alike to every eye.
-const QColor CouleurScore(0x3b, 0x52, 0x8b), CouleurDurée(0x21, 0x91, 0x8c), CouleurDixième(0x44, 0x01, 0x54);
-const TMessage NomsNiveaux[] = {TMessage::Facile, TMessage::Moyen, TMessage::Difficile, TMessage::Expert};
+#ifndef KELMOR_MODULES_RELATIF
+#define KELMOR_MODULES_RELATIF "../lib/kelmor"
+#endif
 
-QLineSeries *Série(QChart *graphique, const QColor &couleur, Qt::PenStyle trait)
-{
-    auto *s = new QLineSeries(graphique);
-    s->setPen(QPen(couleur, 2, trait));
-    s->setPointsVisible(trait == Qt::SolidLine);
-    graphique->addSeries(s);
-    return s;
-}
+namespace {
+const TMessage NomsNiveaux[] = {TMessage::Facile, TMessage::Moyen, TMessage::Difficile, TMessage::Expert};
 } // namespace
+
+FabriqueGraphique ModuleGraphique()
+{
+    // Installed, it stands in the library folder beside bin/; in a build, beside the program
+    // (or where the build put it, for the tests).
+    static const FabriqueGraphique fabrique = [] {
+        const QDir programme(QCoreApplication::applicationDirPath());
+        QStringList dossiers{programme.filePath(QStringLiteral(KELMOR_MODULES_RELATIF)), programme.path()};
+#ifdef KELMOR_MODULES_CONSTRUCTION
+        dossiers << QStringLiteral(KELMOR_MODULES_CONSTRUCTION);
+#endif
+        for (const QString &dossier : dossiers)
+            if (auto f = reinterpret_cast<FabriqueGraphique>(
+                    QLibrary::resolve(QDir(dossier).filePath(QStringLiteral("kelmor_graphique")), EntréeGraphique)))
+                return f;
+        return FabriqueGraphique(nullptr);
+    }();
+    return fabrique;
+}
 
 QList<QPointF> Moyennes(const QList<QPointF> &points, int nombre)
 {
@@ -64,23 +73,18 @@ Progression::Progression() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
     const TNiveau niveau = Jeu().Niveau != TNiveau::Aucun ? Jeu().Niveau : DernierNiveauFini(Jeu().NomJoueur, Réglages().FichierLancement);
     Niveaux->setCurrentIndex(std::clamp(Numéro(niveau), 1, 4) - 1);
 
-    auto *graphique = new QChart;
-    graphique->legend()->setAlignment(Qt::AlignBottom);
-    Scores = Série(graphique, CouleurScore, Qt::SolidLine);
-    Durées = Série(graphique, CouleurDurée, Qt::SolidLine);
-    Dixième = Série(graphique, CouleurDixième, Qt::DashLine);
-    auto *temps = new QDateTimeAxis(graphique);
-    temps->setFormat(QStringLiteral("dd/MM/yy"));
-    graphique->addAxis(temps, Qt::AlignBottom);
-    auto *points = new QValueAxis(graphique), *minutes = new QValueAxis(graphique);
-    graphique->addAxis(points, Qt::AlignLeft);
-    graphique->addAxis(minutes, Qt::AlignRight);
-    for (QLineSeries *s : {Scores, Durées, Dixième})
-        s->attachAxis(temps), s->attachAxis(s == Durées ? minutes : points);
-    Vue = new QChartView(graphique, this);
+    if (const FabriqueGraphique fabrique = ModuleGraphique()) {
+        graphique.reset(fabrique(this));
+        Vue = graphique->Vue();
+    } else {
+        // Without its module the chart can't be drawn; the streaks still are.
+        auto *absent = new QLabel(this);
+        absent->setAlignment(Qt::AlignCenter);
+        absent->setWordWrap(true);
+        absent->setMinimumSize(640, 400);
+        Vue = absent;
+    }
     Vue->setObjectName(QStringLiteral("ProgressionGraphique"));
-    Vue->setRenderHint(QPainter::Antialiasing);
-    Vue->setMinimumSize(640, 400);
 
     SériesTexte = new QLabel(this);
     SériesTexte->setObjectName(QStringLiteral("ProgressionSeries"));
@@ -112,14 +116,15 @@ void Progression::Libellés()
     setWindowTitle(Message(TMessage::Progression));
     for (int n = 0; n < 4; ++n)
         Niveaux->setTabText(n, Message(NomsNiveaux[n]));
-    Scores->setName(Message(TMessage::Score));
-    Durées->setName(Message(TMessage::DuréeMinutes));
-    Dixième->setName(Message(TMessage::DixièmeScore));
-    QChart *graphique = Vue->chart();
-    graphique->axes(Qt::Horizontal).front()->setTitleText(Message(TMessage::DatePartie));
-    graphique->axes(Qt::Vertical).front()->setTitleText(Message(TMessage::Score));
-    graphique->axes(Qt::Vertical).back()->setTitleText(Message(TMessage::DuréeMinutes));
-    graphique->setTitle(Parties.empty() ? Message(TMessage::AucunePartieFinie) : QString());
+    Courbes.NomScores = Courbes.AxeScores = Message(TMessage::Score);
+    Courbes.NomDurées = Courbes.AxeDurées = Message(TMessage::DuréeMinutes);
+    Courbes.NomDixième = Message(TMessage::DixièmeScore);
+    Courbes.AxeDates = Message(TMessage::DatePartie);
+    Courbes.Titre = Parties.empty() ? Message(TMessage::AucunePartieFinie) : QString();
+    if (graphique)
+        graphique->Trace(Courbes);
+    else
+        static_cast<QLabel *>(Vue)->setText(Message(TMessage::GraphiqueAbsent));
     const TSéries s = Séries(Parties, Maintenant().date());
     SériesTexte->setText(Message(TMessage::SériesJoueur).arg(s.Gagnées).arg(s.GagnéesRecord).arg(s.Jours).arg(s.JoursRecord));
     Image->setText(Message(TMessage::EnregistrerImage));
@@ -139,28 +144,21 @@ void Progression::Actualise()
         longue = std::max(longue, p.Durée / 60.0);
     }
     // Years of games make a line of averages; a few games, dots on it.
-    for (auto [série, points] : {std::pair{Scores, &scores}, std::pair{Durées, &durées}})
-        série->setPointsVisible(points->size() <= 200), série->replace(Moyennes(*points, 400));
+    Courbes.Points = scores.size() <= 200;
+    Courbes.Scores = Moyennes(scores, 400), Courbes.Durées = Moyennes(durées, 400);
     // The line to pass: the tenth of the best ten, once ten scores are kept.
     const int n = Numéro(Niveau());
     QDateTime début = Parties.empty() ? Maintenant() : Parties.front().Début, fin = Parties.empty() ? début : Parties.back().Début;
     if (début.secsTo(fin) < 86400)
         début = début.addSecs(-43200), fin = fin.addSecs(43200);
-    QList<QPointF> dixième;
+    Courbes.Dixième.clear();
     if (Jeu().NombreScores[n] >= 10) {
         const double seuil = Jeu().MeilleursScores[n][10].Points;
-        dixième << QPointF(début.toMSecsSinceEpoch(), seuil) << QPointF(fin.toMSecsSinceEpoch(), seuil);
+        Courbes.Dixième << QPointF(début.toMSecsSinceEpoch(), seuil) << QPointF(fin.toMSecsSinceEpoch(), seuil);
         bas = std::min(bas, seuil), haut = std::max(haut, seuil);
     }
-    Dixième->replace(dixième);
-    QChart *graphique = Vue->chart();
-    graphique->axes(Qt::Horizontal).front()->setRange(début, fin);
-    for (auto [axe, min, max] : {std::tuple{0, bas, haut * 1.05}, std::tuple{1, 0.0, longue * 1.1}}) {
-        auto *valeurs = static_cast<QValueAxis *>(graphique->axes(Qt::Vertical).at(axe));
-        valeurs->setRange(min, max);
-        valeurs->applyNiceNumbers();
-        valeurs->setLabelFormat(QStringLiteral("%.0f"));
-    }
+    Courbes.Début = début, Courbes.Fin = fin;
+    Courbes.Bas = bas, Courbes.Haut = haut * 1.05, Courbes.Longue = longue * 1.1;
     Libellés();
 }
 

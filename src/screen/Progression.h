@@ -2,16 +2,13 @@
 // "Ma progression": at one level, the player's scores and durations game after game, with the
 // tenth best score of the set in use as the line to pass to enter the best ten, and their
 // streaks; the picture can be written as a PNG file.
+#include "graphique/Graphique.h"
 #include "services/Historique.h"
 
 #include <QDialog>
-#include <QList>
-#include <QPointF>
+#include <memory>
 
-class QChart;
-class QChartView;
 class QLabel;
-class QLineSeries;
 class QPushButton;
 class QTabBar;
 
@@ -19,15 +16,18 @@ class QTabBar;
 // (within one), so that years of games draw at once and still show the trend.
 QList<QPointF> Moyennes(const QList<QPointF> &points, int nombre);
 
+// The chart's module, loaded once; nullptr when it can't be (the form then says so).
+FabriqueGraphique ModuleGraphique();
+
 class Progression : public QDialog {
 public:
     Progression();
     QTabBar *Niveaux;
-    QChartView *Vue;
-    QLineSeries *Scores, *Durées, *Dixième;
+    QWidget *Vue; // the chart, or what stands for it without its module
     QLabel *SériesTexte;
     QPushButton *Image;
     std::vector<TPartieFinie> Parties; // of the level shown
+    TCourbes Courbes; // what the chart shows
 
     TNiveau Niveau() const;
     // Reads the level's games and draws them.
@@ -40,6 +40,7 @@ protected:
 
 private:
     void Libellés();
+    std::unique_ptr<Graphique> graphique;
 };
 
 // Shows the form beside the main window (brought to the front when it is already open).

@@ -188,6 +188,7 @@ enum class TMessage : short {
     EnregistrerImage = 194, // Enregistrer l'image
     ImageEnregistrée = 195, // the chart was written in the file
     DatePartie = 196, // Date
+    GraphiqueAbsent = 197, // the chart's module can't be found
 };
 
 struct TLangues {

@@ -19,7 +19,7 @@ struct Ligne {
 
 constexpr Ligne Table[] = {
     // Highest message index, number of languages, then the help and information file of each language.
-    {1, "196"},
+    {1, "197"},
     {2, "2"},
     {11, "KELMOR.HLP"},
     {12, "DRAVELN.HLP"},
@@ -225,6 +225,7 @@ constexpr Ligne Table[] = {
     {1194, "Enregistrer l'image"},
     {1195, "Le graphique a été enregistré dans le fichier "},
     {1196, "Date"},
+    {1197, "Le graphique ne peut pas être dessiné : son module (kelmor_graphique) est introuvable. Réinstallez le jeu."},
 
     // The same messages in German, 250 above.
     {1250, "Version 6.07 vom 04/01/2008"},
@@ -424,6 +425,7 @@ constexpr Ligne Table[] = {
     {1444, "Bild speichern"},
     {1445, "Die Grafik wurde in der Datei gespeichert: "},
     {1446, "Datum"},
+    {1447, "Die Grafik kann nicht gezeichnet werden: ihr Modul (kelmor_graphique) fehlt. Installieren Sie das Spiel neu."},
 
     // Cantons: name#Région#PaysGauche#PaysHaut#plate. Numbers are read from these rows in every language.
     {2001, "Appenzell Rhodes Extérieures#0#440#99#AR"},

@@ -10,7 +10,6 @@
 #include "services/Reglages.h"
 
 #include <QLabel>
-#include <QLineSeries>
 
 #include <QPushButton>
 #include <QTabBar>
@@ -91,11 +90,12 @@ TEST_F(JeuTest, ProgressDrawsTheLevelsScoresAgainstTheTenthBestAndFollowsTheLang
     Jeu().NombreScores[3] = 10, Jeu().MeilleursScores[3][10].Points = 500;
     Progression f;
     ASSERT_EQ(f.Niveaux->currentIndex(), 2) << "at the level last played, no game under way";
-    ASSERT_EQ(f.Scores->points().size(), 2);
-    EXPECT_TRUE(f.Scores->at(1).y() == 900 && f.Durées->at(0).y() == 2.5 && f.Dixième->at(1).y() == 500);
+    ASSERT_EQ(f.Courbes.Scores.size(), 2);
+    EXPECT_TRUE(f.Courbes.Scores[1].y() == 900 && f.Courbes.Durées[0].y() == 2.5 && f.Courbes.Dixième[1].y() == 500);
+    EXPECT_TRUE(ModuleGraphique() && f.Vue->inherits("QChartView")) << "the chart's module found and drawing";
     EXPECT_EQ(f.SériesTexte->text(), "Parties gagnées d'affilée : 2 (record : 2) — jours de jeu d'affilée : 1 (record : 1)");
     f.Niveaux->setCurrentIndex(0);
-    EXPECT_TRUE(f.Scores->points().isEmpty() && f.Dixième->points().isEmpty()) << "nothing at the easy level, no best ten";
+    EXPECT_TRUE(f.Courbes.Scores.isEmpty() && f.Courbes.Dixième.isEmpty()) << "nothing at the easy level, no best ten";
     f.Niveaux->setCurrentIndex(2);
     const QList<QPointF> cinq{{0, 0}, {1, 10}, {2, 20}, {3, 30}, {4, 40}};
     EXPECT_TRUE(Moyennes(cinq, 5) == cinq && Moyennes(cinq, 2) == (QList<QPointF>{{0.5, 5}, {3, 30}})) << "years of games averaged";
@@ -103,6 +103,6 @@ TEST_F(JeuTest, ProgressDrawsTheLevelsScoresAgainstTheTenthBestAndFollowsTheLang
     EXPECT_TRUE(!image.isNull() && image.width() >= 640) << "written as a PNG that reads back";
     ChangeLangue(2);
     QCoreApplication::processEvents();
-    EXPECT_TRUE(f.windowTitle() == "Mein Fortschritt" && f.Niveaux->tabText(2) == Message(TMessage::Difficile) && f.Scores->name() == Message(TMessage::Score));
+    EXPECT_TRUE(f.windowTitle() == "Mein Fortschritt" && f.Niveaux->tabText(2) == Message(TMessage::Difficile) && f.Courbes.NomScores == Message(TMessage::Score));
     ChangeLangue(1);
 }
