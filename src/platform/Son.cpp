@@ -1,32 +1,19 @@
 #include "platform/Son.h"
 
-#include <QFileInfo>
-#include <QHash>
-#include <QSoundEffect>
-#include <QUrl>
+#include "platform/Modules.h"
+#include "son/Son.h"
 
 namespace {
 
-// One effect per file, made on first use: a missing file or a machine without
-// audio stays silent instead of failing.
+// The player of the sounds' module; without the module the game stays silent.
 class LecteurQt : public LecteurSons {
 public:
     void Joue(const QString &chemin) override
     {
-        if (!QFileInfo::exists(chemin))
-            return;
-        QSoundEffect *&effet = effets[chemin];
-        if (!effet) {
-            effet = new QSoundEffect();
-            effet->setSource(QUrl::fromLocalFile(chemin));
-        }
-        if (enCours && enCours != effet)
-            enCours->stop();
-        effet->play();
-        enCours = effet;
+        static const auto joue = reinterpret_cast<JoueurSon>(FonctionDuModule(QStringLiteral("kelmor_son"), EntréeSon));
+        if (joue)
+            joue(chemin);
     }
-    QHash<QString, QSoundEffect *> effets;
-    QSoundEffect *enCours = nullptr;
 };
 
 LecteurSons *lecteurActuel = nullptr;

@@ -6,22 +6,17 @@
 #include "results/PartieEnCours.h"
 #include "services/Chemins.h"
 #include "services/Langues.h"
+#include "platform/Modules.h"
 #include "services/Reglages.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
-#include <QDir>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLibrary>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTabBar>
 #include <QVBoxLayout>
-
-#ifndef KELMOR_MODULES_RELATIF
-#define KELMOR_MODULES_RELATIF "../lib/kelmor"
-#endif
 
 namespace {
 const TMessage NomsNiveaux[] = {TMessage::Facile, TMessage::Moyen, TMessage::Difficile, TMessage::Expert};
@@ -29,20 +24,7 @@ const TMessage NomsNiveaux[] = {TMessage::Facile, TMessage::Moyen, TMessage::Dif
 
 FabriqueGraphique ModuleGraphique()
 {
-    // Installed, it stands in the library folder beside bin/; in a build, beside the program
-    // (or where the build put it, for the tests).
-    static const FabriqueGraphique fabrique = [] {
-        const QDir programme(QCoreApplication::applicationDirPath());
-        QStringList dossiers{programme.filePath(QStringLiteral(KELMOR_MODULES_RELATIF)), programme.path()};
-#ifdef KELMOR_MODULES_CONSTRUCTION
-        dossiers << QStringLiteral(KELMOR_MODULES_CONSTRUCTION);
-#endif
-        for (const QString &dossier : dossiers)
-            if (auto f = reinterpret_cast<FabriqueGraphique>(
-                    QLibrary::resolve(QDir(dossier).filePath(QStringLiteral("kelmor_graphique")), EntréeGraphique)))
-                return f;
-        return FabriqueGraphique(nullptr);
-    }();
+    static const auto fabrique = reinterpret_cast<FabriqueGraphique>(FonctionDuModule(QStringLiteral("kelmor_graphique"), EntréeGraphique));
     return fabrique;
 }
 

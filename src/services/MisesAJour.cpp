@@ -1,5 +1,8 @@
 #include "services/MisesAJour.h"
 
+#include "reseau/Reseau.h"
+#include "platform/Modules.h"
+
 #include "platform/Ansi.h"
 #include "platform/Boites.h"
 #include "platform/Ecran.h"
@@ -11,9 +14,6 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QLocale>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QTimer>
@@ -50,12 +50,6 @@ int AnnéeComplète(const QString &chiffres)
     return chiffres.size() > 2 ? a : a < 30 ? 2000 + a : 1900 + a;
 }
 
-QNetworkAccessManager *GestionnaireRéseau()
-{
-    // Made at the first look at the page, not at start: most runs never fetch it.
-    static QNetworkAccessManager *gestionnaire = new QNetworkAccessManager(QCoreApplication::instance());
-    return gestionnaire;
-}
 } // namespace
 
 QString DécodePage(const QByteArray &octets)
@@ -291,38 +285,16 @@ void InstalleDélaiPage(std::chrono::milliseconds délai) { délaiPage = délai.
 QString ChargePage()
 {
     PointeurEcran(PointeurSablier);
-    QNetworkRequest demande(AdressePage());
-    demande.setTransferTimeout(int(délaiPage.count()));
-    QNetworkReply *réponse = GestionnaireRéseau()->get(demande);
-
-    QEventLoop boucle;
-    QTimer minuterie;
-    minuterie.setSingleShot(true);
-    bool tropLong = false;
-    QObject::connect(réponse, &QNetworkReply::finished, &boucle, &QEventLoop::quit);
-    QObject::connect(&minuterie, &QTimer::timeout, &boucle, &QEventLoop::quit);
-    // Past three bytes a character no page of the right length can go: no need to read on.
-    QObject::connect(réponse, &QNetworkReply::downloadProgress, &boucle, [&](qint64 reçus, qint64) {
-        if (reçus > 3 * LongueurMaxPage && !tropLong) {
-            tropLong = true;
-            réponse->abort();
-        }
-    });
-    if (!réponse->isFinished()) {
-        minuterie.start(délaiPage);
-        // The call blocks as a whole: the player's clicks wait for its end.
-        boucle.exec(QEventLoop::ExcludeUserInputEvents);
-    }
-    if (!réponse->isFinished())
-        réponse->abort();
-
+    // Without its module a page can't be had, as without a network.
+    static const auto télécharge = reinterpret_cast<TéléchargeurPage>(FonctionDuModule(QStringLiteral("kelmor_reseau"), EntréeRéseau));
+    QByteArray octets;
     QString page;
-    if (!tropLong && réponse->error() == QNetworkReply::NoError) {
-        page = DécodePage(réponse->readAll());
+    // Past three bytes a character no page of the right length can go.
+    if (télécharge && télécharge(AdressePage(), int(délaiPage.count()), 3 * LongueurMaxPage, &octets)) {
+        page = DécodePage(octets);
         if (page.size() > LongueurMaxPage)
             page.clear();
     }
-    réponse->deleteLater();
     PointeurEcran(PointeurNormal);
     return page;
 }

@@ -32,11 +32,13 @@ for f in ./usr/bin/kelmor ./usr/share/kelmor/KELMOR.pts ./usr/share/kelmor/KELMO
   ./usr/share/metainfo/org.example.kelmor.metainfo.xml ./usr/share/man/man6/kelmor.6; do
   grep -qxF "$f" <<<"$contenu" || echec "the package lacks $f"
 done
-# The chart's module, loaded when the chart is first shown, and Qt Charts that it needs.
-grep -q '^\./usr/lib/.*kelmor/kelmor_graphique\.so$' <<<"$contenu" || echec "the package lacks the chart's module"
+# The modules loaded when first needed, and the Qt libraries that they need.
+for m in graphique reseau son; do
+  grep -q "^\./usr/lib/.*kelmor/kelmor_$m\.so\$" <<<"$contenu" || echec "the package lacks the module kelmor_$m"
+done
 champ() { dpkg-deb -f "$deb" "$1"; }
 [ "$(champ Package) $(champ Version) $(champ Section)" = "kelmor 6.07 games" ] || echec "control: $(dpkg-deb -f "$deb")"
 champ Maintainer | grep -q 'kelmor@example.org' || echec "maintainer: $(champ Maintainer)"
 # The libraries come from shlibdeps, the platform plugin by hand.
-champ Depends | grep -q 'libqt6widgets6' && champ Depends | grep -q 'libqt6charts6' && champ Depends | grep -q 'qt6-qpa-plugins' || echec "depends: $(champ Depends)"
+champ Depends | grep -q 'libqt6widgets6' && champ Depends | grep -q 'libqt6charts6' && champ Depends | grep -q 'libqt6multimedia6' && champ Depends | grep -q 'qt6-qpa-plugins' || echec "depends: $(champ Depends)"
 echo "bureau: menu entry and metainfo valid, command line answered, $(basename "$deb") holds the installed tree"
