@@ -1,6 +1,7 @@
 #include "platform/Formes.h"
 
 #include <QDialog>
+#include <QEvent>
 
 namespace {
 std::function<int(QDialog &)> scriptModal;
@@ -37,4 +38,19 @@ void MontreÀCôté(QWidget *forme)
     forme->show();
     forme->raise();
     forme->activateWindow();
+}
+
+void FormeÀCôté::Actualise()
+{
+    sourceLue = Source();
+    Lit();
+}
+
+void FormeÀCôté::changeEvent(QEvent *e)
+{
+    if (e->type() == QEvent::LanguageChange)
+        Libellés();
+    else if (e->type() == QEvent::ActivationChange && isActiveWindow() && Source() != sourceLue)
+        Actualise();
+    QDialog::changeEvent(e);
 }

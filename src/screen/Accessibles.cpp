@@ -311,7 +311,6 @@ void InstalleAccessibilité(EcranPrincipal &E)
     if (!veilleur) {
         veilleur = new Veilleur;
         qApp->installEventFilter(veilleur);
-        QApplication::setStyle(new StyleLettres(QApplication::style()->name()));
         QAccessible::installFactory(FabriqueAnnonces);
     }
     NommeEcranPrincipal(E);
@@ -327,6 +326,13 @@ void InstalleAccessibilité(EcranPrincipal &E)
             QObject::connect(m, &QMenu::aboutToShow, m, [m] { PlaceMnémoniques(m); });
     PlaceMnémoniques(E.menuBar());
     HabilleAccessible(&E);
+}
+
+void InstalleLettresCachées()
+{
+    static bool installé = false;
+    if (!std::exchange(installé, true))
+        QApplication::setStyle(new StyleLettres(QApplication::style()->name()));
 }
 
 void Annonce(const QString &texte)

@@ -16,6 +16,9 @@ void InstalleAccessibilité(EcranPrincipal &E);
 // show underlined from a press of Alt to the next click.
 void PlaceMnémoniques(QWidget *menu);
 
+// The menus' letters hidden until Alt: before the first window, which then needs no second polish.
+void InstalleLettresCachées();
+
 // Tells a screen reader, without showing anything.
 void Annonce(const QString &texte);
 // How the click was judged; the question it brings is announced with it.

@@ -158,7 +158,7 @@ private:
     }
 };
 
-PointsFaibles::PointsFaibles() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
+PointsFaibles::PointsFaibles() : FormeÀCôté(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("PointsFaibles"));
     setWindowTitle(Message(TMessage::PointsFaibles));
@@ -236,16 +236,9 @@ void PointsFaibles::Libellés()
     Exporter->setText(Message(TMessage::ExporterCSV));
 }
 
-void PointsFaibles::changeEvent(QEvent *e)
-{
-    if (e->type() == QEvent::LanguageChange)
-        Libellés();
-    else if (e->type() == QEvent::ActivationChange && isActiveWindow())
-        Actualise();
-    QDialog::changeEvent(e);
-}
+QString PointsFaibles::Source() const { return SourceHistorique(Jeu().NomJoueur); }
 
-void PointsFaibles::Actualise()
+void PointsFaibles::Lit()
 {
     Bilan = BilanErreurs(Jeu().NomJoueur, PartiesChoisies[std::max(Parties->currentIndex(), 0)]);
     Carte->update();

@@ -2,10 +2,10 @@
 // "Mes points faibles": the map of the 26 cantons tinted by how often the player missed each
 // one, for one kind of question at a time, over their last 10 or 50 games or all of them.
 // The pointer over a canton gives its figures; a click opens its information card.
+#include "platform/Formes.h"
 #include "services/Historique.h"
 
 #include <QColor>
-#include <QDialog>
 
 class QComboBox;
 class QLabel;
@@ -22,7 +22,7 @@ std::vector<i16> CantonsÀRejouer(const TBilan &bilan, int étape);
 
 
 
-class PointsFaibles : public QDialog {
+class PointsFaibles : public FormeÀCôté {
 public:
     PointsFaibles();
     QTabBar *Etapes;
@@ -31,15 +31,14 @@ public:
     QPushButton *Rejouer, *Exporter;
     std::vector<QLabel *> Cases; // the legend's five steps
     QWidget *Carte; // the tinted map
-    // Reads the figures for the kind and the range chosen, and repaints the map.
-    void Actualise();
-    // The form's words in the language in use.
-    void Libellés();
     TBilan Bilan{};
 
 protected:
-    // Open beside the game: the figures follow the games played meanwhile, the words the language.
-    void changeEvent(QEvent *e) override;
+    // The form's words in the language in use.
+    void Libellés() override;
+    // Reads the figures for the kind and the range chosen, and repaints the map.
+    void Lit() override;
+    QString Source() const override;
 };
 
 // Shows the form beside the main window (brought to the front when it is already open).

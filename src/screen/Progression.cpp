@@ -44,7 +44,7 @@ QList<QPointF> Moyennes(const QList<QPointF> &points, int nombre)
     return moyennes;
 }
 
-Progression::Progression() : QDialog(FenêtrePrincipale(), CadreDialogueFixe)
+Progression::Progression() : FormeÀCôté(FenêtrePrincipale(), CadreDialogueFixe)
 {
     setObjectName(QStringLiteral("Progression"));
     Niveaux = new QTabBar(this);
@@ -112,7 +112,7 @@ void Progression::Libellés()
     Image->setText(Message(TMessage::EnregistrerImage));
 }
 
-void Progression::Actualise()
+void Progression::Lit()
 {
     Parties = PartiesFinies(Jeu().NomJoueur, Niveau(), Réglages().FichierLancement);
     QList<QPointF> scores, durées;
@@ -160,13 +160,11 @@ QString Progression::EnregistreImage()
     return {};
 }
 
-void Progression::changeEvent(QEvent *e)
+QString Progression::Source() const
 {
-    if (e->type() == QEvent::LanguageChange)
-        Libellés();
-    else if (e->type() == QEvent::ActivationChange && isActiveWindow())
-        Actualise();
-    QDialog::changeEvent(e);
+    // The tenth best score too: a reset of the scores moves the line without any game.
+    const int n = Numéro(Niveau());
+    return SourceHistorique(Jeu().NomJoueur) + Réglages().FichierLancement + QString::number(Jeu().NombreScores[n] >= 10 ? Jeu().MeilleursScores[n][10].Points : -1);
 }
 
 void MontreProgression()

@@ -5,7 +5,8 @@
 #include "graphique/Graphique.h"
 #include "services/Historique.h"
 
-#include <QDialog>
+#include "platform/Formes.h"
+
 #include <memory>
 
 class QLabel;
@@ -19,7 +20,7 @@ QList<QPointF> Moyennes(const QList<QPointF> &points, int nombre);
 // The chart's module, loaded once; nullptr when it can't be (the form then says so).
 FabriqueGraphique ModuleGraphique();
 
-class Progression : public QDialog {
+class Progression : public FormeÀCôté {
 public:
     Progression();
     QTabBar *Niveaux;
@@ -30,16 +31,16 @@ public:
     TCourbes Courbes; // what the chart shows
 
     TNiveau Niveau() const;
-    // Reads the level's games and draws them.
-    void Actualise();
     // Writes the chart as it is shown, at the screen's scale, beside the game's files.
     QString EnregistreImage();
 
 protected:
-    void changeEvent(QEvent *e) override;
+    void Libellés() override;
+    // Reads the level's games and draws them.
+    void Lit() override;
+    QString Source() const override;
 
 private:
-    void Libellés();
     std::unique_ptr<Graphique> graphique;
 };
 

@@ -146,6 +146,7 @@ void RelieEcranPrincipal(EcranPrincipal &E)
 
 bool Main()
 {
+    InstalleLettresCachées();
     // A first run asks for the game's folder before the window is there.
     InstalleChoixDossier(MontreParamétrageRépertoires);
     FenêtreAjustée().HauteurFenêtre = 0;

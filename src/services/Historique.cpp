@@ -9,6 +9,8 @@
 
 namespace {
 const QString Connexion = QStringLiteral("historique");
+// Each opening and each game's notes written count one: what a form read may be stale since.
+int écritures = 0;
 
 // Each step brings the tables from the version before it to its own.
 const char *const Migrations[VersionHistorique] = {
@@ -77,6 +79,7 @@ QSqlError Prépare(const QString &chemin)
 
 TOuvertureHistorique OuvreHistorique(const QString &chemin, QString *détail)
 {
+    ++écritures;
     FermeHistorique();
     QSqlError e = Prépare(chemin);
     if (!e.isValid())
@@ -107,6 +110,11 @@ void FermeHistorique()
         return;
     Base().close();
     QSqlDatabase::removeDatabase(Connexion);
+}
+
+QString SourceHistorique(const QString &joueur)
+{
+    return QStringLiteral("%1|%2|%3").arg(HistoriqueOuvert() ? Base().databaseName() : QString()).arg(écritures).arg(joueur);
 }
 
 bool HistoriqueOuvert() { return QSqlDatabase::contains(Connexion) && Base().isOpen(); }
@@ -158,7 +166,7 @@ bool EnregistreHistorique(qint64 partie, const std::vector<TQuestionJouée> &que
         p.addBindValue(v);
     fait = fait && p.exec() && p.numRowsAffected() == 1;
     if (fait && base.commit())
-        return true;
+        return ++écritures, true;
     base.rollback();
     return false;
 }

@@ -36,6 +36,10 @@ TOuvertureHistorique OuvreHistorique(const QString &chemin, QString *détail = n
 void FermeHistorique();
 bool HistoriqueOuvert();
 
+// What a player's figures are read from: the file, its writes so far and the player, so that a
+// form shows them again only when they may have changed.
+QString SourceHistorique(const QString &joueur);
+
 // A new game's record; 0 without history.
 qint64 CommencePartieHistorique(const TPartieJouée &partie);
 // Adds the questions to the game's record and sets where it stands, in one transaction.
